@@ -2,34 +2,23 @@
 // CBrushStyleControlL.
 //
 // Brush styles are identifiers of table entries. The first item is kBrushStyleNone, no brush; filling the control never
-// selects it. kBrushStyleIndeterminate stands for multiple values. All items are drawn with one sample graphic and one
-// viewport.
+// selects it. kBrushStyleIndeterminate stands for multiple values.
 #pragma once
 
-#include "orlo/controls/combo_control.h"
-#include "orlo/samples/style_sample.h"
+#include "orlo/controls/style_control.h"
 
-class ORLO_API CBrushStyleControlC : public CComboControl {
+class ORLO_API CBrushStyleControlC : public StyleControl<CComboControl> {
     DECLARE_DYNCREATE(CBrushStyleControlC)
     friend CWnd* CreateComboObject(HWND hWnd, int nID);
-    friend struct StyleControl;
 
 public:
     CBrushStyleControlC();
     ~CBrushStyleControlC() override;
 
-    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
-    void FillControl(WPARAM wParam, LPARAM lParam) override;
-    CString DescribeItem(int index) override;
 
 protected:
     CBrushStyleControlC(HWND hWnd);
-    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
-
-    // Created with the window, or when first filled if the control subclasses an existing window.
-    SampleGraphic m_pGraphic;
-    SampleViewport m_pViewport;
 
     DECLARE_MESSAGE_MAP()
 };

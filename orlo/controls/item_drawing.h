@@ -75,15 +75,6 @@ unsigned int RequestedStyle(Control& control, const DRAWITEMSTRUCT& item, char* 
     return static_cast<unsigned int>(control.GetControlItem(static_cast<int>(item.itemID), name));
 }
 
-// A style shown by an item.
-struct StyleItem {
-    unsigned int style; // identifier
-    const char* name;
-    TableStruct* table;     // table of the styles; if null, only styles with a name supplied by the host can be shown
-    GraphicStruct* graphic; // the sample; without a sample or a viewport, the name is shown
-    ViewportStruct* viewport;
-};
-
 // An item that is a plain name without a key.
 struct PlainItem {
     unsigned int number; // one-based position in the list, or m_nSelected in a request without an item; 0 if unreadable

@@ -5,30 +5,22 @@
 // item, kLineStyleByLayer, follows the entries.
 #pragma once
 
-#include "orlo/controls/combo_control.h"
-#include "orlo/samples/style_sample.h"
+#include "orlo/controls/style_control.h"
 
-class ORLO_API CLineStyleControlC : public CComboControl {
+class ORLO_API CLineStyleControlC : public StyleControl<CComboControl> {
     DECLARE_DYNCREATE(CLineStyleControlC)
     friend CWnd* CreateComboObject(HWND hWnd, int nID);
-    friend struct StyleControl;
 
 public:
     explicit CLineStyleControlC(int bAddDefaultItem = 1);
     ~CLineStyleControlC() override;
 
-    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
     void FillControl(WPARAM wParam, LPARAM lParam) override;
-    CString DescribeItem(int index) override;
 
 protected:
     CLineStyleControlC(HWND hWnd, int bAddDefaultItem);
-    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
-    // Created with the window, or when first filled if the control subclasses an existing window.
-    SampleGraphic m_pGraphic;
-    SampleViewport m_pViewport;
     int m_bAddDefaultItem;
 
     DECLARE_MESSAGE_MAP()

@@ -2,8 +2,7 @@
 
 #include "orlo/controls/line_style_control_l.h"
 
-#include "orlo/controls/line_style_item.h"
-#include "orlo/controls/style_control.h"
+#include "orlo/controls/line_styles.h"
 #include "orlo/win/screen_scale.h"
 
 namespace {
@@ -20,38 +19,16 @@ BEGIN_MESSAGE_MAP(CLineStyleControlL, CListControl)
 ON_WM_CREATE()
 END_MESSAGE_MAP()
 
-CLineStyleControlL::CLineStyleControlL() : CListControl(kKind) {
+CLineStyleControlL::CLineStyleControlL() : StyleControl(kKind, kListLineStyles) {
     m_nHeight = kHeight;
 }
 
-CLineStyleControlL::CLineStyleControlL(HWND hWnd) : CListControl(kKind, hWnd) {
+CLineStyleControlL::CLineStyleControlL(HWND hWnd) : StyleControl(kKind, hWnd, kListLineStyles) {
     m_nHeight = kHeight;
 }
 
-CLineStyleControlL::~CLineStyleControlL() {
-    StyleControl::DisposeSample(*this);
-}
-
-int CLineStyleControlL::OnCreate(LPCREATESTRUCT lpCreateStruct) {
-    return StyleControl::Create(*this, [=] { return MakeListLineSample(lpCreateStruct->cx); });
-}
-
-void CLineStyleControlL::FillControl(WPARAM, LPARAM lParam) {
-    StyleControl::Fill(
-        *this, lParam, [this] { return MakeListLineSample(WindowSize(m_hWnd).cx); },
-        [this](auto add) { ForEachLineStyle(m_pTable, true, add); });
-}
+CLineStyleControlL::~CLineStyleControlL() = default;
 
 void CLineStyleControlL::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
     pMIS->itemHeight = static_cast<UINT>(ScreenPixels(kRowHeight));
-}
-
-void CLineStyleControlL::DrawItem(DRAWITEMSTRUCT* pDIS) {
-    StyleControl::DrawItem(*this, *pDIS, {0, 0},
-                           [pDIS](const StyleItem& item) { return DrawLineStyleItem(*pDIS, kListLineLayout, item); });
-}
-
-CString CLineStyleControlL::DescribeItem(int index) {
-    const CString style = StyleControl::NameWithoutItem(*this, index);
-    return style.IsEmpty() ? CListControl::DescribeItem(index) : style;
 }

@@ -2,30 +2,20 @@
 // CLineStyleControlC. The default item is always last.
 #pragma once
 
-#include "orlo/controls/list_control.h"
-#include "orlo/samples/style_sample.h"
+#include "orlo/controls/style_control.h"
 
-class ORLO_API CLineStyleControlL : public CListControl {
+class ORLO_API CLineStyleControlL : public StyleControl<CListControl> {
     DECLARE_DYNCREATE(CLineStyleControlL)
     friend CWnd* CreateListObject(HWND hWnd, int nID);
-    friend struct StyleControl;
 
 public:
     CLineStyleControlL();
     ~CLineStyleControlL() override;
 
-    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
     void MeasureItem(MEASUREITEMSTRUCT* pMIS) override;
-    void FillControl(WPARAM wParam, LPARAM lParam) override;
-    CString DescribeItem(int index) override;
 
 protected:
     CLineStyleControlL(HWND hWnd);
-    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
-
-    // Created with the window, or when first filled if the control subclasses an existing window.
-    SampleGraphic m_pGraphic;
-    SampleViewport m_pViewport;
 
     DECLARE_MESSAGE_MAP()
 };

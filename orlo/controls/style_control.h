@@ -1,62 +1,38 @@
-// Shared implementation of the combo boxes and list boxes of styles. Internal to the library.
+// StyleControl: the common base of the combo boxes and list boxes of styles. Each item is shown by a sample that the
+// host draws; all items are drawn with one sample graphic and one viewport.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
-#include "orlo/controls/fill_scope.h"
-#include "orlo/controls/item_drawing.h"
 #include "orlo/controls/list_control.h"
-#include "orlo/controls/table_control.h"
 #include "orlo/samples/style_sample.h"
 
-// A friend of the four controls, each of which has a sample (m_pGraphic, m_pViewport). make() creates a sample.
-struct StyleControl {
-    // Handles WM_CREATE.
-    template <class Control, class Make>
-    static int Create(Control& control, Make make) {
-        if (control.Default() == -1) return -1;
-        control.m_pGraphic = make();
-        control.m_pViewport.reset(::ViewportNewEx());
-        return 0;
-    }
+class StyleKind;
 
-    // The graphic is freed first, because it depends on the viewport.
-    template <class Control>
-    static void DisposeSample(Control& control) {
-        control.m_pGraphic.reset();
-        control.m_pViewport.reset();
-    }
+// Control: CComboControl or CListControl.
+template <class Control>
+class StyleControl : public Control {
+public:
+    ~StyleControl() override;
 
-    // Handles the fill message; addAll(add) calls add(text) for each item.
-    template <class Control, class Make, class AddAll>
-    static void Fill(Control& control, LPARAM lParam, Make make, AddAll addAll) {
-        const FillScope scope(control.m_hWnd);
-        const bool hasTable = BeginFill(control, lParam);
-        AttachSample(control.m_pGraphic, control.m_pViewport, control.m_pTable, make);
-        if (!hasTable) return;
-        addAll([&](const char* text) { AddItem(control, text); });
-        control.SetCurSel(control.FindItem(control.m_nSelected));
-    }
+    void DrawItem(DRAWITEMSTRUCT* pDIS) override;
+    void FillControl(WPARAM wParam, LPARAM lParam) override;
+    // Returns the name of the style that a field without a selected item shows.
+    CString DescribeItem(int index) override;
 
-    // Returns the name of the style that a field without a selected item shows, or an empty string.
-    template <class Control>
-    static CString NameWithoutItem(const Control& control, int index) {
-        char name[kItemTextSize] = "";
-        if (index < 0 && control.m_pTable && IsTableIdentifier(control.m_nSelected))
-            ::TableEntryGetName(control.m_pTable, static_cast<uint16_t>(control.m_nSelected), name, kEntryNameSize);
-        return name;
-    }
+protected:
+    // kind exists as long as the control.
+    StyleControl(unsigned int nControlID, const StyleKind& kind) : Control(nControlID), m_kind(kind) {}
+    StyleControl(unsigned int nControlID, HWND hWnd, const StyleKind& kind) : Control(nControlID, hWnd), m_kind(kind) {}
 
-    // draw(StyleItem) draws a whole item and returns false if neither selection nor focus should be drawn.
-    template <class Control, class Draw>
-    static void DrawItem(Control& control, const DRAWITEMSTRUCT& request, SIZE beyond, Draw draw) {
-        DrawRequest(request, beyond, [&] {
-            char name[kItemTextSize];
-            const unsigned int style = RequestedStyle(control, request, name);
-            return draw({style, name, control.m_pTable, control.m_pGraphic.get(), control.m_pViewport.get()});
-        });
-    }
+    afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
+
+    // Created with the window, or when first filled if the control subclasses an existing window.
+    SampleGraphic m_pGraphic;
+    SampleViewport m_pViewport;
 
 private:
-    static void AddItem(CComboControl& control, const char* text) { control.AddControlItem(text); }
-    static void AddItem(CListControl& control, const char* text) { control.AddString(text); }
+    const StyleKind& m_kind;
 };
+
+extern template class ORLO_API StyleControl<CComboControl>;
+extern template class ORLO_API StyleControl<CListControl>;

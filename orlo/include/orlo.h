@@ -29,6 +29,7 @@
 #include "orlo/controls/line_style_control_c.h"
 #include "orlo/controls/line_style_control_l.h"
 #include "orlo/controls/list_control.h"
+#include "orlo/controls/style_control.h"
 #include "orlo/controls/style_name_control.h"
 #include "orlo/entry/entry.h"
 #include "orlo/exchange/ddp.h"
