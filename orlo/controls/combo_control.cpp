@@ -119,6 +119,70 @@ LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 
 } // namespace
 
+// The part of a combo box that is not in its interface: the names of its items, the choice that Escape restores, and
+// the window of its list.
+class ComboState {
+public:
+    explicit ComboState(CComboControl& combo) : m_combo(combo) {}
+
+    void RecordChoice() { m_choice = GetChoice(); }
+    void RestoreChoice() const;
+    // Gives the list its own accessibility object, without which it would expose its items with their keys.
+    void WatchList();
+    // Makes the list as wide as the widest name, if the control draws names.
+    void FitListWidth();
+
+    ItemNames names;
+
+private:
+    struct Choice {
+        int index = -1;
+        CString text; // only for an edit field
+    };
+    Choice GetChoice() const;
+
+    CComboControl& m_combo;
+    Choice m_choice;
+    std::unique_ptr<DropList> m_list;
+};
+
+ComboState::Choice ComboState::GetChoice() const {
+    Choice choice;
+    choice.index = m_combo.GetCurSel();
+    if (!IsDropDownList(m_combo.m_hWnd)) m_combo.GetWindowText(choice.text);
+    return choice;
+}
+
+// With an edit field, the text decides: the open list selects the item that begins with it.
+void ComboState::RestoreChoice() const {
+    const Choice now = GetChoice();
+    const bool edit = !IsDropDownList(m_combo.m_hWnd);
+    if (edit ? now.text == m_choice.text : now.index == m_choice.index) return;
+    m_combo.SetCurSel(m_choice.index);
+    if (edit) m_combo.SetWindowText(m_choice.text);
+    NotifySelectionChange(m_combo.m_hWnd);
+}
+
+void ComboState::WatchList() {
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    if ((m_list && m_list->m_hWnd) || !::GetComboBoxInfo(m_combo.m_hWnd, &info) || !info.hwndList) return;
+    m_list = std::make_unique<DropList>(m_combo);
+    m_list->SubclassWindow(info.hwndList);
+}
+
+void ComboState::FitListWidth() {
+    const orlo::WindowDC dc(m_combo.m_hWnd);
+    const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(m_combo.SendMessage(WM_GETFONT)));
+    if (m_combo.MeasureNameWidth(dc.get(), "") == 0) return;
+    int widest = 0;
+    for (const std::string& name : names.Of(ControlItems::OfCombo(m_combo.m_hWnd)))
+        widest = std::max(widest, m_combo.MeasureNameWidth(dc.get(), name.c_str()));
+    const int frame = 2 * ::GetSystemMetrics(SM_CXBORDER) + ::GetSystemMetrics(SM_CXVSCROLL);
+    const int width = std::min(widest + frame, ::GetSystemMetrics(SM_CXSCREEN) / 2);
+    m_combo.SendMessage(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width));
+}
+
 WNDPROC CComboControl::lpfnSuperWndProc = nullptr;
 
 IMPLEMENT_DYNAMIC(CComboControl, CComboBox)
@@ -138,10 +202,10 @@ CComboControl* ComboControlOf(HWND window) {
 }
 
 CComboControl::CComboControl(unsigned int nControlID)
-    : m_nControlID(nControlID), m_names(std::make_unique<ItemNames>()) {}
+    : m_nControlID(nControlID), m_state(std::make_unique<ComboState>(*this)) {}
 
 CComboControl::CComboControl(unsigned int nControlID, HWND hWnd)
-    : m_nControlID(nControlID), m_bAutoDelete(1), m_names(std::make_unique<ItemNames>()) {
+    : m_nControlID(nControlID), m_bAutoDelete(1), m_state(std::make_unique<ComboState>(*this)) {
     if (!CWnd::FromHandlePermanent(hWnd)) Attach(hWnd);
 }
 
@@ -184,38 +248,21 @@ void CComboControl::PostNcDestroy() {
 
 LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const ControlItems items = ControlItems::OfCombo(m_hWnd);
-    m_names->Watch(items, message);
+    m_state->names.Watch(items, message);
     if (message == WM_GETOBJECT) {
         if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
     }
-    if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
+    if (message == WM_CHAR && TypeAhead(m_hWnd, items, m_state->names, wParam)) return 0;
     // Not at CBN_DROPDOWN, which only the parent receives.
     if (OpensList(message, wParam) && !GetDroppedState()) {
         SizeDropDown();
-        m_choice = GetChoice();
+        m_state->RecordChoice();
     }
     const bool cancels = message == WM_KEYDOWN && wParam == VK_ESCAPE && GetDroppedState();
     const LRESULT result = CComboBox::WindowProc(message, wParam, lParam);
-    if (cancels) RestoreChoice();
+    if (cancels) m_state->RestoreChoice();
     if (items.IsSelection(message)) NotifyValueChange(m_hWnd);
     return result;
-}
-
-CComboControl::Choice CComboControl::GetChoice() const {
-    Choice choice;
-    choice.index = GetCurSel();
-    if (!IsDropDownList(m_hWnd)) GetWindowText(choice.text);
-    return choice;
-}
-
-// With an edit field, the text decides: the open list selects the item that begins with it.
-void CComboControl::RestoreChoice() {
-    const Choice now = GetChoice(), before = m_choice;
-    const bool edit = !IsDropDownList(m_hWnd);
-    if (edit ? now.text == before.text : now.index == before.index) return;
-    SetCurSel(before.index);
-    if (edit) SetWindowText(before.text);
-    NotifySelectionChange(m_hWnd);
 }
 
 CString CComboControl::DescribeItem(int index) {
@@ -224,17 +271,8 @@ CString CComboControl::DescribeItem(int index) {
     return index >= 0 || GetCount() <= 0 ? CString(name) : LibraryText(IDS_VARIED);
 }
 
-// Without its own accessibility object, the list would expose its items with their keys.
-void CComboControl::WatchDropList() {
-    COMBOBOXINFO info = {};
-    info.cbSize = sizeof info;
-    if ((m_dropList && m_dropList->m_hWnd) || !::GetComboBoxInfo(m_hWnd, &info) || !info.hwndList) return;
-    m_dropList = std::make_unique<DropList>(*this);
-    m_dropList->SubclassWindow(info.hwndList);
-}
-
 void CComboControl::SizeDropDown() {
-    WatchDropList();
+    m_state->WatchList();
     RECT rect = {};
     ::GetWindowRect(m_hWnd, &rect);
     const int row = std::max(MeasuredRow(*this), 1);
@@ -247,22 +285,11 @@ void CComboControl::SizeDropDown() {
     SetControlHeight(m_hWnd, m_nDropHeight);
     // Common controls 6 show 30 rows regardless of the list's height unless this is set.
     SendMessage(kSetMinVisible, static_cast<WPARAM>(std::max((m_nDropHeight - frame) / row, 1)));
-    FitDropWidth();
+    m_state->FitListWidth();
 }
 
 int CComboControl::MeasureNameWidth(HDC, const char*) {
     return 0;
-}
-
-void CComboControl::FitDropWidth() {
-    const orlo::WindowDC dc(m_hWnd);
-    const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    if (MeasureNameWidth(dc.get(), "") == 0) return;
-    int widest = 0;
-    for (const std::string& name : m_names->Of(ControlItems::OfCombo(m_hWnd)))
-        widest = std::max(widest, MeasureNameWidth(dc.get(), name.c_str()));
-    const int frame = 2 * ::GetSystemMetrics(SM_CXBORDER) + ::GetSystemMetrics(SM_CXVSCROLL);
-    SendMessage(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(std::min(widest + frame, ::GetSystemMetrics(SM_CXSCREEN) / 2)));
 }
 
 unsigned long CComboControl::GetControlItem(int index, char* text) {
@@ -308,7 +335,7 @@ void CComboControl::OnLButtonDown(UINT nFlags, CPoint point) {
 
 LRESULT CComboControl::OnFillMessage(WPARAM wParam, LPARAM lParam) {
     FillControl(wParam, lParam);
-    m_choice = GetChoice();
+    m_state->RecordChoice();
     return 0;
 }
 

@@ -37,7 +37,7 @@
 // the control's window.
 enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
 
-class ItemNames;
+class ComboState;
 
 class ORLO_API CComboControl : public CComboBox {
     DECLARE_DYNAMIC(CComboControl)
@@ -108,19 +108,9 @@ protected:
     virtual int MeasureNameWidth(HDC dc, const char* name);
 
 private:
-    struct Choice {
-        int index = -1;
-        CString text; // only for an edit field
-    };
-    void WatchDropList();
-    Choice GetChoice() const;
-    void RestoreChoice();
-    void FitDropWidth();
-
+    friend class ComboState;
     bool m_beingCreated = false; // the window; stays false if a window is subclassed
-    std::unique_ptr<ItemNames> m_names;
-    Choice m_choice;                  // when the list was opened
-    std::unique_ptr<CWnd> m_dropList; // the window of the list
+    std::unique_ptr<ComboState> m_state;
 };
 
 // Returns the object of that window, or null if it is not a CComboControl.

@@ -25,6 +25,42 @@ float FloatOf(UINT_PTR bits) {
     return value;
 }
 
+void WatchEditField(CFontSizeControl& control) {
+    if (!control.m_editSize.m_hWnd && ::GetDlgItem(control.m_hWnd, kEditField))
+        control.m_editSize.SubclassDlgItem(kEditField, &control);
+}
+
+// Reads drawing, font and coordinate space from the table. Returns false if there are no sizes to list.
+bool TakeDrawing(CFontSizeControl& control) {
+    DrawingStruct* const drawing = ::TableGetOwner(control.m_pTable);
+    control.m_pDrawing = drawing;
+    if (!drawing) return false;
+    char font[0x100] = "";
+    ::TableGetStringVar(drawing->pUnits, kUnitFontName, font, sizeof font);
+    control.m_strFontName = font;
+    if (control.m_strFontName.IsEmpty() || !drawing->pApplication) return false;
+    control.m_nCoordSpace = ::DrawingGetCoordSpace(drawing);
+    return true;
+}
+
+// A closed combo box shows the height with its text selected, ready to be overwritten. A height that has no text is not
+// shown.
+void Show(CFontSizeControl& control, double size) {
+    CString text;
+    control.FontSizeText(size, text);
+    if (text.IsEmpty()) {
+        control.SetCurSel(-1);
+        return;
+    }
+    const int index = ControlItems::OfCombo(control.m_hWnd).FindOrAdd(text);
+    if (control.GetDroppedState()) {
+        control.SetCurSel(index);
+    } else {
+        ::SetWindowTextA(control.m_hWnd, text);
+        control.SendMessage(CB_SETEDITSEL, 0, -1);
+    }
+}
+
 } // namespace
 
 WNDPROC CEnterEdit::lpfnSuperWndProc = nullptr;
@@ -70,19 +106,15 @@ CFontSizeControl::~CFontSizeControl() = default;
 int CFontSizeControl::OnCreate(LPCREATESTRUCT) {
     const int result = static_cast<int>(Default());
     if (result == -1) return -1;
-    WatchEditField();
+    WatchEditField(*this);
     return result;
 }
 
-void CFontSizeControl::WatchEditField() {
-    if (!m_editSize.m_hWnd && ::GetDlgItem(m_hWnd, kEditField)) m_editSize.SubclassDlgItem(kEditField, this);
-}
-
 void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
-    WatchEditField(); // a subclassed window was created without this object
+    WatchEditField(*this); // a subclassed window was created without this object
     const FillScope scope(m_hWnd);
     m_pDrawing = nullptr; // the host may be about to close it
-    if (!BeginFill(*this, lParam) || !TakeDrawing()) return;
+    if (!BeginFill(*this, lParam) || !TakeDrawing(*this)) return;
     const FontListRequest request = {this, m_strFontName};
     FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(&request));
 
@@ -90,37 +122,7 @@ void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
     if (!IsTableIdentifier(m_nSelected) || size == 0.0f)
         SetCurSel(-1);
     else
-        Show(size);
-}
-
-// Reads drawing, font and coordinate space from the table. Returns false if there are no sizes to list.
-bool CFontSizeControl::TakeDrawing() {
-    m_pDrawing = ::TableGetOwner(m_pTable);
-    if (!m_pDrawing) return false;
-    char font[0x100] = "";
-    ::TableGetStringVar(m_pDrawing->pUnits, kUnitFontName, font, sizeof font);
-    m_strFontName = font;
-    if (m_strFontName.IsEmpty() || !m_pDrawing->pApplication) return false;
-    m_nCoordSpace = ::DrawingGetCoordSpace(m_pDrawing);
-    return true;
-}
-
-// A closed combo box shows the height with its text selected, ready to be overwritten. A height that has no text is not
-// shown.
-void CFontSizeControl::Show(double size) {
-    CString text;
-    FontSizeText(size, text);
-    if (text.IsEmpty()) {
-        SetCurSel(-1);
-        return;
-    }
-    const int index = ControlItems::OfCombo(m_hWnd).FindOrAdd(text);
-    if (GetDroppedState()) {
-        SetCurSel(index);
-    } else {
-        ::SetWindowTextA(m_hWnd, text);
-        SendMessage(CB_SETEDITSEL, 0, -1);
-    }
+        Show(*this, size);
 }
 
 void CFontSizeControl::ReConvertFontSize(const char* text, double& value) {

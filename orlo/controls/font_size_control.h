@@ -58,9 +58,4 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCTA lpCreateStruct);
 
     DECLARE_MESSAGE_MAP()
-
-private:
-    void WatchEditField();
-    bool TakeDrawing();
-    void Show(double size);
 };

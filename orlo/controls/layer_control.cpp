@@ -49,6 +49,42 @@ int DrawChip(HDC dc, int x, const RECT& row, COLORREF color, COLORREF frame) {
     return size;
 }
 
+HICON LoadLayerIcon(int id) {
+    return ::LoadIconA(LibraryModule(), MAKEINTRESOURCEA(id));
+}
+
+// A layer of a drawing. Has no drawing if a control shows none.
+struct ShownLayer {
+    DrawingStruct* drawing = nullptr;
+    uint16_t id = 0;
+    char name[kItemTextSize] = "";
+
+    ShownLayer(const CLayerControl& control, unsigned long number, const char* itemName) {
+        if (!control.m_pTable || !IsTableIdentifier(number)) return;
+        drawing = ::TableGetOwner(control.m_pTable);
+        id = static_cast<uint16_t>(number);
+        if (*itemName)
+            ::lstrcpynA(name, itemName, sizeof name);
+        else
+            ::TableEntryGetName(control.m_pTable, id, name, kEntryNameSize);
+    }
+    bool IsVisible() const { return ::LayerGetVisible(drawing, id) != 0; }
+    bool IsReadOnly() const { return ::LayerGetReadOnly(drawing, id) != 0; }
+};
+
+// Draws the name after the columns of icons.
+void DrawLayerName(const DRAWITEMSTRUCT& request, const ShownLayer& layer) {
+    const RECT& rect = request.rcItem;
+    const COLORREF color = ::LayerGetColor(layer.drawing, layer.id);
+    const bool hasColor = color != kColorNone, readable = hasColor && IsReadable(request.hDC, color);
+    const bool plain = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
+    const COLORREF textColor = plain ? TextColorOnWindow() : ColorsOf(request).text;
+    int x = rect.left + 2 * ColumnWidth() + ScreenPixels(kGap);
+    if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, textColor) + ScreenPixels(kGap);
+    const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
+    DrawClippedText(request.hDC, x, rect.top + offset, rect, layer.name, plain && readable ? color : textColor);
+}
+
 } // namespace
 
 IMPLEMENT_DYNCREATE(CLayerControl, CComboControl)
@@ -65,14 +101,9 @@ CLayerControl::~CLayerControl() = default;
 
 int CLayerControl::OnCreate(LPCREATESTRUCT) {
     if (Default() == -1) return -1;
-    LoadIcons();
+    m_hIconReadOnly = LoadLayerIcon(IDI_READ_ONLY);
+    m_hIconVisible = LoadLayerIcon(IDI_VISIBLE);
     return 0;
-}
-
-void CLayerControl::LoadIcons() {
-    const HINSTANCE module = LibraryModule();
-    m_hIconReadOnly = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_READ_ONLY));
-    m_hIconVisible = ::LoadIconA(module, MAKEINTRESOURCEA(IDI_VISIBLE));
 }
 
 void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
@@ -87,51 +118,29 @@ void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const bool whole = IsNoItem(*pDIS) || IsClosedField(*pDIS) || (pDIS->itemAction & (ODA_DRAWENTIRE | ODA_SELECT));
     if (whole) {
         FillSolid(pDIS->hDC, pDIS->rcItem, ColorsOf(*pDIS).background);
-        DrawLayer(*pDIS);
+        char name[kItemTextSize];
+        const unsigned int id = RequestedStyle(*this, *pDIS, name);
+        const ShownLayer layer(*this, id != 0 ? id : m_nSelected, name);
+        if (layer.drawing) {
+            if (!m_hIconVisible) m_hIconVisible = LoadLayerIcon(IDI_VISIBLE);
+            if (!m_hIconReadOnly) m_hIconReadOnly = LoadLayerIcon(IDI_READ_ONLY);
+            const LONG left = pDIS->rcItem.left;
+            if (layer.IsVisible()) DrawPicture(pDIS->hDC, left, pDIS->rcItem, m_hIconVisible);
+            if (layer.IsReadOnly()) DrawPicture(pDIS->hDC, left + ColumnWidth(), pDIS->rcItem, m_hIconReadOnly);
+            DrawLayerName(*pDIS, layer);
+        }
     }
     const bool focus = whole ? pDIS->itemState & ODS_FOCUS : pDIS->itemAction & ODA_FOCUS;
     if (focus) ::DrawFocusRect(pDIS->hDC, &pDIS->rcItem);
 }
 
-DrawingStruct* CLayerControl::Drawing() const {
-    return m_pTable ? ::TableGetOwner(m_pTable) : nullptr;
-}
-
 CString CLayerControl::DescribeItem(int index) {
     char name[kItemTextSize] = "";
-    unsigned long id = GetControlItem(index, name);
-    if (id == 0 && index < 0) id = m_nSelected;
-    DrawingStruct* const drawing = Drawing();
-    if (!IsTableIdentifier(id) || !drawing) return CComboControl::DescribeItem(index);
-    const auto layer = static_cast<uint16_t>(id);
-    if (!*name) ::TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
-    CString text = name;
-    if (!::LayerGetVisible(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_HIDDEN);
-    if (::LayerGetReadOnly(drawing, layer)) text += ", " + LibraryText(IDS_LAYER_LOCKED);
+    const unsigned long id = GetControlItem(index, name);
+    const ShownLayer layer(*this, id == 0 && index < 0 ? m_nSelected : id, name);
+    if (!layer.drawing) return CComboControl::DescribeItem(index);
+    CString text = layer.name;
+    if (!layer.IsVisible()) text += ", " + LibraryText(IDS_LAYER_HIDDEN);
+    if (layer.IsReadOnly()) text += ", " + LibraryText(IDS_LAYER_LOCKED);
     return text;
-}
-
-void CLayerControl::DrawLayer(const DRAWITEMSTRUCT& request) {
-    char name[kItemTextSize];
-    unsigned int id = RequestedStyle(*this, request, name);
-    if (id == 0) id = m_nSelected;
-    DrawingStruct* const drawing = Drawing();
-    if (!IsTableIdentifier(id) || !drawing) return;
-    const auto layer = static_cast<uint16_t>(id);
-    if (!*name) ::TableEntryGetName(m_pTable, layer, name, kEntryNameSize);
-    if (!m_hIconVisible) LoadIcons();
-
-    const RECT& rect = request.rcItem;
-    const int column = ColumnWidth(), gap = ScreenPixels(kGap);
-    if (::LayerGetVisible(drawing, layer)) DrawPicture(request.hDC, rect.left, rect, m_hIconVisible);
-    if (::LayerGetReadOnly(drawing, layer)) DrawPicture(request.hDC, rect.left + column, rect, m_hIconReadOnly);
-
-    const COLORREF color = ::LayerGetColor(drawing, layer);
-    const bool hasColor = color != kColorNone, readable = hasColor && IsReadable(request.hDC, color);
-    const bool plain = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
-    const COLORREF textColor = plain ? TextColorOnWindow() : ColorsOf(request).text;
-    int x = rect.left + 2 * column + gap;
-    if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, textColor) + gap;
-    const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
-    DrawClippedText(request.hDC, x, rect.top + offset, rect, name, plain && readable ? color : textColor);
 }

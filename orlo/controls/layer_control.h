@@ -28,9 +28,4 @@ protected:
     HICON m_hIconVisible = nullptr;
 
     DECLARE_MESSAGE_MAP()
-
-private:
-    void LoadIcons();
-    void DrawLayer(const DRAWITEMSTRUCT& request);
-    DrawingStruct* Drawing() const;
 };
