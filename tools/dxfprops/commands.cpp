@@ -212,9 +212,9 @@ SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& 
         for (const std::string& name : existing)
             if (IsLike(name, wanted) && ++count > 0) chosen.insert(name);
         if (count == 0 && !cli::HasWildcard(wanted) && isNew && chosen.insert(wanted).second) ++count;
-        if (count == 0 && !cli::HasWildcard(wanted)) throw dxf::SaveError("there is no layer '" + wanted + "'");
+        if (count == 0 && !cli::HasWildcard(wanted)) throw dxf::SaveError("layer '" + wanted + "' does not exist");
     }
-    if (values.name && chosen.size() > 1) throw dxf::SaveError("only one layer can have the name " + *values.name);
+    if (values.name && chosen.size() > 1) throw dxf::SaveError("only one layer can be renamed to " + *values.name);
     SetResult result;
     for (const std::string& name : chosen)
         result.changed += writer.ChangeLayer(name, values);

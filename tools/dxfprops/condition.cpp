@@ -38,7 +38,7 @@ std::vector<std::string> Split(const std::string& text, char separator) {
         else
             parts.back() += c;
     }
-    if (isQuoted) throw std::invalid_argument("'" + text + "': a quote is not closed");
+    if (isQuoted) throw std::invalid_argument("'" + text + "': unclosed quote");
     return parts;
 }
 
@@ -58,13 +58,13 @@ Condition ReadCondition(const std::string& text) {
     for (const Operator& candidate : kOperators)
         if (!found && at != text.npos && at > 0 && text.compare(at, candidate.text.size(), candidate.text) == 0)
             found = &candidate;
-    if (!found) throw std::invalid_argument("'" + text + "' is not a condition, as in kind=LINE or PenWidth>0.5");
+    if (!found) throw std::invalid_argument("'" + text + "' is not a condition, such as kind=LINE or PenWidth>0.5");
     Condition condition = {RequireName(text.substr(0, at), true), found->comparison, {}};
     for (const std::string& value : Split(text.substr(at + found->text.size()), '|'))
         condition.values.push_back(Unquoted(value));
     const auto isIt = [&](const char* name) { return condition.name == name; };
     if (IsOrdering(condition.comparison) && std::none_of(std::begin(kOrdered), std::end(kOrdered), isIt))
-        throw std::invalid_argument("'" + text + "': " + condition.name + " has no order");
+        throw std::invalid_argument("'" + text + "': " + condition.name + " can only be compared by =, != and ~");
     return condition;
 }
 

@@ -48,7 +48,7 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output, boo
     files::FileReplacement replacement(target);
     replacement.Write(bytes);
     if (isOwn && !files::HasContents(target, Bytes()))
-        throw dxf::SaveError("the file was changed while this program worked on it");
+        throw dxf::SaveError("the file was changed by another program meanwhile");
     replacement.Commit();
 }
 

@@ -29,12 +29,12 @@ namespace {
 using namespace dxfprops;
 
 constexpr int kDone = 0;
-constexpr int kNothing = 1; // nothing was selected, or diff found differences
-constexpr int kFailed = 2;  // a file failed, or the command line is wrong
+constexpr int kNothing = 1; // no entity matched, or diff found differences
+constexpr int kFailed = 2;  // a file failed, or the command line is invalid
 
 constexpr char kExamples[] = R"(
 Examples:
-  dxfprops list plan.dxf                          contents; --json: as JSON
+  dxfprops list plan.dxf                          print the contents; --json: as JSON
   dxfprops get plan.dxf --where kind=LINE --show PenColor,Layer
   dxfprops get plan.dxf --where 'layer~W*,PenWidth>=0.5 mm' --csv
   dxfprops set plan.dxf --where kind=LINE,layer=WALLS PenColor=red PenWidth="0.5 mm" -o thick.dxf
@@ -45,9 +45,9 @@ Examples:
   dxfprops apply plan.json --in-place
   dxfprops diff plan.dxf thick.dxf                differences, entity by entity
 
-Results: 0 done; 1 nothing was selected, or diff found differences; 2 wrong command line, or a file failed.)";
+Exit codes: 0 success; 1 no entity matched, or diff found differences; 2 invalid command line, or a file failed.)";
 
-// The command line is wrong: what() says why.
+// An invalid command line; what() is the reason.
 using UsageError = std::invalid_argument;
 
 struct CommandLine {
@@ -70,7 +70,7 @@ std::array<double, 4> ReadBox(const std::string& text) {
     int used = 0;
     const int read = std::sscanf(text.c_str(), "%lf,%lf,%lf,%lf%n", &box[0], &box[1], &box[2], &box[3], &used);
     if (read != 4 || static_cast<size_t>(used) != text.size() || box[0] > box[2] || box[1] > box[3])
-        throw UsageError("--within: '" + text + "' should be LEFT,BOTTOM,RIGHT,TOP");
+        throw UsageError("--within: '" + text + "' is not of the form LEFT,BOTTOM,RIGHT,TOP");
     return box;
 }
 
@@ -122,14 +122,14 @@ public:
         return DrawingFile(file, [this, &file](int permille) { progress_.Show(file, permille); });
     }
 
-    // As programs that search do: to find nothing is a result of its own.
+    // Like search programs, returns a separate exit code if nothing was found.
     int ResultOf(const Matches& matches, bool isConditional) {
         if (result_ != kDone || matches.count > 0 || !isConditional) return result_;
-        std::cerr << "dxfprops: nothing meets";
+        std::cerr << "dxfprops: no entity matches";
         for (const std::string& condition : line_.where)
             std::cerr << " " << condition;
         if (!line_.within.empty()) std::cerr << " --within " << line_.within;
-        const char* separator = "; there are entities of the kinds ";
+        const char* separator = "; existing kinds: ";
         for (const std::string& kind : matches.kinds) {
             std::cerr << separator << kind;
             separator = ", ";
@@ -212,12 +212,13 @@ Values TakeValues(CommandLine& line, IsValue isValue, Require require) {
 }
 
 void RequireTarget(const CommandLine& line) {
-    if (line.files.empty()) throw UsageError("no file is named");
+    if (line.files.empty()) throw UsageError("no input file");
     const int targets = !line.output.empty() + line.isInPlace + line.isDry;
-    if (targets != 1) throw UsageError("say where the drawing goes: -o OUT, --in-place or --dry-run");
-    if (!line.output.empty() && line.files.size() > 1) throw UsageError("-o takes one file; --in-place takes many");
+    if (targets != 1) throw UsageError("specify the output: -o OUT, --in-place or --dry-run");
+    if (!line.output.empty() && line.files.size() > 1)
+        throw UsageError("-o requires a single input file; see --in-place");
     const bool isFromInput = std::count(line.files.begin(), line.files.end(), kStandardStream) != 0;
-    if (line.isInPlace && isFromInput) throw UsageError("standard input has no place: say -o OUT");
+    if (line.isInPlace && isFromInput) throw UsageError("--in-place requires a file, not standard input; use -o OUT");
 }
 
 struct Noun {
@@ -249,7 +250,7 @@ constexpr Noun kEntities = {"entity", "entities"}, kLayers = {"layer", "layers"}
 
 int Set(CommandLine& line) {
     const Values values = TakeValues(line, IsAssignment, [](const std::string& name) { RequireName(name, false); });
-    if (values.empty()) throw UsageError("nothing to set: name a property, as in PenColor=red");
+    if (values.empty()) throw UsageError("nothing to set: specify a property, such as PenColor=red");
     RequireTarget(line);
     const Selection selection = SelectionOf(line);
     const bool isConditional = IsConditional(line) || std::any_of(values.begin(), values.end(), [](const auto& value) {
@@ -313,7 +314,7 @@ bool ReadSwitch(const std::string& text) {
         if (dxf::IsSameName(text, yes)) return true;
     for (const char* no : {"no", "off", "false", "0"})
         if (dxf::IsSameName(text, no)) return false;
-    throw UsageError("'" + text + "' is neither yes nor no");
+    throw UsageError("'" + text + "' is not yes or no");
 }
 
 // The values that set-layer takes.
@@ -354,7 +355,7 @@ int SetLayer(CommandLine& line) {
              throw UsageError("'" + name + "' is not one of " + LayerFieldNames());
          }))
         FindLayerField(name)->set(wanted, text);
-    if (line.layers.empty()) throw UsageError("name a layer: --layer NAME");
+    if (line.layers.empty()) throw UsageError("specify a layer: --layer NAME");
     RequireTarget(line);
     return ChangeFiles(line, kLayers, false, [&](const DrawingFile& drawing, const Target& target, const std::string&) {
         return SetLayers(drawing, line.layers, wanted, line.isNew, target);
@@ -398,7 +399,7 @@ private:
     CLI::App* Add(const char* name, const char* description, Command command) {
         CLI::App* sub = app_.add_subcommand(name, description);
         sub->callback([this, command] { command_ = command; });
-        sub->add_flag("--progress", line_.showsProgress, "show a bar on stderr");
+        sub->add_flag("--progress", line_.showsProgress, "show a progress bar on stderr");
         return sub;
     }
     void AddFiles(CLI::App* sub) { sub->add_option("FILE", line_.files, "drawings; - is standard input")->required(); }
@@ -411,23 +412,23 @@ private:
                 option->excludes(other);
             forms.push_back(option);
         };
-        add("--json", Form::json, "as JSON, one array");
-        add("--json-lines", Form::jsonLines, "as JSON, one object a line");
-        if (hasCsv) add("--csv", Form::csv, "one line each, after a line of headings");
+        add("--json", Form::json, "print a JSON array");
+        add("--json-lines", Form::jsonLines, "print a JSON object per line");
+        if (hasCsv) add("--csv", Form::csv, "print CSV, with a header line");
     }
     void AddSelection(CLI::App* sub) {
         sub->add_option("--where", line_.where,
                         "kind, handle, block or a property, compared by = != < <= > >= ~ (wildcards); A|B: one of "
-                        "several; joined by commas or repeated: all have to hold")
+                        "several; joined by commas or repeated: all must match")
             ->allow_extra_args(false);
         sub->add_option("--in", line_.space, "model (the default), paper, all, or block=NAME");
-        sub->add_option("--within", line_.within, "LEFT,BOTTOM,RIGHT,TOP: entities inside of that box");
+        sub->add_option("--within", line_.within, "LEFT,BOTTOM,RIGHT,TOP: entities inside this box");
     }
     void AddTarget(CLI::App* sub) {
-        sub->add_option("-o", line_.output, "the file that the drawing is written into; - is standard output");
-        sub->add_flag("--in-place", line_.isInPlace, "each drawing is written into its own file");
-        sub->add_flag("--dry-run", line_.isDry, "print what would change, and write nothing");
-        sub->add_flag("--backup", line_.keepsBackup, "keep what a file contained as FILE.bak");
+        sub->add_option("-o", line_.output, "output file; - is standard output");
+        sub->add_flag("--in-place", line_.isInPlace, "overwrite each input file");
+        sub->add_flag("--dry-run", line_.isDry, "print the changes without writing them");
+        sub->add_flag("--backup", line_.keepsBackup, "keep the previous contents as FILE.bak");
     }
 
     void AddReaders() {
@@ -436,7 +437,7 @@ private:
         AddForms(list, false);
         CLI::App* get = Add("get", "Print the properties of entities", [](CommandLine& line) { return Get(line); });
         AddFiles(get);
-        get->add_option("--show", line_.show, "these properties alone")->delimiter(',')->allow_extra_args(false);
+        get->add_option("--show", line_.show, "print only these properties")->delimiter(',')->allow_extra_args(false);
         AddForms(get, true);
         AddSelection(get);
         CLI::App* layers = Add("layers", "Print layers", [](CommandLine& line) { return ListLayers(line); });
@@ -444,8 +445,8 @@ private:
         AddForms(layers, true);
         CLI::App* diff = Add("diff", "Print differences", [](CommandLine& line) { return Diff(line); });
         diff->add_option("BEFORE", line_.before, "a drawing")->required();
-        diff->add_option("AFTER", line_.after, "another one")->required();
-        diff->add_flag("--only-properties", line_.onlyProperties, "not texts, positions and other coordinates");
+        diff->add_option("AFTER", line_.after, "the drawing to compare it with")->required();
+        diff->add_flag("--only-properties", line_.onlyProperties, "ignore texts, positions and other coordinates");
         AddForms(diff, false);
     }
     void AddWriters() {
@@ -457,11 +458,11 @@ private:
         AddTarget(set);
         CLI::App* layer = Add("set-layer", "Change layers", [](CommandLine& line) { return SetLayer(line); });
         layer->add_option("FILE NAME=VALUE", line_.rest, "drawings, and values of " + LayerFieldNames())->required();
-        layer->add_option("--layer", line_.layers, "a name, or several with * and ?")->allow_extra_args(false);
+        layer->add_option("--layer", line_.layers, "name of a layer; * and ? are wildcards")->allow_extra_args(false);
         layer->add_flag("--new", line_.isNew, "add layers that are missing");
         AddTarget(layer);
-        CLI::App* apply = Add("apply", "Set the values that get --json printed and that were edited",
-                              [](CommandLine& line) { return Apply(line); });
+        CLI::App* apply =
+            Add("apply", "Apply edited output of get --json", [](CommandLine& line) { return Apply(line); });
         apply->add_option("FILE.json", line_.before, "the values; - is standard input")->required();
         AddTarget(apply);
     }
@@ -477,7 +478,7 @@ int RunWith(const std::vector<std::string>& words) {
     try {
         return Parser().Execute(cli::WithListedArguments(words));
     } catch (const files::FileError& unreadable) {
-        std::cerr << "dxfprops: a list of arguments: " << unreadable.what() << "\n";
+        std::cerr << "dxfprops: cannot read the list of arguments: " << unreadable.what() << "\n";
         return kFailed;
     }
 }
