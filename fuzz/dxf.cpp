@@ -12,9 +12,9 @@ namespace {
 
 void ShowTexts(const std::vector<dxf::Entity>& entities) {
     for (const dxf::Entity& entity : entities) {
-        if (const auto* text = std::get_if<dxf::Apart<dxf::Text>>(&entity.shape))
+        if (const auto* text = std::get_if<dxf::Boxed<dxf::Text>>(&entity.shape))
             dxf::ReadControlCodes(dxf::ToDisplayText((*text)->text));
-        if (const auto* text = std::get_if<dxf::Apart<dxf::MText>>(&entity.shape))
+        if (const auto* text = std::get_if<dxf::Boxed<dxf::MText>>(&entity.shape))
             dxf::ReadInlineCodes((*text)->text, (*text)->height).Prevailing();
     }
 }

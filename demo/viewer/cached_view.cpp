@@ -217,5 +217,5 @@ void CachedView::Draw(HDC dc, GraphicStruct* graphic) {
 
 bool CachedView::DrawOn(HDC dc, GraphicStruct* graphic, uint32_t& place, int milliseconds) {
     ::ViewportSetGDIStuff(m_camera.Viewport(), nullptr, dc, MM_TEXT, 1);
-    return ::GraphicDrawOn(graphic, m_camera.Viewport(), &place, milliseconds) != 0;
+    return ::GraphicDrawTimed(graphic, m_camera.Viewport(), &place, milliseconds) != 0;
 }

@@ -31,7 +31,7 @@ void Camera::Fit(GraphicStruct* graphic, int margin) {
     CRect inner = window;
     inner.DeflateRect(margin, margin);
     ::ViewportSetRect(Viewport(), inner.IsRectEmpty() ? window : inner);
-    ::ViewportFitSeen(Viewport(), graphic);
+    ::ViewportFitVisible(Viewport(), graphic);
     ::ViewportSetRect(Viewport(), window);
 }
 

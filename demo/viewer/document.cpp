@@ -34,7 +34,7 @@ int ShowProgress(void* context, int permille) {
     return !operation.isCanceled;
 }
 
-void KeepFinding(void* context, int line, const char* text) {
+void AddWarning(void* context, int line, const char* text) {
     const std::string place = line ? "line " + std::to_string(line) + ": " : "";
     static_cast<Operation*>(context)->warnings.push_back(place + text);
 }
@@ -44,7 +44,7 @@ void KeepFinding(void* context, int line, const char* text) {
 std::unique_ptr<Document> Document::Open(const std::string& path, const Progress& progress) {
     char message[512] = "";
     Operation opening = {progress, {}};
-    const DxfListener listener = {&opening, ShowProgress, KeepFinding};
+    const DxfListener listener = {&opening, ShowProgress, AddWarning};
     OwnedDrawing drawing(::DrawingOpenDxf(Wide(path).c_str(), &listener, message, sizeof message));
     if (!drawing && opening.isCanceled) throw Canceled();
     if (!drawing) throw OpenError(path + "\n\n" + message);
@@ -68,7 +68,7 @@ bool Document::IsModified() const {
 bool Document::Save(const std::string& path, bool overChanged, const Progress& progress) {
     char message[512] = "";
     Operation saving = {progress, {}};
-    const DxfListener listener = {&saving, ShowProgress, KeepFinding};
+    const DxfListener listener = {&saving, ShowProgress, AddWarning};
     const uint32_t flags = overChanged ? kSaveOverChanged : 0;
     switch (::DrawingSaveDxf(Drawing(), Wide(path).c_str(), flags, &listener, message, sizeof message)) {
     case kSaveDone:
@@ -173,7 +173,7 @@ int Document::RollBackTransaction() {
 }
 
 int Document::DroppedSteps() const {
-    return ::DrawingCountForgotten(Drawing());
+    return ::DrawingCountDroppedUndo(Drawing());
 }
 
 // Ends the step in the database.

@@ -76,9 +76,9 @@ void CMainFrame::Show(std::unique_ptr<Document> document) {
 
 void CMainFrame::ShowWhatOpened() {
     std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
-    const std::vector<std::string>& findings = m_document->Warnings();
-    if (findings.size() > 1) text += "; " + Counted(static_cast<int>(findings.size()), "warning") + " (File, Warnings)";
-    if (!findings.empty()) text += "; " + findings.front();
+    const std::vector<std::string>& warnings = m_document->Warnings();
+    if (warnings.size() > 1) text += "; " + Counted(static_cast<int>(warnings.size()), "warning") + " (File, Warnings)";
+    if (!warnings.empty()) text += "; " + warnings.front();
     m_status.ShowMessage(text);
 }
 

@@ -184,13 +184,13 @@ TEST(Selections, AreCopiedAsAGroupOfCopies) {
     OwnDrawing drawing;
     const Balance balance;
     GraphicStruct *a = drawing.Add(MakeLines({{0, 0}, {1, 1}})), *b = drawing.Add(MakeSquare(2, 2, 2));
-    SetWhole(b, kPropBrushStyle, 3);
+    SetInteger(b, kPropBrushStyle, 3);
     GraphicStruct* selection = SelectionNew();
     SelectionAdd(selection, a);
     SelectionAdd(selection, b);
     GraphicStruct* copy = GraphicCopyEx(selection, 0, 0, 7);
     GraphicDispose(&selection);
-    SetWhole(b, kPropBrushStyle, 4);
+    SetInteger(b, kPropBrushStyle, 4);
     ASSERT_TRUE(GraphicGetIsGroup(copy));
     uint32_t position;
     GraphicStruct* first = GraphicFirst(copy, &position, 1, kFilterKinds);

@@ -19,8 +19,8 @@ protected:
     uint16_t FlagBlock(const char* name, uint32_t color = kRed) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
         for (GraphicStruct* square : {MakeSquare(0, 0, 1), MakeSquare(1, 0, 0.5)}) {
-            SetWhole(square, kPropBrushStyle, 1);
-            SetWhole(square, kPropPenColor, color);
+            SetInteger(square, kPropBrushStyle, 1);
+            SetInteger(square, kPropPenColor, color);
             GraphicAdd(content, square);
         }
         return BlocksAddBlock(drawing.Table(kTableBlocks), name, content);
@@ -60,14 +60,14 @@ TEST_F(Inserts, GiveTheirColorStyleAndLayerToWhatLeavesThemOpen) {
     // A block that inserts the first one; its own graphics have the color of the block.
     GraphicStruct* outer = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicStruct* inner = Insert(byBlock, 0, 0, 1, 1);
-    SetWhole(inner, kPropPenColor, kColorByBlock);
+    SetInteger(inner, kPropPenColor, kColorByBlock);
     GraphicAdd(outer, inner);
     const uint16_t nested = BlocksAddBlock(drawing.Table(kTableBlocks), "NESTED", outer);
     int x = 0;
     for (const uint16_t block : {byBlock, nested, byLayer}) {
         GraphicStruct* insert = drawing.Add(Insert(block, x += 20, 50, 10, 10));
-        SetWhole(insert, kPropPenColor, kBlue);
-        SetWhole(insert, kPropLayer, green);
+        SetInteger(insert, kPropPenColor, kBlue);
+        SetInteger(insert, kPropLayer, green);
     }
     Draw();
     EXPECT_EQ(picture.At(25, 55), kBlue);
@@ -82,9 +82,9 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
     const uint16_t own = TableEntryAdd(drawing.Table(kTableLayers), "Own", nullptr);
     const uint16_t hidden = TableEntryAdd(drawing.Table(kTableLayers), "Hidden", nullptr);
     const uint16_t flag = FlagBlock("FLAG");
-    SetWhole(Members(BlockGetGraphic(drawing.Table(kTableBlocks), flag))[0], kPropLayer, own);
+    SetInteger(Members(BlockGetGraphic(drawing.Table(kTableBlocks), flag))[0], kPropLayer, own);
     GraphicStruct* insert = drawing.Add(Insert(flag, 10, 10, 20, 20));
-    SetWhole(insert, kPropLayer, hidden);
+    SetInteger(insert, kPropLayer, hidden);
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
     Draw();
     EXPECT_EQ(picture.At(20, 20), kRed);

@@ -50,7 +50,7 @@ private:
 
 // Access values by name. If the graphic has no such property or rejects the value, they return false or a value that is
 // not used elsewhere.
-inline bool SetWhole(GraphicStruct* graphic, const char* name, uint32_t value) {
+inline bool SetInteger(GraphicStruct* graphic, const char* name, uint32_t value) {
     return orlo::host::WriteProperty(graphic, name, value);
 }
 inline bool SetReal(GraphicStruct* graphic, const char* name, double value) {

@@ -18,7 +18,7 @@ class Paint : public testing::Test {
 protected:
     GraphicStruct* Line(double x1, double y1, double x2, double y2) {
         GraphicStruct* line = drawing.Add(MakeLines({{x1, y1}, {x2, y2}}));
-        SetWhole(line, kPropPenColor, kRed);
+        SetInteger(line, kPropPenColor, kRed);
         return line;
     }
     void Draw() { picture.Draw(drawing.Root()); }
@@ -41,7 +41,7 @@ TEST_F(Paint, AThinLineCoversItsPixelsBothEndsIncluded) {
 TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     const int dpi = ::GetDeviceCaps(picture.DC(), LOGPIXELSX);
     GraphicStruct* world = Line(10, 30, 90, 30);
-    SetWhole(world, kPropScaleSystem, 0);
+    SetInteger(world, kPropScaleSystem, 0);
     SetReal(world, kPropPenWidth, 8);
     GraphicStruct* paper = Line(10, 70, 90, 70);
     SetReal(paper, kPropPenWidth, 6.0 / dpi);
@@ -58,7 +58,7 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
 
 TEST_F(Paint, AWideOutlineIsClosedWhereItBegins) {
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 60));
-    SetWhole(square, kPropScaleSystem, 0);
+    SetInteger(square, kPropScaleSystem, 0);
     SetReal(square, kPropPenWidth, 10);
     Draw();
     for (const int x : {18, 82})
@@ -82,8 +82,8 @@ TEST_F(Paint, ColorsComeFromGraphicLayerAndBackground) {
     int y = 10;
     for (const auto& row : kRows) {
         GraphicStruct* line = Line(10, y, 90, y);
-        SetWhole(line, kPropPenColor, row.color);
-        SetWhole(line, kPropLayer, row.layer);
+        SetInteger(line, kPropPenColor, row.color);
+        SetInteger(line, kPropLayer, row.layer);
         y += 10;
     }
     Draw();
@@ -106,13 +106,13 @@ TEST_F(Paint, ColorsComeFromGraphicLayerAndBackground) {
 TEST_F(Paint, ColorsThatLightPaperSwallowsAreDarker) {
     constexpr COLORREF kYellow = RGB(255, 255, 0), kCyan = RGB(0, 255, 255);
     GraphicStruct* sample = Line(10, 10, 90, 10);
-    SetWhole(sample, kPropPenColor, kYellow);
+    SetInteger(sample, kPropPenColor, kYellow);
     Draw();
     EXPECT_EQ(picture.At(50, 10), kYellow) << "a sample, for which no background was set, keeps its color";
     ViewportSetBackground(picture.Viewport(), kWhite);
     for (const COLORREF color : {kYellow, kCyan, kRed}) {
         GraphicStruct* line = Line(10, 10, 90, 10);
-        SetWhole(line, kPropPenColor, color);
+        SetInteger(line, kPropPenColor, color);
         Draw();
         const COLORREF seen = picture.At(50, 10);
         if (color == kRed) {
@@ -130,7 +130,7 @@ TEST_F(Paint, LayersHide) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         LayerSet(drawing, layer, kBlue, flag, 0);
-        SetWhole(Line(10, 10.0 * flag, 90, 10.0 * flag), kPropLayer, layer);
+        SetInteger(Line(10, 10.0 * flag, 90, 10.0 * flag), kPropLayer, layer);
     }
     Draw();
     EXPECT_EQ(picture.Covered(0, 0, 100, 25), 0);
@@ -169,10 +169,10 @@ protected:
 
 TEST_F(Dashes, HaveTheLengthsOfThePatternTimesThePenScale) {
     GraphicStruct* line = Line(10, 50, 90, 50);
-    SetWhole(line, kPropPenStyle, Style({4, -2}));
+    SetInteger(line, kPropPenStyle, Style({4, -2}));
     SetReal(line, kPropPenScale, 2);
-    SetWhole(line, kPropPenAlignment, 0);
-    SetWhole(line, kPropScaleSystem, 0);
+    SetInteger(line, kPropPenAlignment, 0);
+    SetInteger(line, kPropScaleSystem, 0);
     SetReal(line, kPropPenWidth, 3); // a thick pen does not extend the dashes
     Draw();
     EXPECT_EQ(Runs(50), (std::vector<int>{8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 4, 8, 1}));
@@ -180,9 +180,9 @@ TEST_F(Dashes, HaveTheLengthsOfThePatternTimesThePenScale) {
 
 TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
     GraphicStruct* line = Line(10, 50, 85, 50); // length 75: six periods of 12 and a rest of 3
-    SetWhole(line, kPropPenStyle, Style({8, -4}));
-    SetWhole(line, kPropPenAlignment, 1);
-    SetWhole(line, kPropScaleSystem, 0);
+    SetInteger(line, kPropPenStyle, Style({8, -4}));
+    SetInteger(line, kPropPenAlignment, 1);
+    SetInteger(line, kPropScaleSystem, 0);
     SetReal(line, kPropPenWidth, 2);
     Draw();
     const std::vector<int> runs = Runs(50, 84);
@@ -195,11 +195,11 @@ TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
 
 TEST_F(Dashes, ShowDotsAndLeaveShortAndFinePatternsOut) {
     GraphicStruct* dots = Line(10, 80, 90, 80);
-    SetWhole(dots, kPropPenStyle, Style({0, -5}));
+    SetInteger(dots, kPropPenStyle, Style({0, -5}));
     GraphicStruct* shorter = Line(10, 50, 20, 50);
-    SetWhole(shorter, kPropPenStyle, Style({8, -4})); // fitted: too short for a period
+    SetInteger(shorter, kPropPenStyle, Style({8, -4})); // fitted: too short for a period
     GraphicStruct* fine = Line(10, 20, 90, 20);
-    SetWhole(fine, kPropPenStyle, Style({0.5, -0.5}));
+    SetInteger(fine, kPropPenStyle, Style({0.5, -0.5}));
     Draw();
     EXPECT_NEAR(picture.Covered(0, 75, 100, 85), 17, 1);
     EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 11, 1);
@@ -210,11 +210,11 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
     const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Dashed", nullptr);
     LayerSet(drawing, layer, kBlue, 0, Style({10, -10}));
     GraphicStruct* line = Line(10, 50, 90, 50);
-    SetWhole(line, kPropLayer, layer);
-    SetWhole(line, kPropPenStyle, 65534);
-    SetWhole(Line(10, 20, 90, 20), kPropPenStyle, 0);
+    SetInteger(line, kPropLayer, layer);
+    SetInteger(line, kPropPenStyle, 65534);
+    SetInteger(Line(10, 20, 90, 20), kPropPenStyle, 0);
     GraphicStruct* lost = Line(10, 80, 90, 80);
-    SetWhole(lost, kPropPenStyle, 999); // a missing style is solid
+    SetInteger(lost, kPropPenStyle, 999); // a missing style is solid
     Draw();
     EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 41, 2);
     EXPECT_EQ(picture.Covered(0, 15, 100, 25), 0);
@@ -223,8 +223,8 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
 
 TEST_F(Dashes, CostNothingFarOutsideOfTheView) {
     GraphicStruct* line = Line(-1e9, 50, 1e9, 50);
-    SetWhole(line, kPropPenStyle, Style({5, -5}));
-    SetWhole(line, kPropPenAlignment, 0);
+    SetInteger(line, kPropPenStyle, Style({5, -5}));
+    SetInteger(line, kPropPenAlignment, 0);
     Draw();
     EXPECT_NEAR(picture.Covered(), 55, 6);
 }
@@ -242,10 +242,10 @@ TEST_F(Paint, FillsFollowTheDrawMode) {
                                      {90, 90},
                                      {40, 90},
                                      {40, 40}}));
-        SetWhole(shape, kPropBrushStyle, 1);
-        SetWhole(shape, kPropBrushColor, kBlue);
-        SetWhole(shape, kPropBrushDrawMode, mode);
-        SetWhole(shape, kPropPenStyle, 0);
+        SetInteger(shape, kPropBrushStyle, 1);
+        SetInteger(shape, kPropBrushColor, kBlue);
+        SetInteger(shape, kPropBrushDrawMode, mode);
+        SetInteger(shape, kPropPenStyle, 0);
         picture.Draw(shape);
         EXPECT_EQ(picture.At(20, 20), kBlue);
         EXPECT_EQ(picture.At(80, 80), kBlue);
@@ -256,9 +256,9 @@ TEST_F(Paint, FillsFollowTheDrawMode) {
 
 TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
     const Loose shape(MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}}));
-    SetWhole(shape, kPropBrushStyle, 1);
-    SetWhole(shape, kPropBrushColor, kColorOfPen);
-    SetWhole(shape, kPropPenColor, kRed);
+    SetInteger(shape, kPropBrushStyle, 1);
+    SetInteger(shape, kPropBrushColor, kColorOfPen);
+    SetInteger(shape, kPropPenColor, kRed);
     shape->dwOneOutline = 1;
     picture.Draw(shape);
     EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's color";
@@ -268,13 +268,13 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
 
 TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
     const Loose square(MakeSquare(10, 10, 80));
-    SetWhole(square, kPropPenStyle, 0);
-    SetWhole(square, kPropBrushColor, kBlue);
+    SetInteger(square, kPropPenStyle, 0);
+    SetInteger(square, kPropBrushColor, kBlue);
     SetReal(square, kPropBrushScale, 10);
     const auto rows = [&](uint16_t style, double angle, int cross) {
-        SetWhole(square, kPropBrushStyle, style);
+        SetInteger(square, kPropBrushStyle, style);
         SetReal(square, kPropBrushAngle, angle);
-        SetWhole(square, kPropHatchCross, cross);
+        SetInteger(square, kPropHatchCross, cross);
         picture.Draw(square);
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 90, 90)) << "nothing outside";
         return std::pair(picture.Covered(55, 10, 55, 90), picture.Covered(10, 55, 90, 55));
@@ -288,11 +288,11 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
 
 TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
     const Loose square(MakeSquare(10, 10, 79));
-    SetWhole(square, kPropPenStyle, 0);
-    SetWhole(square, kPropBrushColor, kBlue);
+    SetInteger(square, kPropPenStyle, 0);
+    SetInteger(square, kPropBrushColor, kBlue);
     TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto draw = [&](const char* style) {
-        SetWhole(square, kPropBrushStyle, TableEntryGetIDFirst(styles, nullptr, style));
+        SetInteger(square, kPropBrushStyle, TableEntryGetIDFirst(styles, nullptr, style));
         picture.Draw(square);
         EXPECT_EQ(picture.Covered(), picture.Covered(10, 10, 89, 89)) << "nothing outside";
         return picture.Covered(16, 16, 79, 79) / 4096.0; // whole tiles
@@ -325,8 +325,8 @@ TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
 TEST_F(Paint, SurvivesDistantCoordinates) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
         const Loose shape(MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
-        SetWhole(shape, kPropBrushStyle, 1);
-        SetWhole(shape, kPropBrushColor, kBlue);
+        SetInteger(shape, kPropBrushStyle, 1);
+        SetInteger(shape, kPropBrushColor, kBlue);
         picture.Draw(shape);
         // Beyond that, a double is too coarse to place an edge in the view.
         if (away <= 1e15) {
@@ -364,10 +364,10 @@ TEST_F(Paint, ALargeLetterIsMovedByTheSamePixelsAsItsPlace) {
 }
 
 TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
-    SetWhole(Line(0, 0, 100, 100), kPropPenStyle,
-             LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));
+    SetInteger(Line(0, 0, 100, 100), kPropPenStyle,
+               LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 40));
-    SetWhole(square, kPropBrushStyle, 1);
+    SetInteger(square, kPropBrushStyle, 1);
     drawing.Add(MakeText("Text", {10, 10}, 10, 0.5));
     HDC dc = picture.DC();
     ::SetTextAlign(dc, TA_RIGHT);
@@ -392,7 +392,7 @@ TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
 
 TEST_F(Paint, StaysInTheRectangle) {
     GraphicStruct* line = Line(0, 50, 100, 50);
-    SetWhole(line, kPropScaleSystem, 0);
+    SetInteger(line, kPropScaleSystem, 0);
     SetReal(line, kPropPenWidth, 30);
     const RECT half = {20, 45, 60, 55};
     ViewportSetRect(picture.Viewport(), &half);
@@ -439,8 +439,8 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), kFitWhole);
-    SetWhole(sample, kPropPenColor, kRed);
-    SetWhole(sample, kPropScaleSystem, 0);
+    SetInteger(sample, kPropPenColor, kRed);
+    SetInteger(sample, kPropScaleSystem, 0);
     SetReal(sample, kPropPenWidth, 2); // millimeters, the drawing's unit
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 2 * millimeter, 1);
@@ -448,9 +448,9 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     picture.Draw(sample, 1);
     EXPECT_NEAR(picture.Covered(50, 0, 50, 100), 12.5, 1) << "never more than an eighth of the pane";
     SetReal(sample, kPropPenWidth, 0);
-    SetWhole(sample, kPropPenAlignment, 0);
+    SetInteger(sample, kPropPenAlignment, 0);
     const double dashes[] = {3, -3};
-    SetWhole(sample, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
+    SetInteger(sample, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
     picture.Draw(sample, 1);
     int changes = 0;
     for (int x = 1; x <= 100; ++x)
@@ -460,14 +460,14 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     long before = 0;
     TableGetIntVar(application->pVariables, kVarPreviewBackground, &before);
     TableSetIntVar(application->pVariables, kVarPreviewBackground, 0);
-    SetWhole(sample, kPropPenColor, 0);
+    SetInteger(sample, kPropPenColor, 0);
     picture.Draw(sample, 1, kBlack);
     EXPECT_EQ(picture.At(1, 50), kWhite) << "black is not lost on a black pane";
     TableSetIntVar(application->pVariables, kVarPreviewBackground, before);
 
     const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Walls", nullptr);
     TableSetIntVar(application->pVariables, kVarPreviewLayer, layer);
-    SetWhole(sample, kPropPenColor, kColorByLayer);
+    SetInteger(sample, kPropPenColor, kColorByLayer);
     for (const uint32_t flags : {uint32_t{0}, uint32_t{kLayerOff}}) {
         LayerSet(drawing, layer, kBlue, flags, 0);
         picture.Draw(sample, 1);

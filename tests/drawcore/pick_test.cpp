@@ -50,9 +50,9 @@ TEST_F(Pick, FitsVisibleGraphics) {
     const uint16_t hidden = TableEntryAdd(layers, "hidden", nullptr);
     GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
     GraphicStruct* away = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
-    SetWhole(away, kPropLayer, hidden);
+    SetInteger(away, kPropLayer, hidden);
     const auto width = [&] { // of the visible area, in drawing units
-        ViewportFitSeen(picture.Viewport(), drawing.Root());
+        ViewportFitVisible(picture.Viewport(), drawing.Root());
         double left, right, y;
         ViewportToDrawing(picture.Viewport(), {0, 0}, &left, &y);
         ViewportToDrawing(picture.Viewport(), {100, 0}, &right, &y);
@@ -61,17 +61,17 @@ TEST_F(Pick, FitsVisibleGraphics) {
     EXPECT_NEAR(width(), 990, 1);
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
     EXPECT_NEAR(width(), 10, 0.1);
-    SetWhole(close, kPropLayer, hidden);
+    SetInteger(close, kPropLayer, hidden);
     EXPECT_NEAR(width(), 990, 1) << "nothing is seen: where it would be";
 }
 
 TEST_F(Pick, CountsWidthsAndFilledAreas) {
     GraphicStruct* wide = drawing.Add(MakeLines({{10, 80}, {90, 80}}));
-    SetWhole(wide, kPropScaleSystem, 0);
+    SetInteger(wide, kPropScaleSystem, 0);
     SetReal(wide, kPropPenWidth, 20);
     GraphicStruct* hollow = drawing.Add(MakeSquare(10, 10, 20));
     GraphicStruct* filled = drawing.Add(MakeSquare(60, 10, 20));
-    SetWhole(filled, kPropBrushStyle, 1);
+    SetInteger(filled, kPropBrushStyle, 1);
     EXPECT_EQ(At(50, 89), wide);
     EXPECT_EQ(At(20, 20), nullptr);
     EXPECT_EQ(At(10, 20), hollow);
@@ -93,7 +93,7 @@ TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
         const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
-        SetWhole(line, kPropLayer, layer);
+        SetInteger(line, kPropLayer, layer);
         EXPECT_EQ(At(50, 50), line);
         LayerSet(drawing, layer, 0, flag, 0);
         EXPECT_EQ(At(50, 50), nullptr) << flag;
@@ -110,7 +110,7 @@ TEST_F(Pick, ByWindowSelectsContainedByCrossingTouchedGraphics) {
     EXPECT_EQ(Within(15, 15, 40, 40, 1), (List{inside, across}));
     EXPECT_EQ(Within(0, 0, 100, 100, 0), (List{inside, across, outside, around}));
     EXPECT_TRUE(Within(40, 40, 50, 50, 1).empty()) << "within an outline, touching nothing";
-    SetWhole(around, kPropBrushStyle, 1);
+    SetInteger(around, kPropBrushStyle, 1);
     EXPECT_EQ(Within(40, 40, 50, 50, 1), List{around}) << "within a filled area";
     EXPECT_EQ(Within(40, 40, 15, 15, 0), List{inside}) << "corners in any order";
 }
@@ -139,7 +139,7 @@ TEST_F(Pick, FollowsZoomAndPan) {
 TEST_F(Pick, HighlightsInOneColor) {
     GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
     const double dashes[] = {5, -5};
-    SetWhole(line, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
+    SetInteger(line, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
     const Loose selection(SelectionNew());
     SelectionAdd(selection, line);
     GraphicDrawHighlighted(selection, picture.Viewport(), RGB(0, 120, 215));

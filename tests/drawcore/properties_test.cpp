@@ -118,9 +118,9 @@ TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
 
 TEST_P(OfKind, MarksItselfChanged) {
     GraphicSetDirty(graphic, 0);
-    EXPECT_FALSE(SetWhole(graphic, kPropPenColor, 0x12345678));
+    EXPECT_FALSE(SetInteger(graphic, kPropPenColor, 0x12345678));
     EXPECT_FALSE(GraphicIsDirty(graphic));
-    EXPECT_TRUE(SetWhole(graphic, kPropPenColor, 0x345678));
+    EXPECT_TRUE(SetInteger(graphic, kPropPenColor, 0x345678));
     EXPECT_TRUE(GraphicIsDirty(graphic));
 }
 
@@ -150,11 +150,11 @@ TEST_F(ShapeProperties, RejectValuesOutOfRange) {
         {kPropStyleTree, {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
     for (const auto& row : kWhole) {
         for (const uint32_t value : row.good) {
-            EXPECT_TRUE(SetWhole(graphic, row.name, value)) << row.name << value;
+            EXPECT_TRUE(SetInteger(graphic, row.name, value)) << row.name << value;
             EXPECT_EQ(GetWhole(graphic, row.name), value) << row.name;
         }
         for (const uint32_t value : row.bad) {
-            EXPECT_FALSE(SetWhole(graphic, row.name, value)) << row.name << value;
+            EXPECT_FALSE(SetInteger(graphic, row.name, value)) << row.name << value;
             EXPECT_EQ(GetWhole(graphic, row.name), row.good.back()) << row.name << " must keep its value";
         }
     }
@@ -170,14 +170,14 @@ TEST_F(ShapeProperties, RejectValuesOutOfRange) {
 TEST_F(ShapeProperties, KeepToTheLayersOfTheirDrawing) {
     OwnDrawing drawing;
     GraphicAttach(graphic, drawing);
-    EXPECT_FALSE(SetWhole(graphic, kPropLayer, 2));
+    EXPECT_FALSE(SetInteger(graphic, kPropLayer, 2));
     const uint16_t id = TableEntryAdd(drawing.Table(kTableLayers), "Two", nullptr);
-    EXPECT_TRUE(SetWhole(graphic, kPropLayer, id));
+    EXPECT_TRUE(SetInteger(graphic, kPropLayer, id));
     GraphicAttach(graphic, nullptr);
 }
 
 TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
-    SetWhole(graphic, kPropPenColor, 0xFFFFFFFD);
+    SetInteger(graphic, kPropPenColor, 0xFFFFFFFD);
     int32_t number;
     const char* name = kPropPenColor;
     const PropertyTable* table = GraphicGetVtbl(graphic);
@@ -225,7 +225,7 @@ TEST_F(ShapeProperties, CanBeReplacedByTheHostPrograms) {
         [](GraphicStruct*, int32_t, int, const void*) -> int { throw std::runtime_error("full"); }};
     GraphicSetVtbl(graphic, &kTable);
     EXPECT_EQ(GetWhole(graphic, "Anything"), 77u);
-    EXPECT_THROW(SetWhole(graphic, "Anything", 1), std::runtime_error);
+    EXPECT_THROW(SetInteger(graphic, "Anything", 1), std::runtime_error);
     GraphicSetVtbl(graphic, nullptr);
     EXPECT_EQ(GraphicGetVtbl(graphic), nullptr);
 }

@@ -47,7 +47,7 @@ protected:
 
     void Add() {
         all.push_back(drawing.Add(Make()));
-        if (Number(3) == 0) SetWhole(all.back(), kPropLayer, layer);
+        if (Number(3) == 0) SetInteger(all.back(), kPropLayer, layer);
     }
 
     void Remove() {
@@ -70,7 +70,7 @@ protected:
     void Widen(GraphicStruct* graphic) {
         const std::vector<GraphicStruct*> parts = Members(graphic);
         GraphicStruct* widened = parts.empty() ? graphic : parts[0];
-        SetWhole(widened, kPropScaleSystem, Number(2) ? uint32_t{kScaleWorld} : uint32_t{kScalePaper});
+        SetInteger(widened, kPropScaleSystem, Number(2) ? uint32_t{kScaleWorld} : uint32_t{kScalePaper});
         SetReal(widened, kPropPenWidth, Number(2) ? 6 : 0.1);
     }
 
@@ -179,7 +179,7 @@ TEST_F(Places, ADrawingInTurnsIsTheSameAsOneInOneGo) {
         picture.Draw(Loose(MakeLines({}))); // draws nothing
         uint32_t place = 0;
         int turns = 1;
-        while (!GraphicDrawOn(drawing.Root(), picture.Viewport(), &place, 0))
+        while (!GraphicDrawTimed(drawing.Root(), picture.Viewport(), &place, 0))
             ++turns;
         EXPECT_GT(turns, factor > 1 ? 0 : 2);
         EXPECT_EQ(whole, Colors());

@@ -33,7 +33,7 @@ TEST_F(Texts, HaveTheHeightOfTheirCapitals) {
 TEST_F(Texts, AreJustifiedAroundTheirPosition) {
     GraphicStruct* text = Text("HOHO", 50, 50, 10);
     for (const uint32_t format : {0u, 1u, 2u}) {
-        ASSERT_TRUE(SetWhole(text, kPropTextFormat, format));
+        ASSERT_TRUE(SetInteger(text, kPropTextFormat, format));
         const double left = BoxOf(text).left, right = BoxOf(text).right;
         EXPECT_NEAR((50 - left) / (right - left), format / 2.0, 1e-9);
         Draw();
@@ -101,7 +101,7 @@ TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
 TEST_F(Texts, ShowTheirEffects) {
     GraphicStruct* text = Text("nnnn", 10, 50, 10);
     const auto covered = [&](uint16_t style) {
-        EXPECT_TRUE(SetWhole(text, kPropTextStyle, style));
+        EXPECT_TRUE(SetInteger(text, kPropTextStyle, style));
         Draw();
         return picture.Covered();
     };
@@ -113,7 +113,7 @@ TEST_F(Texts, ShowTheirEffects) {
     EXPECT_GT(covered(0x1000), plain + 60) << "framed";
     EXPECT_GT(covered(0x0040), plain) << "NNNN";
     const double narrow = Width(text);
-    SetWhole(text, kPropTextStyle, 2);
+    SetInteger(text, kPropTextStyle, 2);
     EXPECT_NE(Width(text), narrow) << "bold";
     const int upright = covered(0);
     EXPECT_NE(covered(1), upright) << "italic";

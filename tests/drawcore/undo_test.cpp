@@ -29,9 +29,9 @@ TEST_F(Undo, RevertsACompleteStep) {
     for (GraphicStruct* line : {lines[0], lines[1]}) {
         SetReal(line, kPropPenWidth, 2);
         SetReal(line, kPropPenWidth, 3);
-        SetWhole(line, kPropPenColor, 0xFF);
+        SetInteger(line, kPropPenColor, 0xFF);
         SetText(line, kPropInfo, "changed");
-        SetWhole(line, kPropBrushStyle, 4);
+        SetInteger(line, kPropBrushStyle, 4);
     }
     GraphicSetPenStyle(lines[0], 1);
     EXPECT_EQ(DrawingUndo(drawing), 0) << "still open";
@@ -66,7 +66,7 @@ TEST_F(Undo, RevertsEveryPropertyOfTheSchema) {
             if (property.IsReal()) SetReal(graphic, name, 0.25);
             if (!property.IsText() && !property.IsReal())
                 for (const uint32_t other : {0u, 1u})
-                    if (value() == before) SetWhole(graphic, name, other);
+                    if (value() == before) SetInteger(graphic, name, other);
             EXPECT_TRUE(value() != before || name == std::string(kPropLayer)) << "the only layer";
             DrawingEndUndo(drawing);
             DrawingUndo(drawing);
@@ -178,7 +178,7 @@ TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
         for (GraphicStruct* line : lines)
             SetReal(line, kPropPenWidth, width);
         EXPECT_EQ(DrawingEndUndo(drawing), 3);
-        return DrawingCountForgotten(drawing);
+        return DrawingCountDroppedUndo(drawing);
     };
     EXPECT_EQ(step(2) + step(3) + step(4), 0);
     DrawingSetUndoLimit(drawing, 1); // the last step is always kept
@@ -214,7 +214,7 @@ TEST_F(Undo, KeepsOnlyWhatHasChanged) {
     for (int step = 1; step <= kSteps; ++step) {
         DrawingBeginUndo(drawing);
         for (GraphicStruct* line : lines)
-            SetWhole(line, kPropPenColor, static_cast<uint32_t>(step));
+            SetInteger(line, kPropPenColor, static_cast<uint32_t>(step));
         DrawingEndUndo(drawing);
     }
     EXPECT_LT((HeapBytes() - before) / kGraphics / kSteps, 30u) << "bytes a graphic and step";
@@ -255,8 +255,8 @@ TEST_F(Undo, RevertsAllAttributesOfAText) {
     DrawingBeginUndo(drawing);
     SetReal(text, kPropTextSize, 30);
     SetText(text, kPropTextFont, "DejaVu Sans");
-    SetWhole(text, kPropTextStyle, 2);
-    SetWhole(text, kPropTextFormat, 1);
+    SetInteger(text, kPropTextStyle, 2);
+    SetInteger(text, kPropTextFormat, 1);
     EXPECT_EQ(DrawingEndUndo(drawing), 1);
     EXPECT_GT(BoxOf(text).right, 5 * width);
     EXPECT_EQ(DrawingUndo(drawing), 1);

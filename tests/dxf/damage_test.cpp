@@ -26,7 +26,7 @@ bool TryRead(const std::string& bytes) {
     try {
         const dxf::Document document = dxf::Read(bytes, {});
         dxf::ExtentsOf(document);
-        EXPECT_LE(document.findings.size(), dxf::Document::kMostFindings + 1);
+        EXPECT_LE(document.warnings.size(), dxf::Document::kMaxWarnings + 1);
         return true;
     } catch (const dxf::ReadError& error) {
         const auto isEnd = [](char c) { return c == '\n' || c == '\r'; };

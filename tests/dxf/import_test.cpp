@@ -28,7 +28,7 @@ namespace {
 struct Heard {
     int cancelAt = 1001; // never
     std::vector<int> progress;
-    std::string findings;
+    std::string warnings;
     char message[256] = "not written";
 };
 
@@ -39,7 +39,7 @@ OwnedDrawing Open(const std::wstring& path, Heard& heard) {
         return permille < hears.cancelAt ? 1 : 0;
     };
     const auto warning = [](void* context, int line, const char* text) {
-        static_cast<Heard*>(context)->findings += std::to_string(line) + " " + text + "\n";
+        static_cast<Heard*>(context)->warnings += std::to_string(line) + " " + text + "\n";
     };
     const DxfListener listener = {&heard, progress, warning};
     return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
@@ -348,8 +348,8 @@ TEST(Import, SaysWhatItLeavesOut) {
     Heard heard;
     const OwnedDrawing drawing = OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), heard);
     EXPECT_EQ(Members(drawing).size(), 0u);
-    EXPECT_EQ(heard.findings, "17 LINE is left out: a number that has no place in a drawing, in line 20\n"
-                              "11 1 of type RAY not shown: this type is not read\n"
+    EXPECT_EQ(heard.warnings, "17 LINE omitted: invalid coordinate in line 20\n"
+                              "11 1 of type RAY not shown: unsupported type\n"
                               "0 1 entity of paper space is not shown\n");
     EXPECT_STREQ(heard.message, "");
 }

@@ -29,12 +29,12 @@ TEST(List, HasAnObjectAFile) {
     EXPECT_EQ(list[0]["linetypes"][3],
               json::parse(R"({"name": "STRICH", "pattern_length": 1.0, "dashes": [0.5, -0.25, 0.0, -0.25]})"));
     EXPECT_EQ(list[0]["extents"], json::parse("[[0.0, -1.0], [60.0, 20.0]]"));
-    EXPECT_FALSE(list[0].contains("findings"));
+    EXPECT_FALSE(list[0].contains("warnings"));
     EXPECT_EQ(list[1]["error"], "group code 'ABC' is not a number");
     EXPECT_EQ(list[1]["line"], 3507);
     EXPECT_FALSE(list[1].contains("entities"));
     EXPECT_TRUE(list[2]["line"].is_null());
-    EXPECT_EQ(list[3]["findings"][0]["text"], "block 'NO_SUCH_BLOCK' is not shown here: there is no such block");
+    EXPECT_EQ(list[3]["warnings"][0]["text"], "block 'NO_SUCH_BLOCK' is not shown: the block does not exist");
 }
 
 TEST(List, OfSoundDrawingsIsASuccess) {

@@ -26,15 +26,14 @@ TEST(Structure, DamagedFilesAreRejectedWithTheirLine) {
     };
     const Row rows[] = {
         {"", "the file is empty"},
-        {std::string("AutoCAD Binary DXF\r\n\x1A\0", 22),
-         "line 1: this is a binary DXF file; only the text form is read"},
+        {std::string("AutoCAD Binary DXF\r\n\x1A\0", 22), "line 1: binary DXF files are not supported"},
         {"0\nSECTION\n2\nENTITIES\nABC\nLINE\n", "line 5: group code 'ABC' is not a number"},
-        {"0\nSECTION\n2\nENTITIES\n 4711\nx\n", "line 5: there is no group code 4711"},
-        {"0\nSECTION\n2\nENTITIES\n0\n", "line 5: the file ends within section ENTITIES; it is cut off"},
+        {"0\nSECTION\n2\nENTITIES\n 4711\nx\n", "line 5: invalid group code 4711"},
+        {"0\nSECTION\n2\nENTITIES\n0\n", "line 5: the file is truncated: it ends within section ENTITIES"},
         {"hello\n", "line 1: group code 'hello' is not a number"},
-        {"0\nLINE\n", "line 1: a section or the end of the file is expected, not group code 0 with 'LINE'"},
-        {"0\nSECTION\n8\nENTITIES\n", "line 3: a section without a name"},
-        {Section("ENTITIES", ""), "line 6: the file ends without EOF; it is cut off"},
+        {"0\nLINE\n", "line 1: expected a section or the end of the file, found group code 0 with 'LINE'"},
+        {"0\nSECTION\n8\nENTITIES\n", "line 3: the section has no name"},
+        {Section("ENTITIES", ""), "line 6: the file is truncated: it ends without EOF"},
         {Tags("0|SECTION|2|ENTITIES|0|EOF"), "line 5: the file ends before the section of line 1 has ended"},
         {Tags("0|SECTION|2|OBJECTS|0|SECTION|2|ENTITIES"),
          "line 5: a section begins before the section of line 1 has ended"},
@@ -99,7 +98,7 @@ TEST(Numbers, AreReadAsWritersWriteThem) {
     for (const Row& row : rows) {
         const Document document = ReadEntities(std::string("0|LINE|10|") + row.text);
         ASSERT_EQ(document.entities.size(), row.valid ? 1u : 0u) << row.text;
-        EXPECT_EQ(document.findings.size(), row.valid ? 0u : 1u) << row.text;
+        EXPECT_EQ(document.warnings.size(), row.valid ? 0u : 1u) << row.text;
         if (row.valid) {
             EXPECT_EQ(ShapeOf<Line>(document).start.x, row.value) << row.text;
         }
@@ -135,7 +134,7 @@ TEST(TextStyles, KnowTheirTrueTypeFace) {
                                "1071|50331682|0|STYLE|2||3|ltypeshp.shx|70|1") +
                  Drawing("0|TEXT|7|NOTES|1|x"),
              {});
-    const TextStyle& style = document.At(ShapeOf<Apart<Text>>(document)->style);
+    const TextStyle& style = document.At(ShapeOf<Boxed<Text>>(document)->style);
     EXPECT_EQ(style.fontFace, "Arial");
     EXPECT_TRUE(style.bold && style.italic && style.backward);
     EXPECT_EQ(style.fixedHeight, 2.5);
@@ -163,9 +162,9 @@ TEST(Entities, OfOtherTypesAreCountedAndNamed) {
     const Document document = ReadEntities("0|RAY|10|nonsense|0|RAY|0|POINT|0|BODY");
     EXPECT_EQ(document.entities.size(), 1u);
     EXPECT_EQ(document.entityCounts.at("RAY"), 2u);
-    ASSERT_EQ(document.findings.size(), 2u);
-    EXPECT_EQ(document.findings[1].text, "2 of type RAY not shown: this type is not read");
-    EXPECT_EQ(document.findings[1].line, 11u);
+    ASSERT_EQ(document.warnings.size(), 2u);
+    EXPECT_EQ(document.warnings[1].text, "2 of type RAY not shown: unsupported type");
+    EXPECT_EQ(document.warnings[1].line, 11u);
 }
 
 TEST(Polylines, OldAndLight) {
@@ -202,8 +201,8 @@ TEST(Polylines, MeshesAndFacesAreBounded) {
                      "0|VERTEX|70|128|71|1|72|3|0|VERTEX|70|128|71|-2147483648|0|SEQEND");
     ASSERT_EQ(document.entities.size(), 1u);
     EXPECT_EQ(ShapeOf<Polyline>(document).faces.size(), 1u);
-    ASSERT_EQ(document.findings.size(), 1u);
-    EXPECT_EQ(document.findings[0].line, 11u);
+    ASSERT_EQ(document.warnings.size(), 1u);
+    EXPECT_EQ(document.warnings[0].line, 11u);
 }
 
 TEST(Inserts, HaveTheirAttributesAndArray) {
@@ -212,23 +211,23 @@ TEST(Inserts, HaveTheirAttributesAndArray) {
                      "72|1|0|SEQEND|0|INSERT|2|B|70|99999|71|-7",
                      "0|BLOCK|2|B|10|1|0|ATTDEF|2|NO|0|ATTDEF|70|2|1|fixed|0|ENDBLK"),
              {});
-    const Insert& insert = *ShapeOf<Apart<Insert>>(document, 0);
+    const Insert& insert = *ShapeOf<Boxed<Insert>>(document, 0);
     const Block& block = document.At(insert.block);
     EXPECT_EQ(block.name, "B");
     EXPECT_EQ(block.base.x, 1);
-    EXPECT_EQ(std::get<Apart<Text>>(block.entities.at(0).shape)->role, Text::Role::definition);
-    EXPECT_EQ(std::get<Apart<Text>>(block.entities.at(1).shape)->role, Text::Role::text);
+    EXPECT_EQ(std::get<Boxed<Text>>(block.entities.at(0).shape)->role, Text::Role::definition);
+    EXPECT_EQ(std::get<Boxed<Text>>(block.entities.at(1).shape)->role, Text::Role::text);
     EXPECT_EQ(insert.scaleY, -2);
     EXPECT_EQ(insert.columns, 3u);
     EXPECT_EQ(insert.rows, 1u);
     ASSERT_EQ(insert.attributes.size(), 1u);
-    const Text& attribute = *std::get<Apart<Text>>(insert.attributes[0].shape);
+    const Text& attribute = *std::get<Boxed<Text>>(insert.attributes[0].shape);
     EXPECT_EQ(attribute.tag, "NO");
     EXPECT_TRUE(attribute.hidden);
     EXPECT_EQ(attribute.vertical, Text::Vertical::middle);
     EXPECT_EQ(attribute.horizontal, Text::Horizontal::center);
     EXPECT_EQ(document.entityCounts.at("ATTRIB"), 1u);
-    EXPECT_EQ(ShapeOf<Apart<Insert>>(document, 1)->columns, 32767u);
+    EXPECT_EQ(ShapeOf<Boxed<Insert>>(document, 1)->columns, 32767u);
 }
 
 TEST(Texts, CharactersMayLieOnTheBorderOfTwoPieces) {
@@ -236,7 +235,7 @@ TEST(Texts, CharactersMayLieOnTheBorderOfTwoPieces) {
         Read(Section("HEADER", "9|$ACADVER|1|AC1021") +
                  Drawing("0|MTEXT|3|Stra\xC3|3|\x9F|1|e|50|15|11|0|21|2|31|0|71|5|101|Embedded Object|1|other"),
              {});
-    const MText& text = *ShapeOf<Apart<MText>>(document);
+    const MText& text = *ShapeOf<Boxed<MText>>(document);
     EXPECT_EQ(text.text, "Stra\u00DFe");
     EXPECT_EQ(text.direction.y, 2);
     EXPECT_EQ(text.attachment, 5);
@@ -248,7 +247,7 @@ TEST(Hatches, HaveLoopsAndPatternLines) {
                      "92|1|93|3|72|1|10|1|20|2|11|3|21|4|72|2|10|5|20|6|40|7|50|0|51|90|73|0|"
                      "72|4|94|1|73|0|74|0|95|4|96|2|40|0|40|0|40|1|40|1|10|8|20|9|10|10|20|11|97|0|330|1F|"
                      "75|1|76|1|52|30|41|2|77|1|78|1|53|45|43|1|44|2|45|-3|46|4|79|2|49|0.5|49|-0.25|98|1|10|99|20|99");
-    const Hatch& hatch = *ShapeOf<Apart<Hatch>>(document);
+    const Hatch& hatch = *ShapeOf<Boxed<Hatch>>(document);
     EXPECT_EQ(hatch.pattern, "ANSI31");
     EXPECT_EQ(hatch.elevation, 5);
     ASSERT_EQ(hatch.loops.size(), 2u);
@@ -271,8 +270,8 @@ TEST(Splines, WhatDoesNotFitIsLeftOut) {
     const Document document =
         ReadEntities("0|SPLINE|71|3|40|0|40|1|10|1|20|1|0|SPLINE|71|2000000000|10|1|11|1|21|1|11|2|21|2");
     ASSERT_EQ(document.entities.size(), 1u); // the second one by fit points
-    EXPECT_EQ(ShapeOf<Apart<Spline>>(document)->fitPoints.size(), 2u);
-    EXPECT_EQ(document.findings.size(), 1u);
+    EXPECT_EQ(ShapeOf<Boxed<Spline>>(document)->fitPoints.size(), 2u);
+    EXPECT_EQ(document.warnings.size(), 1u);
 }
 
 TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
@@ -280,34 +279,33 @@ TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
                                            "0|BLOCK|2|A|0|INSERT|2|B|0|ENDBLK|0|BLOCK|2|B|0|INSERT|2|A|0|LINE|0|ENDBLK|"
                                            "0|BLOCK|2|SELF|0|INSERT|2|SELF|0|ENDBLK"),
                                    {});
-    EXPECT_EQ(ShapeOf<Apart<Insert>>(document, 0)->block, BlockIndex::none);
-    EXPECT_NE(ShapeOf<Apart<Insert>>(document, 1)->block, BlockIndex::none);
+    EXPECT_EQ(ShapeOf<Boxed<Insert>>(document, 0)->block, BlockIndex::none);
+    EXPECT_NE(ShapeOf<Boxed<Insert>>(document, 1)->block, BlockIndex::none);
     std::string all;
-    for (const Finding& finding : document.findings)
-        all += finding.text + "\n";
-    EXPECT_EQ(all, "block 'B' is not shown here: the block contains itself\n"
-                   "block 'SELF' is not shown here: the block contains itself\n"
-                   "block 'missing' is not shown here: there is no such block\n");
+    for (const Warning& warning : document.warnings)
+        all += warning.text + "\n";
+    EXPECT_EQ(all, "block 'B' is not shown: the block contains itself\n"
+                   "block 'SELF' is not shown: the block contains itself\n"
+                   "block 'missing' is not shown: the block does not exist\n");
 }
 
 TEST(References, OtherFilesAreNamed) {
     const Document document = Read(Drawing("", "0|BLOCK|2|site|70|4|1|site.dwg|0|ENDBLK"), {});
-    ASSERT_EQ(document.findings.size(), 1u);
-    EXPECT_EQ(document.findings[0].text, "block 'site' is in another file, which is not opened");
+    ASSERT_EQ(document.warnings.size(), 1u);
+    EXPECT_EQ(document.warnings[0].text, "block 'site' is an external reference, which is not supported");
 }
 
 TEST(References, LongChainsAndManyPartsAreCut) {
     std::string chain = "0|BLOCK|2|0|0|LINE|0|ENDBLK";
     for (int i = 1; i < 20000; ++i)
         chain += "|0|BLOCK|2|" + std::to_string(i) + "|0|INSERT|2|" + std::to_string(i - 1) + "|0|ENDBLK";
-    EXPECT_FALSE(Read(Drawing("0|INSERT|2|19999", chain), {}).findings.empty());
+    EXPECT_FALSE(Read(Drawing("0|INSERT|2|19999", chain), {}).warnings.empty());
 
     const Document array =
         Read(Drawing("0|INSERT|2|A|70|30000|71|30000|0|INSERT|2|A|70|100|71|100", "0|BLOCK|2|A|0|LINE|0|ENDBLK"), {});
-    EXPECT_EQ(ShapeOf<Apart<Insert>>(array, 0)->block, BlockIndex::none);
-    EXPECT_NE(ShapeOf<Apart<Insert>>(array, 1)->block, BlockIndex::none);
-    EXPECT_EQ(array.findings.at(0).text,
-              "inserts that are not shown, because the drawing would have too many parts: 1");
+    EXPECT_EQ(ShapeOf<Boxed<Insert>>(array, 0)->block, BlockIndex::none);
+    EXPECT_NE(ShapeOf<Boxed<Insert>>(array, 1)->block, BlockIndex::none);
+    EXPECT_EQ(array.warnings.at(0).text, "insertions not shown because the drawing would have too many parts: 1");
 }
 
 TEST(Findings, AreBounded) {
@@ -315,8 +313,8 @@ TEST(Findings, AreBounded) {
     for (int i = 0; i < 1000; ++i)
         many += "0|LINE|10|nan|";
     const Document document = ReadEntities(many + "0|POINT");
-    ASSERT_EQ(document.findings.size(), Document::kMostFindings + 1);
-    EXPECT_EQ(document.findings.back().text, "and 800 more");
+    ASSERT_EQ(document.warnings.size(), Document::kMaxWarnings + 1);
+    EXPECT_EQ(document.warnings.back().text, "and 800 more");
 }
 
 } // namespace

@@ -84,8 +84,8 @@ void Restructure(const char* from, const char* to, bool adds) {
     for (const Entity& entity : added)
         patch.Add(entity, nullptr);
     std::ofstream(to, std::ios::binary) << patch.Finish();
-    for (const dxf::ReferenceRemoval::Refusal& refusal : patch.Refusals())
-        throw std::runtime_error("the entity at " + std::to_string(refusal.place) + ": " + refusal.why);
+    for (const dxf::ReferenceRemoval::BlockingReference& blocking : patch.BlockingReferences())
+        throw std::runtime_error("the entity at " + std::to_string(blocking.place) + ": " + blocking.why);
     std::cout << document.entities.size() - removed + added.size() << " " << block.entities.size() << "\n";
 }
 

@@ -189,7 +189,7 @@ TEST_F(SaveExact, NamesEntitiesOnADeletedLayer) {
     TableEntryDelete(layers, TableEntryGetIDFirst(layers, nullptr, "A"));
     EXPECT_TRUE(DrawingIsModified(drawing.get()));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "layer \"A\": it cannot be deleted, since RAY 2F (line 59) is on it");
+    EXPECT_EQ(message, "layer \"A\": cannot be deleted because RAY 2F (line 59) is on it");
 }
 
 TEST_F(SaveExact, HoldsTheStyleTreeOfABlock) {
@@ -210,9 +210,9 @@ TEST_F(SaveExact, HoldsTheStyleTreeOfABlock) {
 }
 
 struct Heard {
-    std::vector<std::string> findings;
+    std::vector<std::string> warnings;
     static void Hear(void* context, int line, const char* text) {
-        static_cast<Heard*>(context)->findings.push_back(std::to_string(line) + " " + text);
+        static_cast<Heard*>(context)->warnings.push_back(std::to_string(line) + " " + text);
     }
 };
 
@@ -234,10 +234,10 @@ TEST_F(SaveExact, SavesTheRestAndListsWhatItLeft) {
     const DxfListener listener = {&heard, nullptr, Heard::Hear};
     ASSERT_EQ(Write(drawing, kSaveRest, &listener), kSaveDoneInPart) << message;
     EXPECT_EQ(Saved(), Replaced(text, "30\n8\n0\n", "30\n8\n0\n62\n1\n"));
-    EXPECT_EQ(heard.findings,
+    EXPECT_EQ(heard.warnings,
               (std::vector<std::string>{
-                  "0 a group of graphics was added, which the file format can't store",
-                  "49 LWPOLYLINE 2F (line 49): a polyline has left its plane, which the file format can't store"}));
+                  "0 the file format cannot store a group of graphics",
+                  "49 LWPOLYLINE 2F (line 49): the file format cannot store a polyline that has left its plane"}));
     EXPECT_TRUE(DrawingIsModified(drawing.get())) << "what was left is not saved";
     VertexSet(*Vertices(polyline).begin(), 0, 7, 0);
     GraphicDelete(root, group);
@@ -253,7 +253,7 @@ TEST_F(SaveExact, SaysWhatOtherProgramsWillNotShow) {
     Heard heard;
     const DxfListener listener = {&heard, nullptr, Heard::Hear};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
-    EXPECT_EQ(heard.findings, std::vector<std::string>{
+    EXPECT_EQ(heard.warnings, std::vector<std::string>{
                                   "0 Info of 1 entity is stored as extended data, which other programs do not show"});
 }
 
@@ -270,7 +270,7 @@ TEST_F(SaveExact, NamesWhatRefersToAnEntityThatWasRemoved) {
     GraphicDispose(&removed);
     WriteProperty(First(drawing), kPropPenColor, uint32_t{0x0000FF});
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "LINE 2F (line 49): it cannot be removed, since VIEWPORT 31 (line 63) refers to it");
+    EXPECT_EQ(message, "LINE 2F (line 49): cannot be removed because VIEWPORT 31 (line 63) refers to it");
     for (int times = 0; times < 2; ++times) {
         EXPECT_EQ(Write(drawing, kSaveRest), kSaveDoneInPart) << message;
         EXPECT_EQ(Saved(), Replaced(text, "30\n8\n0\n", "30\n8\n0\n62\n1\n"));

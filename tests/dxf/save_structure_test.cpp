@@ -120,7 +120,7 @@ TEST_F(SaveStructure, MovesVertices) {
                 ++moved;
                 continue;
             }
-            EXPECT_NE(message.find("): the file format can't store a change of its vertices"), std::string::npos)
+            EXPECT_NE(message.find("): the file format cannot store the change of its vertices"), std::string::npos)
                 << message;
             ++refused;
             shift(-8);
@@ -235,11 +235,11 @@ TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
     GraphicStruct* content = BlockGetGraphic(blocks, AddBlock(drawing.get(), "Part"));
     WriteProperty(content, kPropInfo, std::string("of the whole"));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "block \"Part\": the file format can't store properties of the whole");
+    EXPECT_EQ(message, "block \"Part\": the file format cannot store properties of a group");
     WriteProperty(content, kPropInfo, std::string());
     GraphicStruct* group = GraphicAdd(content, GraphicCopyEx(content, 0, 0, 7));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "block \"Part\": a group of graphics was added, which the file format can't store");
+    EXPECT_EQ(message, "block \"Part\": the file format cannot store a group of graphics");
     Remove(content, group);
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 }

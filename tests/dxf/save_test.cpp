@@ -234,7 +234,7 @@ TEST_F(Save, LeavesTheFileAloneWhereItFails) {
 
     GraphicStruct* added = GraphicAdd(DrawingGetRoot(drawing.get()), GraphicNewEx(kGraphicVertices, 0, 0));
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    EXPECT_EQ(message, "a group of graphics was added, which the file format can't store");
+    EXPECT_EQ(message, "the file format cannot store a group of graphics");
     GraphicDelete(DrawingGetRoot(drawing.get()), added);
     GraphicDispose(&added);
 

@@ -43,8 +43,8 @@ Json Describe(const dxf::Contents& drawing) {
                 {"layers", Layers(drawing)},
                 {"linetypes", LineTypes(drawing)},
                 {"extents", Corners(drawing.box)}};
-    for (const dxf::Finding& finding : drawing.findings)
-        object["findings"].push_back({{"line", finding.line ? Json(finding.line) : Json()}, {"text", finding.text}});
+    for (const dxf::Warning& warning : drawing.warnings)
+        object["warnings"].push_back({{"line", warning.line ? Json(warning.line) : Json()}, {"text", warning.text}});
     return object;
 }
 

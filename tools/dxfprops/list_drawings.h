@@ -10,7 +10,7 @@
 #include "drawcore/dxf_document.h"
 
 // Returns what a drawing contains: acadver, entities (type to count in the ENTITIES section), blocks, layers,
-// linetypes, extents and, if something was omitted, findings.
+// linetypes, extents and, if something was omitted, warnings.
 nlohmann::ordered_json Describe(const dxf::Contents& drawing);
 // The same for the drawing in a file; the path is UTF-8. Throws ReadError.
 nlohmann::ordered_json DescribeFile(const std::string& file);

@@ -104,9 +104,9 @@ void PrintSummary(const std::string& file, std::ostream& out) {
     for (const auto& [kind, count] : drawing["entities"].items())
         out << " " << kind << " " << count;
     out << "\n  extents   " << drawing["extents"] << "\n";
-    if (drawing.contains("findings"))
-        for (const auto& finding : drawing["findings"])
-            out << "  line " << finding["line"] << ": " << finding["text"].get<std::string>() << "\n";
+    if (drawing.contains("warnings"))
+        for (const auto& warning : drawing["warnings"])
+            out << "  line " << warning["line"] << ": " << warning["text"].get<std::string>() << "\n";
 }
 
 void Print(const std::vector<Difference>& differences, const std::string& before, const std::string& after,
@@ -268,7 +268,7 @@ std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(
             at = end + 1;
         }
     } catch (const Json::exception& error) {
-        throw std::invalid_argument(std::string("this is not the JSON of get: ") + error.what());
+        throw std::invalid_argument(std::string("not the JSON output of get: ") + error.what());
     }
     return files;
 }

@@ -66,7 +66,7 @@ struct RecordName {
 };
 
 // Something that was left out or repaired while the document was read.
-struct Finding {
+struct Warning {
     uint32_t line = 0; // of the file; 0: no particular line
     std::string text;
 };
@@ -95,7 +95,7 @@ struct Contents {
     std::vector<Layer> layers;
     std::vector<LineType> lineTypes;
     std::optional<std::array<double, 4>> box; // of model space: left, bottom, right, top; none if it is empty
-    std::vector<Finding> findings;
+    std::vector<Warning> warnings;
 };
 
 // An entity of a document, valid as long as its reader.

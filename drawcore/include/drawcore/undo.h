@@ -6,7 +6,7 @@
 //   DrawingUndo(drawing);           // all 12 have their previous values
 //   DrawingRedo(drawing);           // and the new ones again
 //
-// When the steps exceed their memory limit, the oldest ones are dropped; DrawingCountForgotten returns their number.
+// When the steps exceed their memory limit, the oldest ones are dropped; DrawingCountDroppedUndo returns their number.
 //
 // Recorded are properties, attributes and vertices of the graphics that belong to the drawing, but not previews and
 // samples.
@@ -24,7 +24,7 @@ DRAWCORE_API int DrawingEndUndo(DrawingStruct*);
 // Returns the number of graphics that were restored.
 DRAWCORE_API int DrawingCancelUndo(DrawingStruct*);
 // Returns the number of old steps that the last DrawingEndUndo has dropped because of the memory limit.
-DRAWCORE_API int DrawingCountForgotten(DrawingStruct*);
+DRAWCORE_API int DrawingCountDroppedUndo(DrawingStruct*);
 // Sets the memory limit for all steps in bytes (default: 256 MB). The next step to undo and the next one to redo are
 // kept even if they exceed it.
 DRAWCORE_API void DrawingSetUndoLimit(DrawingStruct*, size_t bytes);

@@ -1,7 +1,7 @@
 // Viewing and picking: the functions for a window with a drawing, in addition to orlo/host/viewport.h.
 //
 //   ViewportSetRect(view, &client);
-//   ViewportFitSeen(view, root);                                    // zoom to all
+//   ViewportFitVisible(view, root);                                    // zoom to all
 //   ViewportSetGDIStuff(view, window, dc, MM_TEXT, 1);
 //   GraphicDrawEx2(root, nullptr, view, 0, 1);
 //   GraphicDrawHighlighted(selection, view, RGB(0, 120, 215));
@@ -25,13 +25,13 @@ DRAWCORE_API void ViewportShowLineWeights(ViewportStruct*, int show);
 
 // Fits the visible members of the graphic, those that are not on hidden layers, into the rectangle, as
 // ViewportSetExtents does. If none is visible, fits all of them.
-DRAWCORE_API void ViewportFitSeen(ViewportStruct*, GraphicStruct*);
+DRAWCORE_API void ViewportFitVisible(ViewportStruct*, GraphicStruct*);
 
 // Draws like GraphicDrawEx2 (preview 0) for about the given time. Returns 0 if there is more to draw. *place is 0 for
 // the first call and is passed unchanged to the next one. Until everything is drawn, the viewport and the clipping
 // region must not be changed, and the viewport must not be used to draw anything else. Graphics that are removed or
 // changed meanwhile may be missing.
-DRAWCORE_API int GraphicDrawOn(GraphicStruct* set, ViewportStruct*, uint32_t* place, int milliseconds);
+DRAWCORE_API int GraphicDrawTimed(GraphicStruct* set, ViewportStruct*, uint32_t* place, int milliseconds);
 
 // Draws a graphic and its members in one color, with solid lines that are at least three pixels wide.
 DRAWCORE_API void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct*, uint32_t color);

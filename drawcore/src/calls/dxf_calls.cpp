@@ -3,9 +3,9 @@
 #include <new>
 
 #include "drawcore/include/drawcore/dxf.h"
-#include "drawcore/src/database/progress_report.h"
 #include "drawcore/src/database/dxf_source.h"
 #include "drawcore/src/database/encoding.h"
+#include "drawcore/src/database/progress_report.h"
 #include "drawcore/src/import/dxf_import.h"
 
 using namespace drawcore;
@@ -19,10 +19,10 @@ std::unique_ptr<Drawing> Open(const wchar_t* path, const DxfListener* listener) 
     std::string bytes = dxf::ReadBytes(path);
     dxf::Document document = dxf::Read(bytes, report.Part(0, kReadingShare));
     std::unique_ptr<Drawing> drawing = ImportDxf(document, report.Part(kReadingShare, 1000));
-    for (const dxf::Finding& finding : document.findings)
+    for (const dxf::Warning& warning : document.warnings)
         if (listener && listener->warning)
-            listener->warning(listener->context, static_cast<int>(finding.line),
-                              CodePageFromUtf8(finding.text).c_str());
+            listener->warning(listener->context, static_cast<int>(warning.line),
+                              CodePageFromUtf8(warning.text).c_str());
     drawing->source = std::make_unique<DxfSource>(std::move(bytes), document);
     drawing->source->path = std::filesystem::absolute(path);
     drawing->source->RecordContents(*drawing);
@@ -38,7 +38,7 @@ DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener* listener, 
     try {
         return Open(path, listener).release();
     } catch (const std::bad_alloc&) {
-        CopyText("there is not enough memory for the drawing", message, size);
+        CopyText("not enough memory for the drawing", message, size);
     } catch (const std::exception& error) { // dxf::ReadError, Canceled; an invalid path
         CopyText(error.what(), message, size);
     }

@@ -12,11 +12,11 @@ using namespace drawcore;
 
 namespace {
 
-MatrixStruct* NewAfter(const MatrixStruct* given, const Matrix& step) {
-    const Matrix product = MatrixFromRecord(given) * step;
-    auto* made = new (std::nothrow) MatrixStruct;
-    if (made) std::memcpy(made->at, product.at, sizeof product.at);
-    return made;
+MatrixStruct* NewAfter(const MatrixStruct* matrix, const Matrix& step) {
+    const Matrix product = MatrixFromRecord(matrix) * step;
+    auto* result = new (std::nothrow) MatrixStruct;
+    if (result) std::memcpy(result->at, product.at, sizeof product.at);
+    return result;
 }
 
 Vec3 VectorOf(const VertexStruct* vertex, const Vec3& without) {
@@ -25,26 +25,26 @@ Vec3 VectorOf(const VertexStruct* vertex, const Vec3& without) {
 
 } // namespace
 
-MatrixStruct* MatrixScale(const MatrixStruct* given, const VertexStruct* factors, int) {
-    return NewAfter(given, Matrix::Scaling(VectorOf(factors, {1, 1, 1})));
+MatrixStruct* MatrixScale(const MatrixStruct* matrix, const VertexStruct* factors, int) {
+    return NewAfter(matrix, Matrix::Scaling(VectorOf(factors, {1, 1, 1})));
 }
 
-MatrixStruct* MatrixRotateX(const MatrixStruct* given, double angle, int) {
+MatrixStruct* MatrixRotateX(const MatrixStruct* matrix, double angle, int) {
     const double c = std::cos(angle), s = std::sin(angle);
-    return NewAfter(given, Matrix::FromAxes({1, 0, 0}, {0, c, s}, {0, -s, c}, {}));
+    return NewAfter(matrix, Matrix::FromAxes({1, 0, 0}, {0, c, s}, {0, -s, c}, {}));
 }
 
-MatrixStruct* MatrixRotateY(const MatrixStruct* given, double angle, int) {
+MatrixStruct* MatrixRotateY(const MatrixStruct* matrix, double angle, int) {
     const double c = std::cos(angle), s = std::sin(angle);
-    return NewAfter(given, Matrix::FromAxes({c, 0, -s}, {0, 1, 0}, {s, 0, c}, {}));
+    return NewAfter(matrix, Matrix::FromAxes({c, 0, -s}, {0, 1, 0}, {s, 0, c}, {}));
 }
 
-MatrixStruct* MatrixRotateZ(const MatrixStruct* given, double angle, int) {
-    return NewAfter(given, Matrix::RotationZ(angle));
+MatrixStruct* MatrixRotateZ(const MatrixStruct* matrix, double angle, int) {
+    return NewAfter(matrix, Matrix::RotationZ(angle));
 }
 
-MatrixStruct* MatrixOffset(const MatrixStruct* given, const VertexStruct* by) {
-    return NewAfter(given, Matrix::Translation(VectorOf(by, {})));
+MatrixStruct* MatrixOffset(const MatrixStruct* matrix, const VertexStruct* by) {
+    return NewAfter(matrix, Matrix::Translation(VectorOf(by, {})));
 }
 
 void MatrixDispose(MatrixStruct** matrix) {

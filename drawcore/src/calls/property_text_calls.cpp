@@ -30,7 +30,7 @@ const char* TableOf(PropertyMeaning meaning) {
 
 std::string ValueText(const Drawing* drawing, const PropertyInfo& info, uint32_t value) {
     const char* name = TableOf(info.meaning);
-    if (!name || WordOf(info.meaning, value)) return WholeText(info, value);
+    if (!name || WordOf(info.meaning, value)) return IntegerText(info, value);
     if (info.meaning == PropertyMeaning::Block && value == kNoId) return "";
     const Table* table = drawing ? drawing->FindTable(name) : nullptr;
     const TableEntry* entry = table ? table->At(static_cast<Id>(value)) : nullptr;

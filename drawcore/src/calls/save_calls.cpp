@@ -26,7 +26,7 @@ int DrawingSaveDxf(DrawingStruct* drawing, const wchar_t* path, uint32_t flags, 
         CopyText(canceled.what(), message, size);
         return kSaveCanceled;
     } catch (const std::bad_alloc&) {
-        CopyText("there is not enough memory to save the drawing", message, size);
+        CopyText("not enough memory to save the drawing", message, size);
     } catch (const std::exception& error) { // SaveError, ReadError, FileError, or an invalid path
         CopyText(error.what(), message, size);
     }

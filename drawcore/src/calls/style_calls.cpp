@@ -83,9 +83,9 @@ uint16_t BrushStyleAddLines(TableStruct* table, const char* name, const BrushLin
     auto* styles = dynamic_cast<BrushStyleTable*>(Table::Find(table));
     if (!styles || !name || count < 0 || count > kMostLines || (count && !lines)) return kNoId;
     if (!std::all_of(lines, lines + count, HasFiniteNumbers)) return kNoId;
-    std::vector<PatternLine> made;
-    std::transform(lines, lines + count, std::back_inserter(made), FromHost);
-    return styles->Add(std::make_unique<BrushStyle>(name, std::move(made)));
+    std::vector<PatternLine> patternLines;
+    std::transform(lines, lines + count, std::back_inserter(patternLines), FromHost);
+    return styles->Add(std::make_unique<BrushStyle>(name, std::move(patternLines)));
 }
 
 namespace {

@@ -50,7 +50,7 @@ DrawingStruct* TableGetOwner(TableStruct* table) {
 
 uint16_t TableEntryAdd(TableStruct* table, const char* name, void* data) {
     Table* found = Table::Find(table);
-    return found && name && found->Takes(name) ? found->Add(found->MakeEntry(name, data)) : kNoId;
+    return found && name && found->CanAdd(name) ? found->Add(found->MakeEntry(name, data)) : kNoId;
 }
 
 int TableEntryDelete(TableStruct* table, uint16_t id) {
@@ -79,9 +79,9 @@ int SetVariable(TableStruct* table, uint16_t id, Table::Value value) {
 } // namespace
 
 int TableGetIntVar(TableStruct* table, uint16_t id, long* value) {
-    int whole = 0;
-    if (!value || !GetVariable(table, id, &whole)) return 0;
-    *value = whole;
+    int integer = 0;
+    if (!value || !GetVariable(table, id, &integer)) return 0;
+    *value = integer;
     return 1;
 }
 

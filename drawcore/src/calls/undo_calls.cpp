@@ -50,7 +50,7 @@ int DrawingCountRedo(DrawingStruct* drawing) {
     return static_cast<int>(Ask(drawing, &UndoLog::UndoneSteps));
 }
 
-int DrawingCountForgotten(DrawingStruct* drawing) {
+int DrawingCountDroppedUndo(DrawingStruct* drawing) {
     return Ask(drawing, &UndoLog::Dropped);
 }
 
@@ -59,7 +59,7 @@ uint32_t DrawingGetUndoMark(DrawingStruct* drawing) {
 }
 
 void DrawingSetUndoLimit(DrawingStruct* drawing, size_t bytes) {
-    if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetRoom(bytes);
+    if (Drawing* found = Drawing::Find(drawing)) found->Undo().SetMemoryLimit(bytes);
 }
 
 void DrawingSetChangeListener(DrawingStruct* drawing, const ChangeListener* listener) {

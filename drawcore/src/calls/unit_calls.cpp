@@ -25,7 +25,7 @@ const LengthUnit* TextUnit(const Table& units, uint16_t display, uint16_t number
 }
 
 // Copies text to the caller's buffer only if it fits, because a truncated number would be a different one.
-int Give(const std::string& text, char* buffer, int size) {
+int CopyIfFits(const std::string& text, char* buffer, int size) {
     if (text.empty() || !buffer || size <= 0 || text.size() >= static_cast<size_t>(size)) return 0;
     CopyText(text, buffer, size);
     return 1;
@@ -49,7 +49,7 @@ int NumberToText(Table* units, uint16_t display, uint16_t number, double value, 
     LengthFormat format = LengthFormatOf(*units);
     format.suffix = suffix;
     if (number != kUnitDrawing) format.system = LengthSystem::Decimal; // lengths on paper are not written in feet
-    return Give(WriteLength(value * NumberUnit(number, *of), *shown, format), buffer, size);
+    return CopyIfFits(WriteLength(value * NumberUnit(number, *of), *shown, format), buffer, size);
 }
 
 Table* UnitsOf(DrawingStruct* drawing) {
@@ -111,11 +111,11 @@ int DrawingStdNumericToTextEx(DrawingStruct* drawing, double value, char* buffer
 double UnitsGetScaleValue(TableStruct* units, const char* text) {
     const Table* table = Table::Find(units);
     const LengthUnit* unit = table ? UnitOfVariable(*table, kUnitDrawing) : nullptr;
-    const std::string_view whole = text ? text : "";
-    const size_t mark = whole.find_first_of(":=");
+    const std::string_view input = text ? text : "";
+    const size_t mark = input.find_first_of(":=");
     double paper = 0, world = 0;
     if (!unit || mark == std::string_view::npos) return 0.0;
-    if (!ReadLength(whole.substr(0, mark), *unit, paper) || !ReadLength(whole.substr(mark + 1), *unit, world))
+    if (!ReadLength(input.substr(0, mark), *unit, paper) || !ReadLength(input.substr(mark + 1), *unit, world))
         return 0.0;
     const double scale = world / paper;
     return paper > 0 && world > 0 && std::isfinite(scale) ? scale : 0.0;
@@ -126,7 +126,7 @@ int UnitsMakeScaleString(TableStruct*, double scale, char* buffer, int size) {
     constexpr int kDigits = 12;
     const std::string text =
         scale >= 1 ? "1 : " + DecimalText(scale, kDigits) : DecimalText(1 / scale, kDigits) + " : 1";
-    return Give(text, buffer, size);
+    return CopyIfFits(text, buffer, size);
 }
 
 int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value) {
@@ -149,12 +149,12 @@ int DrawingStdTextToAngle(DrawingStruct* drawing, const char* text, double* valu
 
 int DrawingStdAngleToText(DrawingStruct* drawing, double value, char* buffer, int size, int) {
     const Table* units = UnitsOf(drawing);
-    return units ? Give(WriteAngle(value, AngleFormatOf(*units)), buffer, size) : 0;
+    return units ? CopyIfFits(WriteAngle(value, AngleFormatOf(*units)), buffer, size) : 0;
 }
 
 int DrawingGetScaleString(DrawingStruct* drawing, char* buffer, int size) {
     const Drawing* found = Drawing::Find(drawing);
-    return found ? Give(found->scaleText, buffer, size) : 0;
+    return found ? CopyIfFits(found->scaleText, buffer, size) : 0;
 }
 
 int DrawingSetScaleString(DrawingStruct* drawing, const char* text) {

@@ -30,12 +30,12 @@ void ViewportSetExtents(ViewportStruct* viewport, const ExtentsStruct* extents, 
     if (viewport && extents && fit == kFitWhole) Viewport::From(viewport)->Show(*Extents::From(extents));
 }
 
-void ViewportFitSeen(ViewportStruct* viewport, GraphicStruct* graphic) {
+void ViewportFitVisible(ViewportStruct* viewport, GraphicStruct* graphic) {
     if (!viewport || !graphic) return;
     Viewport& view = *Viewport::From(viewport);
     const Graphic& all = *Graphic::From(graphic);
-    const Extents seen = VisibleExtents(all, DrawingFor(view, all));
-    view.Show(seen.IsEmpty() ? all.GetExtents() : seen);
+    const Extents visible = VisibleExtents(all, DrawingFor(view, all));
+    view.Show(visible.IsEmpty() ? all.GetExtents() : visible);
 }
 
 void ViewportSetGDIStuff(ViewportStruct* viewport, HWND, HDC dc, int mapMode, int) {
@@ -63,7 +63,7 @@ void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, Viewport
     graphic->dwFlags &= ~kFlagDirty;
 }
 
-int GraphicDrawOn(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t* place, int milliseconds) {
+int GraphicDrawTimed(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t* place, int milliseconds) {
     if (!graphic || !viewport || !place) return 1;
     Viewport& view = *Viewport::From(viewport);
     const auto end = PaintClock::now() + std::chrono::milliseconds(milliseconds);

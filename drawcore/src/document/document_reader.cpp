@@ -32,7 +32,7 @@ Contents ContentsOf(const Document& document) {
         if (type.declared) contents.lineTypes.push_back({type.name, type.patternLength, type.dashes});
     const drawcore::Extents box = ExtentsOf(document);
     if (!box.IsEmpty()) contents.box = {box.low.x, box.low.y, box.high.x, box.high.y};
-    contents.findings = document.findings;
+    contents.warnings = document.warnings;
     return contents;
 }
 
@@ -59,7 +59,7 @@ void DocumentReader::AddEntities(const Block* block, std::vector<EntityRef>& to,
     for (const Entity& entity : block ? block->entities : document_->entities) {
         if (!block && entity.inPaperSpace != (space == Space::paper)) continue;
         add(entity, nullptr);
-        if (const auto* insert = std::get_if<Apart<Insert>>(&entity.shape))
+        if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
             for (const Entity& attribute : (*insert)->attributes)
                 add(attribute, &entity);
     }
@@ -94,7 +94,8 @@ std::vector<EntityRef> DocumentReader::EntitiesOf(const std::string& name) const
         }
         names += (names.empty() ? "" : ", ") + shown;
     }
-    throw SaveError(names.empty() ? "block: the drawing has none" : "block: '" + name + "' is not one of " + names);
+    throw SaveError(names.empty() ? "block: the drawing has no blocks"
+                                  : "block: '" + name + "' is not one of " + names);
 }
 
 RecordName DocumentReader::NameOf(const EntityRef& entity) const {

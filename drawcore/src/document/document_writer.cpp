@@ -21,14 +21,14 @@ struct DocumentWriter::Parts {
         : reader(from), patch(reader.Text(), reader.document_->Tables()), known(*reader.document_) {}
 
     // Throws SaveError unless the changed document has what was wanted.
-    void RequireWanted(const DocumentReader& after) const;
+    void RequireRequestedValues(const DocumentReader& after) const;
     void RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
                          const DocumentReader& after) const;
     void RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
                      const DocumentReader& after) const;
     void RequireAppearance(const EntityRef& entity, const Appearance& appearance, const EntityRef& now,
                            const DocumentReader& after) const;
-    [[noreturn]] static void Differ(const std::string& what);
+    [[noreturn]] static void FailVerification(const std::string& what);
 
     const DocumentReader& reader;
     // Properties of the sheet in the order in which they are set, and the others.
@@ -111,8 +111,8 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
 
 Appearance DocumentWriter::Parts::AppearanceWith(const std::string& contents, const Entity& entity) {
     Entity changed = patch.EntityAt(entity.offset);
-    if (auto* text = std::get_if<Apart<Text>>(&changed.shape)) (*text)->text = contents;
-    if (auto* text = std::get_if<Apart<MText>>(&changed.shape)) (*text)->text = contents;
+    if (auto* text = std::get_if<Boxed<Text>>(&changed.shape)) (*text)->text = contents;
+    if (auto* text = std::get_if<Boxed<MText>>(&changed.shape)) (*text)->text = contents;
     return AppearanceOf(known, changed);
 }
 
@@ -129,7 +129,7 @@ bool HasValuesOf(const Layer& a, const Layer& b) {
 
 void SetColor(const std::string& text, Layer& layer) {
     const uint32_t color = ReadColor(text, false);
-    if (color == kColorByLayer || color == kColorByBlock) throw SaveError("a layer needs a color of its own");
+    if (color == kColorByLayer || color == kColorByBlock) throw SaveError("a layer cannot inherit its color");
     const int index = NearestIndex(color);
     layer.color = layer.color < 0 ? -index : index;
     layer.trueColor = ColorOfIndex(index) == color ? -1 : TrueColorOf(color);
@@ -139,7 +139,7 @@ int ReadLineWeight(const std::string& text) {
     if (IsSameName(text, "Default")) return kLineWeightDefault;
     double millimeters = 0;
     if (!drawcore::ReadLength(text, *drawcore::FindLengthUnit("mm"), millimeters) || millimeters < 0)
-        throw SaveError("'" + text + "' is not a line weight, as in \"0.5 mm\" or Default");
+        throw SaveError("'" + text + "' is not a line weight, such as \"0.5 mm\" or Default");
     return NearestWeight(millimeters / kMillimetersPerInch);
 }
 
@@ -178,12 +178,12 @@ std::string DocumentWriter::Parts::LineTypeNamed(const std::string& name) const 
 
 void DocumentWriter::Parts::Rename(LayerIndex index, const std::string& name) {
     if (name.empty() || name.find_first_of("<>/\\\":;?*|=`") != std::string::npos)
-        throw SaveError("'" + name + "' is not a name of a layer");
-    if (patch.Describe(index).name == "0") throw SaveError("layer 0 keeps its name");
+        throw SaveError("'" + name + "' is not a valid layer name");
+    if (patch.Describe(index).name == "0") throw SaveError("layer 0 cannot be renamed");
     for (const Layer& layer : known.layers)
         if (layer.declared && IsSameName(ToDisplayText(layer.name), name) &&
             !IsSameName(ToDisplayText(patch.Describe(index).name), name))
-            throw SaveError("there is a layer '" + name + "' already");
+            throw SaveError("layer '" + name + "' already exists");
     patch.RenameLayer(index, name);
 }
 
@@ -194,7 +194,7 @@ std::vector<std::string> DocumentWriter::Notes() const {
     return notes;
 }
 
-void DocumentWriter::Parts::RequireWanted(const DocumentReader& after) const {
+void DocumentWriter::Parts::RequireRequestedValues(const DocumentReader& after) const {
     RequireEntities(reader.Entities(), after.Entities(), after);
     RequireEntities(reader.PaperEntities(), after.PaperEntities(), after);
     for (const Layer& layer : patch.Known().layers) {
@@ -203,17 +203,17 @@ void DocumentWriter::Parts::RequireWanted(const DocumentReader& after) const {
             return IsSameName(ToDisplayText(other.name), ToDisplayText(layer.name)) && HasValuesOf(other, layer);
         };
         const std::vector<Layer>& layers = after.document_->layers;
-        if (std::none_of(layers.begin(), layers.end(), isIt)) Differ("layer " + ToDisplayText(layer.name));
+        if (std::none_of(layers.begin(), layers.end(), isIt)) FailVerification("layer " + ToDisplayText(layer.name));
     }
 }
 
-void DocumentWriter::Parts::Differ(const std::string& what) {
-    throw SaveError("the changed drawing would not hold " + what);
+void DocumentWriter::Parts::FailVerification(const std::string& what) {
+    throw SaveError("verification of the changed drawing failed: " + what + " differs");
 }
 
 void DocumentWriter::Parts::RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
                                             const DocumentReader& after) const {
-    if (before.size() != now.size()) Differ("all entities");
+    if (before.size() != now.size()) FailVerification("the number of entities");
     for (size_t i = 0; i < before.size(); ++i) {
         const auto change = wanted.find(before[i].entity_->offset);
         if (change != wanted.end()) RequireEdit(before[i], change->second.edit, now[i], after);
@@ -226,7 +226,7 @@ void DocumentWriter::Parts::RequireEntities(const std::vector<EntityRef>& before
 void DocumentWriter::Parts::RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
                                         const DocumentReader& after) const {
     const auto require = [&](bool isGood, const char* name) {
-        if (!isGood) Differ(name + (" of " + reader.NameOf(entity).Text()));
+        if (!isGood) FailVerification(name + (" of " + reader.NameOf(entity).Text()));
     };
     if (edit.text) require(after.Get(now, "Text") == *edit.text, "Text");
     const std::optional<AxisEnds> ends = edit.EndsOf(*entity.entity_);
@@ -244,14 +244,14 @@ void DocumentWriter::Parts::RequireAppearance(const EntityRef& entity, const App
     const PropertyTexts texts(tables);
     for (const std::string& name : PropertyTexts::Names())
         if (texts.Get(name, appearance) != after.texts_->Get(name, other))
-            Differ(name + " of " + reader.NameOf(entity).Text());
-    Differ("the appearance of " + reader.NameOf(entity).Text());
+            FailVerification(name + " of " + reader.NameOf(entity).Text());
+    FailVerification("the appearance of " + reader.NameOf(entity).Text());
 }
 
 std::string DocumentWriter::Finish() {
     const std::string& bytes = parts_->reader.Bytes();
     DocumentReader after(bytes.substr(0, bytes.size() - parts_->reader.Text().size()) + parts_->patch.Finish());
-    parts_->RequireWanted(after);
+    parts_->RequireRequestedValues(after);
     return after.Bytes();
 }
 

@@ -45,17 +45,17 @@ std::string PointText(const Vec3& point) {
 }
 
 const Insert* InsertOf(const Entity& entity) {
-    const auto* insert = std::get_if<Apart<Insert>>(&entity.shape);
+    const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape);
     return insert ? insert->get() : nullptr;
 }
 
 const Text* TextOf(const Entity& entity) {
-    const auto* text = std::get_if<Apart<Text>>(&entity.shape);
+    const auto* text = std::get_if<Boxed<Text>>(&entity.shape);
     return text ? text->get() : nullptr;
 }
 
 const MText* ParagraphsOf(const Entity& entity) {
-    const auto* text = std::get_if<Apart<MText>>(&entity.shape);
+    const auto* text = std::get_if<Boxed<MText>>(&entity.shape);
     return text ? text->get() : nullptr;
 }
 
@@ -63,7 +63,7 @@ Vec3 ReadScale(const std::string& text) {
     std::vector<double> factors = ReadNumbers(text);
     if (factors.size() == 1) factors.resize(3, factors[0]);
     if (factors.size() != 3 || std::count(factors.begin(), factors.end(), 0.0) != 0)
-        throw SaveError("'" + text + "' is not a scale, as in 2 or 2,2,1");
+        throw SaveError("'" + text + "' is not a scale, such as 2 or 2,2,1");
     return {factors[0], factors[1], factors[2]};
 }
 
@@ -151,7 +151,7 @@ std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
 Vec3 ReadPoint(const std::string& text) {
     std::vector<double> numbers = ReadNumbers(text);
     if (numbers.size() == 2) numbers.push_back(0);
-    if (numbers.size() != 3) throw SaveError("'" + text + "' is not a point, as in 1.5,2 or 1.5,2,0");
+    if (numbers.size() != 3) throw SaveError("'" + text + "' is not a point, such as 1.5,2 or 1.5,2,0");
     return {numbers[0], numbers[1], numbers[2]};
 }
 
@@ -197,7 +197,7 @@ std::string EntityTexts::Normalized(std::string_view name, const std::string& te
 
 void EntityTexts::Set(std::string_view name, const std::string& text, EntityEdit& edit) {
     const Row& row = *Find(name);
-    if (!row.set) throw SaveError(std::string(row.name) + ": it cannot be set");
+    if (!row.set) throw SaveError(std::string(row.name) + " cannot be set");
     try {
         row.set(text, edit);
     } catch (const SaveError& error) {

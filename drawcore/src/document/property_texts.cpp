@@ -23,14 +23,14 @@ char drawcore::DecimalMark() {
 namespace dxf {
 
 using drawcore::ColorText;
+using drawcore::IntegerText;
 using drawcore::PropertyWord;
 using drawcore::TextStyleText;
-using drawcore::WholeText;
 using drawcore::WordsOf;
 
 namespace {
 
-[[noreturn]] void Refuse(const std::string& text, const std::string& allowed) {
+[[noreturn]] void ThrowNotOneOf(const std::string& text, const std::string& allowed) {
     throw SaveError("'" + text + "' is not one of " + allowed);
 }
 
@@ -56,7 +56,7 @@ std::optional<uint32_t> FindWord(const std::vector<PropertyWord>& words, const s
 
 uint32_t ReadWord(const std::vector<PropertyWord>& words, const std::string& text) {
     const std::optional<uint32_t> value = FindWord(words, text);
-    if (!value) Refuse(text, Listed(TextsOf(words)));
+    if (!value) ThrowNotOneOf(text, Listed(TextsOf(words)));
     return *value;
 }
 
@@ -101,7 +101,7 @@ uint32_t ReadColor(const std::string& text, bool ofBrush) {
     std::vector<std::string> allowed = TextsOf(markers);
     for (int index = 1; index <= 7; ++index)
         allowed.push_back(NameOfIndex(index));
-    Refuse(text, Listed(allowed) + ", Color 8 to Color 255, 1 to 255, #RRGGBB, R,G,B");
+    ThrowNotOneOf(text, Listed(allowed) + ", Color 8 to Color 255, 1 to 255, #RRGGBB, R,G,B");
 }
 
 namespace {
@@ -125,7 +125,7 @@ double ReadNumber(const std::string& text) {
     double value = 0;
     drawcore::TextCursor cursor(text);
     if (!drawcore::ReadCalculation(cursor, value) || !cursor.AtEnd() || value < 0)
-        throw SaveError("'" + text + "' is not a number of 0 or more");
+        throw SaveError("'" + text + "' is not a non-negative number");
     return value;
 }
 
@@ -139,18 +139,18 @@ uint32_t ReadWhole(const PropertyInfo& info, const std::string& text) {
     return static_cast<uint32_t>(number);
 }
 
-template <class Index, class Thing>
-std::optional<Index> FindName(const std::vector<Thing>& things, const std::string& name) {
-    for (size_t i = 0; i < things.size(); ++i)
-        if (IsSameName(ToDisplayText(things[i].name), name)) return Index(i);
+template <class Index, class Object>
+std::optional<Index> FindName(const std::vector<Object>& objects, const std::string& name) {
+    for (size_t i = 0; i < objects.size(); ++i)
+        if (IsSameName(ToDisplayText(objects[i].name), name)) return Index(i);
     return std::nullopt;
 }
 
-template <class Thing>
-std::vector<std::string> NamesOf(const std::vector<Thing>& things) {
+template <class Object>
+std::vector<std::string> NamesOf(const std::vector<Object>& objects) {
     std::vector<std::string> names;
-    for (const Thing& thing : things)
-        names.push_back(ToDisplayText(thing.name));
+    for (const Object& object : objects)
+        names.push_back(ToDisplayText(object.name));
     return names;
 }
 
@@ -177,7 +177,7 @@ struct PropertyForms {
     static double ReadLength(const std::string& text, const drawcore::LengthUnit& unit) {
         double millimeters = 0;
         if (!drawcore::ReadLength(text, unit, millimeters) || millimeters < 0)
-            throw SaveError("'" + text + "' is not a length of 0 or more, as in \"0.5 mm\"");
+            throw SaveError("'" + text + "' is not a non-negative length, such as \"0.5 mm\"");
         return millimeters;
     }
     // Formats lengths with all digits, so that setting them again does not change them.
@@ -193,12 +193,12 @@ struct PropertyForms {
     static void SetLayer(const PropertyTexts& of, const PropertyInfo&, const std::string& text,
                          Appearance& appearance) {
         const auto found = FindName<LayerIndex>(of.document_.layers, text);
-        if (!found) Refuse(text, Listed(NamesOf(of.document_.layers)));
+        if (!found) ThrowNotOneOf(text, Listed(NamesOf(of.document_.layers)));
         appearance.layer = *found;
     }
 
     static std::string GetSystem(const PropertyTexts&, const PropertyInfo& info, const Appearance& appearance) {
-        return WholeText(info, appearance.worldWidth ? kScaleWorld : kScalePaper);
+        return IntegerText(info, appearance.worldWidth ? kScaleWorld : kScalePaper);
     }
     // A width in drawing units must be a number rather than a marker.
     static void SetSystem(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
@@ -233,9 +233,9 @@ struct PropertyForms {
 
     static std::string GetLineType(const PropertyTexts& of, const PropertyInfo& info, const Appearance& appearance) {
         if (appearance.lineType < LineTypeIndex::none) return ToDisplayText(of.document_.At(appearance.lineType).name);
-        return WholeText(info, appearance.lineType == LineTypeIndex::byLayer   ? kLineStyleByLayer
-                               : appearance.lineType == LineTypeIndex::byBlock ? kLineStyleByBlock
-                                                                               : kLineStyleNone);
+        return IntegerText(info, appearance.lineType == LineTypeIndex::byLayer   ? kLineStyleByLayer
+                                 : appearance.lineType == LineTypeIndex::byBlock ? kLineStyleByBlock
+                                                                                 : kLineStyleNone);
     }
     static void SetLineType(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
                             Appearance& appearance) {
@@ -246,15 +246,16 @@ struct PropertyForms {
         else if (const auto found = FindName<LineTypeIndex>(of.document_.lineTypes, text))
             appearance.lineType = *found;
         else
-            Refuse(text, Listed(TextsOf(WordsOf(info.meaning))) + ", " + Listed(NamesOf(of.document_.lineTypes)));
+            ThrowNotOneOf(text,
+                          Listed(TextsOf(WordsOf(info.meaning))) + ", " + Listed(NamesOf(of.document_.lineTypes)));
     }
 
     static std::string GetBrush(const PropertyTexts&, const PropertyInfo& info, const Appearance& appearance) {
-        return appearance.brush.style.empty() ? WholeText(info, kBrushStyleNone) : appearance.brush.style;
+        return appearance.brush.style.empty() ? IntegerText(info, kBrushStyleNone) : appearance.brush.style;
     }
     static void SetBrush(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
                          Appearance& appearance) {
-        std::vector<std::string> allowed = {WholeText(info, kBrushStyleNone)};
+        std::vector<std::string> allowed = {IntegerText(info, kBrushStyleNone)};
         const auto take = [&](const std::string& style, const std::vector<Hatch::PatternLine>& lines) {
             allowed.push_back(style);
             if (!IsSameName(style, text)) return false;
@@ -271,14 +272,14 @@ struct PropertyForms {
             if (take(brush.name, brush.lines)) return;
         for (const BrushAppearance& brush : of.patterns_)
             if (take(brush.style, brush.lines)) return;
-        Refuse(text, Listed(allowed));
+        ThrowNotOneOf(text, Listed(allowed));
     }
 
     static std::string GetPlain(const PropertyTexts& of, const PropertyInfo& info, const Appearance& appearance) {
         const std::optional<double> number = NumberOf(appearance, info.name);
         constexpr int kDigits = 9;
         if (!number) return TextOf(appearance, info.name);
-        if (!info.IsReal()) return WholeText(info, static_cast<uint32_t>(*number));
+        if (!info.IsReal()) return IntegerText(info, static_cast<uint32_t>(*number));
         if (info.meaning == PropertyMeaning::Length) return LengthText(of, *number);
         if (info.meaning == PropertyMeaning::Angle)
             return drawcore::WriteAngle(*number, {of.units_.angleSystem, kDigits});
@@ -289,7 +290,7 @@ struct PropertyForms {
         if (info.IsText()) return SetText(appearance, info.name, text);
         if (info.meaning == PropertyMeaning::Block) {
             if (!text.empty() && !FindName<BlockIndex>(of.document_.blocks, text))
-                Refuse(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
+                ThrowNotOneOf(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
             return SetText(appearance, info.name, text);
         }
         SetNumber(appearance, info.name, info.IsReal() ? ReadReal(of, info, text) : ReadWhole(info, text));
@@ -305,7 +306,7 @@ struct PropertyForms {
         const double value =
             isLength ? ReadLength(text, DrawingUnit(of)) / DrawingUnit(of).millimeters : ReadNumber(text);
         if (value < info.low || value > info.high)
-            throw SaveError(info.name == std::string_view(kPropTextSize) ? "a text has a height above 0"
+            throw SaveError(info.name == std::string_view(kPropTextSize) ? "the height of a text must be greater than 0"
                                                                          : "'" + text + "' is out of range");
         return value;
     }
@@ -349,7 +350,7 @@ PropertyTexts::PropertyTexts(const Document& document)
 
 void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
     for (const Entity& entity : entities) {
-        if (!std::holds_alternative<Apart<Hatch>>(entity.shape)) continue;
+        if (!std::holds_alternative<Boxed<Hatch>>(entity.shape)) continue;
         BrushAppearance brush = AppearanceOf(document_, entity).brush;
         const auto known = [&](const BrushAppearance& other) { return other.style == brush.style; };
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
@@ -387,9 +388,9 @@ std::optional<double> PropertyTexts::NumberOf(std::string_view name, const Appea
 
 bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
     const auto is = [&](auto... kinds) { return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...); };
-    if (is(Apart<Viewport>())) return false;
-    const int owner = is(Apart<Text>(), Apart<MText>())         ? kOfTexts
-                      : is(Apart<Insert>(), Apart<Dimension>()) ? kOfInserts
+    if (is(Boxed<Viewport>())) return false;
+    const int owner = is(Boxed<Text>(), Boxed<MText>())         ? kOfTexts
+                      : is(Boxed<Insert>(), Boxed<Dimension>()) ? kOfInserts
                                                                 : kOfShapes;
     return InfoOf(name).owners & owner;
 }

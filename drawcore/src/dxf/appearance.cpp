@@ -29,19 +29,19 @@ public:
         appearance_.width = width;
         appearance_.worldWidth = true;
     }
-    void operator()(const Apart<Face>& face) {
+    void operator()(const Boxed<Face>& face) {
         if (face->filled) appearance_.brush.style = kSolidBrush;
     }
-    void operator()(const Apart<Hatch>& hatch) {
+    void operator()(const Boxed<Hatch>& hatch) {
         appearance_.brush = BrushOf(*hatch);
         if (!appearance_.brush.style.empty()) appearance_.lineType = LineTypeIndex::none; // a hatch has no outline
     }
-    void operator()(const Apart<Text>& text) {
+    void operator()(const Boxed<Text>& text) {
         appearance_.text = TextAppearanceOf(*text, document_.At(text->style));
         if (appearance_.text.style & (kTextUnderline | kTextStrikethrough) && IsPartlyMarked(*text))
             appearance_.varied = kVariedStyle;
     }
-    void operator()(const Apart<MText>& text) {
+    void operator()(const Boxed<MText>& text) {
         const FormattedText formatted = ReadInlineCodes(text->text, HeightOf(*text, document_));
         const InlineFormat format = formatted.Prevailing();
         appearance_.varied = VariedBits(formatted, format);

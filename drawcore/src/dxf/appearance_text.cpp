@@ -113,8 +113,8 @@ bool IsPartlyMarked(const Text& text) {
     if (text.role == Text::Role::definition) return false;
     const LineText line = ReadControlCodes(ToDisplayText(text.text));
     const auto marksPart = [&](bool marks, char letter) {
-        const std::string mark = std::string("%%") + letter, whole = mark + WithoutSwitch(text.text, letter);
-        return marks && text.text != whole && text.text != whole + mark;
+        const std::string mark = std::string("%%") + letter, marked = mark + WithoutSwitch(text.text, letter);
+        return marks && text.text != marked && text.text != marked + mark;
     };
     return marksPart(line.underlined, 'u') || marksPart(line.struckThrough, 'k');
 }

@@ -87,10 +87,10 @@ struct Document {
     // Number of records in the ENTITIES section by type, including skipped ones and VERTEX, ATTRIB and SEQEND.
     std::map<std::string, uint64_t, std::less<>> entityCounts;
 
-    std::vector<Finding> findings; // at most kMostFindings, then one with the number of others
-    static constexpr size_t kMostFindings = 200;
+    std::vector<Warning> warnings; // at most kMaxWarnings, then one with the number of others
+    static constexpr size_t kMaxWarnings = 200;
 
-    // Returns a copy without entities and findings.
+    // Returns a copy without entities and warnings.
     Document Tables() const;
 
     const TextStyle& At(TextStyleIndex index) const { return textStyles[static_cast<size_t>(index)]; }

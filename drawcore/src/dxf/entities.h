@@ -191,10 +191,10 @@ struct Viewport {};
 
 // Large kinds are stored separately, so that a drawing of a million lines stays small.
 template <class T>
-using Apart = std::unique_ptr<T>;
+using Boxed = std::unique_ptr<T>;
 
-using Shape = std::variant<Line, PointMark, Circle, Arc, Ellipse, Polyline, Leader, Apart<Spline>, Apart<Text>,
-                           Apart<MText>, Apart<Insert>, Apart<Hatch>, Apart<Face>, Apart<Dimension>, Apart<Viewport>>;
+using Shape = std::variant<Line, PointMark, Circle, Arc, Ellipse, Polyline, Leader, Boxed<Spline>, Boxed<Text>,
+                           Boxed<MText>, Boxed<Insert>, Boxed<Hatch>, Boxed<Face>, Boxed<Dimension>, Boxed<Viewport>>;
 
 constexpr int16_t kIndexByBlock = 0;
 constexpr int16_t kIndexByLayer = 256;
@@ -228,7 +228,7 @@ struct Entity {
     Vec3 normal{0, 0, 1};    // the extrusion direction: z axis of the object coordinate system
     uint32_t line = 0;       // line in the file, for messages
     uint32_t offset = 0;     // of its record in the file's text
-    Apart<ExtendedData> own; // null if there are none
+    Boxed<ExtendedData> own; // null if there are none
 };
 
 } // namespace dxf

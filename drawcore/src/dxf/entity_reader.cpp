@@ -81,19 +81,18 @@ void EntityReader::Read(std::vector<Entity>& entities) {
     Entity entity = NewEntity();
     (this->*kind->read)(entity);
     TakeExtended(entity);
-    if (const uint32_t line = in_.TakeInvalidCoordinate())
-        Refuse("a number that has no place in a drawing, in line " + std::to_string(line));
-    if (refused_.empty())
+    if (const uint32_t line = in_.TakeInvalidCoordinate()) Reject("invalid coordinate in line " + std::to_string(line));
+    if (rejection_.empty())
         entities.push_back(std::move(entity));
     else
-        in_.Report(entity.line, std::string(name) + " is left out: " + refused_);
-    refused_.clear();
+        in_.Report(entity.line, std::string(name) + " omitted: " + rejection_);
+    rejection_.clear();
 }
 
 void EntityReader::ReportSkipped() {
     for (const auto& [name, skipped] : skipped_)
         in_.Report(skipped.firstLine,
-                   std::to_string(skipped.count) + " of type " + name + " not shown: this type is not read");
+                   std::to_string(skipped.count) + " of type " + name + " not shown: unsupported type");
 }
 
 void EntityReader::ReadLine(Entity& entity) {
@@ -128,14 +127,14 @@ void EntityReader::ReadEllipse(Entity& entity) {
 
 void EntityReader::ReadFace(Entity& entity) {
     ReadSpaceFace(entity);
-    Face& face = *std::get<Apart<Face>>(entity.shape);
+    Face& face = *std::get<Boxed<Face>>(entity.shape);
     std::swap(face.corners[2], face.corners[3]); // stored in zigzag order
     face.filled = true;
     face.hiddenEdges = 0;
 }
 
 void EntityReader::ReadSpaceFace(Entity& entity) {
-    Face& face = *entity.shape.emplace<Apart<Face>>(std::make_unique<Face>());
+    Face& face = *entity.shape.emplace<Boxed<Face>>(std::make_unique<Face>());
     face.filled = false;
     bool hasFourth = false;
     while (in_.NextTag()) {
@@ -160,7 +159,7 @@ void EntityReader::ReadInsert(Entity& entity) {
         {44, &Insert::columnSpacing}, {45, &Insert::rowSpacing},
     };
     constexpr uint32_t kMostCells = INT16_MAX; // the file format's own limit
-    Insert& insert = *entity.shape.emplace<Apart<Insert>>(std::make_unique<Insert>());
+    Insert& insert = *entity.shape.emplace<Boxed<Insert>>(std::make_unique<Insert>());
     ReadTags(kFields, insert, entity);
     TakeExtended(entity);
     insert.columns = std::clamp(insert.columns, 1u, kMostCells);
@@ -171,7 +170,7 @@ void EntityReader::ReadInsert(Entity& entity) {
 // A table is also drawn by its anonymous block; the following groups are the contents of its cells.
 void EntityReader::ReadTable(Entity& entity) {
     static const Field<Insert> kFields[] = {{2, &Insert::block}, {10, &Insert::at}};
-    Insert& insert = *entity.shape.emplace<Apart<Insert>>(std::make_unique<Insert>());
+    Insert& insert = *entity.shape.emplace<Boxed<Insert>>(std::make_unique<Insert>());
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         if (tag.Is(100, "AcDbTable")) {
@@ -185,7 +184,7 @@ void EntityReader::ReadTable(Entity& entity) {
 
 void EntityReader::ReadDimension(Entity& entity) {
     static const Field<Dimension> kFields[] = {{2, &Dimension::block}, {12, &Dimension::offset}};
-    ReadTags(kFields, *entity.shape.emplace<Apart<Dimension>>(std::make_unique<Dimension>()), entity);
+    ReadTags(kFields, *entity.shape.emplace<Boxed<Dimension>>(std::make_unique<Dimension>()), entity);
 }
 
 void EntityReader::ReadLeader(Entity& entity) {
@@ -202,13 +201,13 @@ void EntityReader::ReadLeader(Entity& entity) {
 }
 
 void EntityReader::ReadViewport(Entity& entity) {
-    entity.shape.emplace<Apart<Viewport>>(std::make_unique<Viewport>());
+    entity.shape.emplace<Boxed<Viewport>>(std::make_unique<Viewport>());
     while (in_.NextTag())
         SetCommon(entity);
 }
 
 void EntityReader::ReadSpline(Entity& entity) {
-    Spline& spline = *entity.shape.emplace<Apart<Spline>>(std::make_unique<Spline>());
+    Spline& spline = *entity.shape.emplace<Boxed<Spline>>(std::make_unique<Spline>());
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         switch (tag.code) {
@@ -242,7 +241,7 @@ void EntityReader::ReadSpline(Entity& entity) {
             SetCommon(entity);
         }
     }
-    if (!MakeValid(spline)) Refuse("its knots and control points do not fit together");
+    if (!MakeValid(spline)) Reject("its knots and control points are inconsistent");
 }
 
 bool MakeValid(Spline& spline) {

@@ -15,7 +15,7 @@ public:
     explicit EntityReader(RecordReader& in) : in_(in) {}
 
     // Reads the current record with the records that belong to it, and advances to the next. Appends a valid entity to
-    // the list; reports a finding for others.
+    // the list; reports a warning for others.
     void Read(std::vector<Entity>& entities);
 
     // Starts counting records by type.
@@ -46,7 +46,7 @@ private:
         if (!entity.own) entity.own = in_.TakeExtended();
     }
     // Rejects the entity for a reason other than an invalid coordinate.
-    void Refuse(std::string reason) { refused_ = std::move(reason); }
+    void Reject(std::string reason) { rejection_ = std::move(reason); }
 
     void ReadLine(Entity&);
     void ReadPoint(Entity&);
@@ -74,7 +74,7 @@ private:
 
     RecordReader& in_;
     bool counting_ = false;
-    std::string refused_;
+    std::string rejection_;
     struct Skipped {
         uint64_t count = 0;
         uint32_t firstLine = 0;

@@ -186,7 +186,7 @@ private:
 } // namespace
 
 void EntityReader::ReadHatch(Entity& entity) {
-    Hatch& hatch = *entity.shape.emplace<Apart<Hatch>>(std::make_unique<Hatch>());
+    Hatch& hatch = *entity.shape.emplace<Boxed<Hatch>>(std::make_unique<Hatch>());
     HatchParts parts(in_, hatch);
     while (in_.NextTag())
         if (!parts.Take(in_.tags.Current())) SetCommon(entity);

@@ -268,7 +268,7 @@ FormattedText ReadInlineCodes(std::string_view stored, double height) {
 
 std::string WithoutCodes(std::string_view rest, std::string_view letters) {
     constexpr std::string_view kWithArgument = "FfHWCcSAQTp";
-    std::string kept;
+    std::string result;
     while (!rest.empty()) {
         std::string escape;
         size_t length = AppendEscape(escape, rest);
@@ -276,10 +276,10 @@ std::string WithoutCodes(std::string_view rest, std::string_view letters) {
         if (length == 0) length = isCode ? 2 : 1;
         if (isCode && kWithArgument.find(rest[1]) != kWithArgument.npos)
             length = std::min(rest.find(';'), rest.size() - 1) + 1;
-        if (!isCode || letters.find(rest[1]) == letters.npos) kept += rest.substr(0, length);
+        if (!isCode || letters.find(rest[1]) == letters.npos) result += rest.substr(0, length);
         rest.remove_prefix(length);
     }
-    return kept;
+    return result;
 }
 
 } // namespace dxf

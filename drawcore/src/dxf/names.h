@@ -11,59 +11,59 @@
 
 namespace dxf {
 
-// Accesses one list of a Document and appends to it. Thing has `name`, `stored` and `declared`.
-template <class Thing>
+// Accesses one list of a Document and appends to it. Object has `name`, `stored` and `declared`.
+template <class Object>
 class Names {
 public:
-    Names(std::vector<Thing>& things, const TextDecoder& decoder) : things_(things), decoder_(decoder) {
-        for (size_t i = 0; i < things.size(); ++i)
-            byName_.emplace(Key(things[i].name), i);
+    Names(std::vector<Object>& objects, const TextDecoder& decoder) : objects_(objects), decoder_(decoder) {
+        for (size_t i = 0; i < objects.size(); ++i)
+            byName_.emplace(Key(objects[i].name), i);
     }
 
     // Returns the index of the object with that name, as stored in the file; adds an undeclared one if there is none.
     size_t Find(std::string_view raw) {
-        if (raw == lastRaw_ && !things_.empty()) return last_; // consecutive entities are often on the same layer
-        const size_t known = things_.size();
+        if (raw == lastRaw_ && !objects_.empty()) return last_; // consecutive entities are often on the same layer
+        const size_t known = objects_.size();
         last_ = FindUtf8(decoder_.Decode(raw));
-        if (last_ == known) Keep(raw, things_[last_]);
+        if (last_ == known) Keep(raw, objects_[last_]);
         lastRaw_ = raw;
         return last_;
     }
 
     // Does the same for a UTF-8 name.
     size_t FindUtf8(const std::string& name) {
-        const auto [found, isNew] = byName_.emplace(Key(name), things_.size());
-        if (isNew) things_.emplace_back().name = name;
+        const auto [found, isNew] = byName_.emplace(Key(name), objects_.size());
+        if (isNew) objects_.emplace_back().name = name;
         return found->second;
     }
 
     // Returns the object that a record of a table declares. The first of two records with the same name is used.
-    Thing& Declare(std::string_view raw) {
+    Object& Declare(std::string_view raw) {
         size_t at = Find(raw);
-        if (things_[at].declared) {
-            at = things_.size();
-            things_.emplace_back();
+        if (objects_[at].declared) {
+            at = objects_.size();
+            objects_.emplace_back();
         }
-        things_[at].name = decoder_.Decode(raw);
-        Keep(raw, things_[at]);
-        things_[at].declared = true;
-        return things_[at];
+        objects_[at].name = decoder_.Decode(raw);
+        Keep(raw, objects_[at]);
+        objects_[at].declared = true;
+        return objects_[at];
     }
 
     // Returns the name as stored, or as it would be stored.
-    std::string Stored(const Thing& thing) const {
-        return thing.stored.empty() ? decoder_.Encode(thing.name) : thing.stored;
+    std::string Stored(const Object& object) const {
+        return object.stored.empty() ? decoder_.Encode(object.name) : object.stored;
     }
 
 private:
     // Encoding may result in other bytes: a file may have names in a code page although its version requires UTF-8.
-    void Keep(std::string_view raw, Thing& thing) const {
-        thing.stored = decoder_.Encode(thing.name) == raw ? std::string_view() : raw;
+    void Keep(std::string_view raw, Object& object) const {
+        object.stored = decoder_.Encode(object.name) == raw ? std::string_view() : raw;
     }
 
     static std::string Key(std::string_view name) { return FoldName(ToDisplayText(name)); }
 
-    std::vector<Thing>& things_;
+    std::vector<Object>& objects_;
     const TextDecoder& decoder_;
     std::unordered_map<std::string, size_t> byName_;
     std::string_view lastRaw_;

@@ -26,8 +26,8 @@ EllipseArc EdgeArc(const Hatch::Edge& edge) {
     double start = Radians(edge.startAngle);
     double end = Radians(edge.endAngle);
     const bool isCircle = edge.kind == Hatch::Edge::Kind::arc;
-    const bool whole = std::abs(edge.endAngle - edge.startAngle) >= 360 - 1e-9;
-    if (!isCircle && !whole) start = ParameterOf(start, edge.radius), end = ParameterOf(end, edge.radius);
+    const bool isFullCircle = std::abs(edge.endAngle - edge.startAngle) >= 360 - 1e-9;
+    if (!isCircle && !isFullCircle) start = ParameterOf(start, edge.radius), end = ParameterOf(end, edge.radius);
     EllipseArc arc;
     arc.center = edge.start;
     arc.major = isCircle ? Vec3{edge.radius, 0, 0} : edge.end;
@@ -45,24 +45,24 @@ public:
 
     void operator()(const Line& line) { Chain(std::array{line.start, line.end}, toWorld_); }
     void operator()(const PointMark& mark) { sink_.MoveTo(toWorld_.Apply(mark.at)); }
-    void operator()(const Circle&) { Whole(*ArcOf(entity_)); }
-    void operator()(const Arc&) { Whole(*ArcOf(entity_)); }
-    void operator()(const Ellipse&) { Whole(*ArcOf(entity_)); }
+    void operator()(const Circle&) { TraceArc(*ArcOf(entity_)); }
+    void operator()(const Arc&) { TraceArc(*ArcOf(entity_)); }
+    void operator()(const Ellipse&) { TraceArc(*ArcOf(entity_)); }
     void operator()(const Leader& leader) { Chain(leader.vertices, toWorld_); }
-    void operator()(const Apart<Spline>& spline) { Chain(SplineChain(CurveOf(*spline)), toWorld_); }
-    void operator()(const Apart<Text>&) {}
-    void operator()(const Apart<MText>&) {}
-    void operator()(const Apart<Insert>&) {}
-    void operator()(const Apart<Dimension>&) {}
-    void operator()(const Apart<Viewport>&) {}
+    void operator()(const Boxed<Spline>& spline) { Chain(SplineChain(CurveOf(*spline)), toWorld_); }
+    void operator()(const Boxed<Text>&) {}
+    void operator()(const Boxed<MText>&) {}
+    void operator()(const Boxed<Insert>&) {}
+    void operator()(const Boxed<Dimension>&) {}
+    void operator()(const Boxed<Viewport>&) {}
 
-    void operator()(const Apart<Hatch>& hatch) {
+    void operator()(const Boxed<Hatch>& hatch) {
         const Matrix system = Matrix::Translation({0, 0, hatch->elevation}) * ObjectSystem(entity_.normal) * toWorld_;
         for (const Hatch::Loop& loop : hatch->loops)
             Trace(loop, system, sink_);
     }
 
-    void operator()(const Apart<Face>& face) {
+    void operator()(const Boxed<Face>& face) {
         const Matrix system = face->filled ? ObjectSystem(entity_.normal) * toWorld_ : toWorld_;
         const auto& corners = face->corners;
         Chain(std::array{corners[0], corners[1], corners[2], corners[3], corners[0]}, system);
@@ -107,7 +107,7 @@ private:
         }
     }
 
-    void Whole(const EllipseArc& arc) {
+    void TraceArc(const EllipseArc& arc) {
         const EllipseArc placed = arc.Transformed(toWorld_);
         sink_.MoveTo(placed.At(placed.start));
         sink_.ArcTo(placed);

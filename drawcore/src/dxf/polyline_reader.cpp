@@ -61,17 +61,18 @@ Polyline::Kind KindOf(int flags) {
     return flags & kSpatial ? Polyline::Kind::spatial : Polyline::Kind::flat;
 }
 
-void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes& whole) {
+void AddVertex(Polyline& polyline, const VertexCodes& codes, const PolylineCodes& polylineCodes) {
     const bool faces = polyline.kind == Polyline::Kind::faces;
     if (faces && (codes.flags & kFace) && !(codes.flags & kPosition)) {
         polyline.faces.push_back({codes.first, codes.second, codes.third, codes.fourth});
         return;
     }
-    if ((whole.flags & kSplineFit) && (codes.flags & kFrame)) return; // control points of a curve whose points follow
+    if ((polylineCodes.flags & kSplineFit) && (codes.flags & kFrame))
+        return; // control points of a curve whose points follow
     Polyline::Vertex& vertex = polyline.vertices.emplace_back();
     vertex.at = codes.at;
     if (polyline.kind != Polyline::Kind::flat) return;
-    vertex.at.z = whole.elevation.z;
+    vertex.at.z = polylineCodes.elevation.z;
     vertex.startWidth = codes.startWidth;
     vertex.endWidth = codes.endWidth;
     vertex.bulge = codes.bulge;
@@ -112,7 +113,7 @@ void EntityReader::ReadPolyline(Entity& entity) {
         in_.ReadFields(kVertex, vertex);
         AddVertex(polyline, vertex, codes);
     }
-    if (!MakeValid(polyline, codes)) Refuse("its mesh has fewer vertices than rows and columns ask for");
+    if (!MakeValid(polyline, codes)) Reject("its mesh has fewer vertices than its rows and columns require");
     if (!tag.Is(0, "SEQEND")) return;
     Count();
     in_.tags.SkipRecord();

@@ -15,12 +15,11 @@ namespace {
 
 void RefuseOtherFiles(std::string_view bytes) {
     if (bytes.empty()) throw ReadError(0, "the file is empty");
-    if (bytes.substr(0, 18) == "AutoCAD Binary DXF")
-        throw ReadError(1, "this is a binary DXF file; only the text form is read");
+    if (bytes.substr(0, 18) == "AutoCAD Binary DXF") throw ReadError(1, "binary DXF files are not supported");
     if (bytes.substr(0, 2) == "AC" && bytes.size() > 6 && bytes[6] == '\0')
         throw ReadError(0, "this is a DWG file, not a DXF file");
     if (bytes.substr(0, 2) == "\xFF\xFE" || bytes.substr(0, 2) == "\xFE\xFF")
-        throw ReadError(1, "this is text of 16-bit characters; DXF files have 8-bit characters");
+        throw ReadError(1, "the file is UTF-16 text; DXF files have 8-bit characters");
 }
 
 class FileReader {
@@ -31,7 +30,7 @@ public:
         in_.tags.Next();
         while (!tag_.Is(0, "EOF")) {
             if (!tag_.Is(0, "SECTION"))
-                throw ReadError(tag_.line, "a section or the end of the file is expected, not group code " +
+                throw ReadError(tag_.line, "expected a section or the end of the file, found group code " +
                                                std::to_string(tag_.code) + " with " + Quoted(tag_.value));
             ReadSection();
             in_.tags.SetPlace(nullptr);
@@ -47,7 +46,7 @@ private:
     void ReadSection() {
         sectionLine_ = tag_.line;
         in_.tags.SetPlace("a section");
-        if (in_.tags.Next().code != 2) throw ReadError(tag_.line, "a section without a name");
+        if (in_.tags.Next().code != 2) throw ReadError(tag_.line, "the section has no name");
         const std::string_view name = tag_.Trimmed();
         if (name == "HEADER")
             ReadHeader();
@@ -120,13 +119,12 @@ private:
             if (tag_.code == 2) name = tag_.value;
             in_.SetField(kFields, head, tag_);
         }
-        if (const Apart<ExtendedData> own = in_.TakeExtended()) head.own = *own;
+        if (const Boxed<ExtendedData> own = in_.TakeExtended()) head.own = *own;
         if (in_.TakeInvalidCoordinate())
-            in_.Report(line, "the base point of block " + Quoted(name) +
-                                 " is outside of a drawing's range; the origin is used");
+            in_.Report(line, "the base point of block " + Quoted(name) + " is out of range; the origin is used");
         constexpr int kExternal = 4;
         if (head.flags & kExternal)
-            in_.Report(line, "block " + Quoted(name) + " is in another file, which is not opened");
+            in_.Report(line, "block " + Quoted(name) + " is an external reference, which is not supported");
         while (!tag_.Is(0, "ENDBLK")) {
             if (tag_.Is(0, "BLOCK") || AtSectionEnd())
                 throw ReadError(tag_.line,

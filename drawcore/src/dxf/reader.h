@@ -3,10 +3,10 @@
 //   dxf::Document drawing = dxf::Read(bytes, {});
 //   dxf::Read("0
 // SECTION
-// ", {});   // throws dxf::ReadError: "line 2: the file ends within a section ..."
+// ", {});   // throws dxf::ReadError: "line 2: the file is truncated: it ends within a section"
 //
 // A file with a broken structure (a group code that is not a number, a section that does not end, no EOF) is rejected.
-// A single invalid value or reference affects only its entity and is reported as a finding.
+// A single invalid value or reference affects only its entity and is reported as a warning.
 #pragma once
 
 #include <cstddef>
@@ -22,8 +22,8 @@ namespace dxf {
 
 // Called repeatedly with the completed share, ascending from 0 to 1000; at least once, and with 1000 at the end.
 using Progress = std::function<void(int permille)>;
-inline int Permille(size_t done, size_t whole) {
-    return static_cast<int>(static_cast<double>(done) / static_cast<double>(whole) * 1000);
+inline int Permille(size_t done, size_t total) {
+    return static_cast<int>(static_cast<double>(done) / static_cast<double>(total) * 1000);
 }
 
 // The bytes need not outlive the call. Throws ReadError and std::bad_alloc.

@@ -1,4 +1,4 @@
-// Reads the values of a record's tags, and collects findings.
+// Reads the values of a record's tags, and collects warnings.
 
 #include "drawcore/src/dxf/record_reader.h"
 
@@ -82,13 +82,13 @@ uint32_t RecordReader::TakeInvalidCoordinate() {
 }
 
 void RecordReader::Report(uint32_t line, std::string text) {
-    std::vector<Finding>& findings = document.findings;
-    if (findings.size() < Document::kMostFindings) {
-        findings.push_back({line, std::move(text)});
+    std::vector<Warning>& warnings = document.warnings;
+    if (warnings.size() < Document::kMaxWarnings) {
+        warnings.push_back({line, std::move(text)});
         return;
     }
-    if (unreported_++ == 0) findings.emplace_back();
-    findings.back().text = "and " + std::to_string(unreported_) + " more";
+    if (unreported_++ == 0) warnings.emplace_back();
+    warnings.back().text = "and " + std::to_string(unreported_) + " more";
 }
 
 void RecordReader::Assign(int16_t& to, const Tag& tag, int) {

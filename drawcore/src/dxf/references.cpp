@@ -12,9 +12,9 @@ struct Reference {
 };
 
 Reference ReferenceOf(Entity& entity) {
-    if (auto* insert = std::get_if<Apart<Insert>>(&entity.shape))
+    if (auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
         return {&(*insert)->block, double((*insert)->columns) * (*insert)->rows};
-    if (auto* dimension = std::get_if<Apart<Dimension>>(&entity.shape)) return {&(*dimension)->block};
+    if (auto* dimension = std::get_if<Boxed<Dimension>>(&entity.shape)) return {&(*dimension)->block};
     return {};
 }
 
@@ -29,7 +29,7 @@ public:
         size_t entities = drawing_.entities.size();
         for (const Block& block : drawing_.blocks)
             entities += block.entities.size();
-        mostParts_ += kMorePartsPerEntity * static_cast<double>(entities);
+        mostParts_ += kInsertedPartsPerEntity * static_cast<double>(entities);
     }
 
     void Resolve() {
@@ -39,7 +39,7 @@ public:
         for (Entity& entity : drawing_.entities)
             CutIfNeeded(entity, root);
         if (tooMany_ > 0)
-            in_.Report(firstTooMany_, "inserts that are not shown, because the drawing would have too many parts: " +
+            in_.Report(firstTooMany_, "insertions not shown because the drawing would have too many parts: " +
                                           std::to_string(tooMany_));
     }
 
@@ -92,7 +92,7 @@ private:
         const double parts = reference.cells * (1 + state.parts);
         const char* reason = nullptr;
         if (!drawing_.blocks[inner].declared)
-            reason = "there is no such block";
+            reason = "the block does not exist";
         else if (state.progress == State::open)
             reason = "the block contains itself";
         else if (state.depth + 1 > kDeepestNesting)
@@ -108,13 +108,13 @@ private:
             if (tooMany_++ == 0) firstTooMany_ = entity.line;
             return;
         }
-        in_.Report(entity.line, "block " + Quoted(drawing_.blocks[inner].name) + " is not shown here: " + reason);
+        in_.Report(entity.line, "block " + Quoted(drawing_.blocks[inner].name) + " is not shown: " + reason);
     }
 
     RecordReader& in_;
     Document& drawing_;
     std::vector<State> states_;
-    double mostParts_ = kMostInsertedParts;
+    double mostParts_ = kMaxInsertedParts;
     size_t tooMany_ = 0;
     uint32_t firstTooMany_ = 0;
 };

@@ -1,6 +1,6 @@
 // Resolves the references of insertions to blocks, so that the drawing can be traversed safely: afterwards, every
 // reference is to an existing block, no block contains itself, nesting is limited, and all insertions together draw a
-// limited number of parts. A reference that violates this is removed and reported as a finding.
+// limited number of parts. A reference that violates this is removed and reported as a warning.
 #pragma once
 
 #include "drawcore/src/dxf/record_reader.h"
@@ -8,8 +8,8 @@
 namespace dxf {
 
 constexpr size_t kDeepestNesting = 64;
-constexpr double kMostInsertedParts = 2e6; // number of lines, vertices and similar parts
-constexpr double kMorePartsPerEntity = 16; // additional parts per entity of the file
+constexpr double kMaxInsertedParts = 2e6;      // number of lines, vertices and similar parts
+constexpr double kInsertedPartsPerEntity = 16; // additional parts per entity of the file
 
 void ResolveReferences(RecordReader& in);
 

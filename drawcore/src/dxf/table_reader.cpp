@@ -107,7 +107,7 @@ void ReadVariable(RecordReader& in, std::string_view variable) {
             const Field<Header> table[] = {known.field};
             in.SetField(table, in.document.header, tag);
         }
-    if (in.TakeInvalidCoordinate()) in.Report(tag.line + 1, "the value of " + Quoted(variable) + " is passed over");
+    if (in.TakeInvalidCoordinate()) in.Report(tag.line + 1, "invalid value of " + Quoted(variable) + " ignored");
     if (variable == "$ACADVER" && tag.code == 1) in.decoder.SetVersion(tag.Trimmed());
     if (variable == "$DWGCODEPAGE" && tag.code == 3) in.decoder.SetCodePage(tag.Trimmed());
 }
@@ -123,7 +123,7 @@ void ReadTableRecord(RecordReader& in) {
         ReadTextStyle(in);
     else
         in.tags.SkipRecord();
-    if (in.TakeInvalidCoordinate()) in.Report(line, "a number of this table's entry is invalid; 0 is used");
+    if (in.TakeInvalidCoordinate()) in.Report(line, "invalid number in a table entry; 0 is used");
 }
 
 } // namespace dxf

@@ -100,14 +100,13 @@ int TagReader::ParseCode(std::string_view text) const {
     const auto [rest, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code);
     if (error != std::errc() || rest != digits.data() + digits.size())
         throw ReadError(line_, "group code " + Quoted(text) + " is not a number");
-    if (code < kLowestCode || code > kHighestCode)
-        throw ReadError(line_, "there is no group code " + std::to_string(code));
+    if (code < kLowestCode || code > kHighestCode) throw ReadError(line_, "invalid group code " + std::to_string(code));
     return code;
 }
 
 void TagReader::FailAtEnd() const {
     const std::string where = place_ ? std::string("within ") + place_ : "without EOF";
-    throw ReadError(line_, "the file ends " + where + "; it is cut off");
+    throw ReadError(line_, "the file is truncated: it ends " + where);
 }
 
 const Tag& TagReader::Next() {
@@ -121,9 +120,9 @@ const Tag& TagReader::Next() {
     } while (tag_.code == 999);
     const size_t done = Offset();
     if (done >= reportAt_) {
-        const auto whole = static_cast<size_t>(end_ - begin_);
-        progress_(static_cast<int>(static_cast<double>(done) / static_cast<double>(whole) * 999));
-        reportAt_ = done + std::max<size_t>(whole / 200, 1 << 16);
+        const auto total = static_cast<size_t>(end_ - begin_);
+        progress_(static_cast<int>(static_cast<double>(done) / static_cast<double>(total) * 999));
+        reportAt_ = done + std::max<size_t>(total / 200, 1 << 16);
     }
     return tag_;
 }

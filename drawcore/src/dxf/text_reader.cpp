@@ -53,7 +53,7 @@ void SetCodes(Text& text, const TextCodes& codes) {
 } // namespace
 
 void EntityReader::ReadText(Entity& entity) {
-    Text& text = *entity.shape.emplace<Apart<Text>>(std::make_unique<Text>());
+    Text& text = *entity.shape.emplace<Boxed<Text>>(std::make_unique<Text>());
     text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
     TextCodes codes{73};
     while (in_.NextTag()) {
@@ -65,7 +65,7 @@ void EntityReader::ReadText(Entity& entity) {
 
 void EntityReader::ReadAttribute(Entity& entity) {
     const bool isDefinition = in_.tags.Current().Is(0, "ATTDEF");
-    Text& text = *entity.shape.emplace<Apart<Text>>(std::make_unique<Text>());
+    Text& text = *entity.shape.emplace<Boxed<Text>>(std::make_unique<Text>());
     text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
     TextCodes codes{74};
     while (in_.NextTag()) {
@@ -99,7 +99,7 @@ void EntityReader::ReadMText(Entity& entity) {
         {10, &MText::insertion},  {40, &MText::height},      {41, &MText::width},
         {71, &MText::attachment}, {44, &MText::lineSpacing}, {7, &MText::style},
     };
-    MText& text = *entity.shape.emplace<Apart<MText>>(std::make_unique<MText>());
+    MText& text = *entity.shape.emplace<Boxed<MText>>(std::make_unique<MText>());
     text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
     std::string bytes;           // decoded as a whole, since a character may be split between pieces
     std::optional<double> angle; // the last of angle and direction is used

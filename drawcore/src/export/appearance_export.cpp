@@ -16,11 +16,11 @@ namespace drawcore {
 namespace {
 
 // Maps the objects of the file to entries of the drawing's table.
-template <class Index, class Thing, class Entry>
-std::map<Id, Index> InTable(const std::vector<Thing>& things, const TableOf<Entry>& table) {
+template <class Index, class Object, class Entry>
+std::map<Id, Index> InTable(const std::vector<Object>& objects, const TableOf<Entry>& table) {
     std::map<Id, Index> places;
-    for (size_t i = 0; i < things.size(); ++i)
-        if (const Id id = table.IdOf(HostName(things[i].name))) places.emplace(id, Index(i));
+    for (size_t i = 0; i < objects.size(); ++i)
+        if (const Id id = table.IdOf(HostName(objects[i].name))) places.emplace(id, Index(i));
     return places;
 }
 
@@ -40,15 +40,15 @@ dxf::LayerIndex AppearanceExport::LayerOf(Id id) {
     if (!layer) return patch_.FindLayer("0");
     const dxf::LayerIndex index = patch_.FindLayer(Utf8FromCodePage(layer->name));
     const dxf::LineTypeIndex line = LineTypeOf(layer->lineStyle);
-    dxf::Layer& made = patch_.Describe(index);
-    drawcore::Describe(*layer, made);
-    if (line < dxf::LineTypeIndex::none) made.lineType = patch_.Known().At(line).name;
+    dxf::Layer& fileLayer = patch_.Describe(index);
+    drawcore::Describe(*layer, fileLayer);
+    if (line < dxf::LineTypeIndex::none) fileLayer.lineType = patch_.Known().At(line).name;
     layers_.emplace(id, index);
     return index;
 }
 
 void AppearanceExport::AddLayer(Id id) {
-    if (layers_.count(id) == 0) patch_.NeedRecord(LayerOf(id));
+    if (layers_.count(id) == 0) patch_.EnsureRecord(LayerOf(id));
 }
 
 dxf::LineTypeIndex AppearanceExport::LineTypeOf(Id id) {
@@ -60,9 +60,9 @@ dxf::LineTypeIndex AppearanceExport::LineTypeOf(Id id) {
     const LineStyle* style = drawing_.LineStyles() ? drawing_.LineStyles()->At(id) : nullptr;
     if (!style) return dxf::LineTypeIndex::byLayer;
     const dxf::LineTypeIndex index = patch_.FindLineType(Utf8FromCodePage(style->name));
-    dxf::LineType& made = patch_.Describe(index);
-    made.description = Utf8FromCodePage(style->description);
-    made.dashes = style->pattern;
+    dxf::LineType& fileLineType = patch_.Describe(index);
+    fileLineType.description = Utf8FromCodePage(style->description);
+    fileLineType.dashes = style->pattern;
     lineTypes_.emplace(id, index);
     return index;
 }
@@ -103,12 +103,12 @@ void AppearanceExport::SetPlain(const Graphic& graphic, const PropertyInfo& info
     if (const auto* text = std::get_if<std::string>(&stored))
         dxf::SetText(appearance, info.name, Utf8FromCodePage(*text));
     if (const auto* real = std::get_if<double>(&stored)) dxf::SetNumber(appearance, info.name, *real);
-    const auto* whole = std::get_if<int64_t>(&stored);
-    if (whole && info.meaning == PropertyMeaning::Block) {
-        const Block* block = drawing_.Blocks() ? drawing_.Blocks()->At(static_cast<Id>(*whole)) : nullptr;
+    const auto* integer = std::get_if<int64_t>(&stored);
+    if (integer && info.meaning == PropertyMeaning::Block) {
+        const Block* block = drawing_.Blocks() ? drawing_.Blocks()->At(static_cast<Id>(*integer)) : nullptr;
         dxf::SetText(appearance, info.name, block ? Utf8FromCodePage(block->name) : "");
-    } else if (whole) {
-        dxf::SetNumber(appearance, info.name, static_cast<double>(*whole));
+    } else if (integer) {
+        dxf::SetNumber(appearance, info.name, static_cast<double>(*integer));
     }
 }
 

@@ -20,9 +20,9 @@ namespace {
 class ReadBack {
 public:
     ReadBack(const Drawing& saved, std::string_view text, const dxf::Document& document, OmittedObjects& omitted,
-             const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress)
+             const std::vector<uint32_t>& notRemoved, const dxf::Progress& progress)
         : saved_(saved), before_(dxf::TextOf(saved.source->bytes)), text_(text), document_(document), omitted_(omitted),
-          removedLeft_(removedLeft), progress_(progress), tables_(ImportTables(document, read_)),
+          notRemoved_(notRemoved), progress_(progress), tables_(ImportTables(document, read_)),
           import_(document, tables_, read_), comparison_(saved, read_) {}
 
     Sources Run() {
@@ -51,7 +51,7 @@ private:
 
     void CompareTree(const Block& block, const dxf::Block& read) {
         if (StyleTreeOf(block) != StyleTreeOf(read))
-            omitted_.Add(OmittedObjects::NameOfBlock(block.name), "the file format can't store its style tree");
+            omitted_.Add(OmittedObjects::NameOfBlock(block.name), "the file format cannot store its style tree");
     }
 
     bool IsLeftOut(const Graphic& graphic) const {
@@ -66,7 +66,7 @@ private:
     }
 
     bool StaysRemoved(const dxf::Entity& entity) const {
-        return std::find(removedLeft_.begin(), removedLeft_.end(), entity.offset) != removedLeft_.end();
+        return std::find(notRemoved_.begin(), notRemoved_.end(), entity.offset) != notRemoved_.end();
     }
 
     bool SameMembers(const Graphic& saved, const std::vector<dxf::Entity>& entities, bool inBlock) {
@@ -81,13 +81,13 @@ private:
                 place = SkipOmitted(saved, place + 1);
                 continue;
             }
-            VertexGraphic made;
-            import_.AddTo(made, entity, inBlock);
+            VertexGraphic imported;
+            import_.AddTo(imported, entity, inBlock);
             const bool isTilted = entity.normal.x != 0 || entity.normal.y != 0;
-            const bool calculated = isTilted || std::holds_alternative<dxf::Apart<dxf::Hatch>>(entity.shape);
-            for (size_t k = 0; k < made.MemberCount(); ++k, place = SkipOmitted(saved, place + 1)) {
+            const bool calculated = isTilted || std::holds_alternative<dxf::Boxed<dxf::Hatch>>(entity.shape);
+            for (size_t k = 0; k < imported.MemberCount(); ++k, place = SkipOmitted(saved, place + 1)) {
                 if (place >= saved.MemberCount()) return false;
-                Compare(*saved.MemberAt(place), *made.MemberAt(k), calculated);
+                Compare(*saved.MemberAt(place), *imported.MemberAt(k), calculated);
             }
         }
         return place == saved.MemberCount();
@@ -118,22 +118,23 @@ private:
             SetSources(*graphic.MemberAt(i), graphic.MemberAt(i)->source + shift);
     }
 
-    void Compare(Graphic& saved, const Graphic& made, bool calculated) {
-        sources_.emplace_back(&saved, made.source);
+    void Compare(Graphic& saved, const Graphic& imported, bool calculated) {
+        sources_.emplace_back(&saved, imported.source);
         if (!omitted_.Has(saved)) {
-            const char* difference = comparison_.FirstDifference(saved, made, calculated);
-            if (!difference && saved.MemberCount() != made.MemberCount()) difference = "its attributes";
-            if (difference) omitted_.Add(saved, std::string("the file format can't store a change of ") + difference);
+            const char* difference = comparison_.FirstDifference(saved, imported, calculated);
+            if (!difference && saved.MemberCount() != imported.MemberCount()) difference = "its attributes";
+            if (difference)
+                omitted_.Add(saved, std::string("the file format cannot store the change of ") + difference);
         }
-        for (size_t i = 0; i < saved.MemberCount() && i < made.MemberCount(); ++i)
-            Compare(*saved.MemberAt(i), *made.MemberAt(i), calculated);
+        for (size_t i = 0; i < saved.MemberCount() && i < imported.MemberCount(); ++i)
+            Compare(*saved.MemberAt(i), *imported.MemberAt(i), calculated);
     }
 
     const Drawing& saved_;
     const std::string_view before_, text_;
     const dxf::Document& document_;
     OmittedObjects& omitted_;
-    const std::vector<uint32_t>& removedLeft_;
+    const std::vector<uint32_t>& notRemoved_;
     const dxf::Progress& progress_;
     Sources sources_;
     Drawing read_; // only its tables
@@ -146,8 +147,8 @@ private:
 } // namespace
 
 Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& omitted,
-                        const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress) {
-    return ReadBack(saved, text, read, omitted, removedLeft, progress).Run();
+                        const std::vector<uint32_t>& notRemoved, const dxf::Progress& progress) {
+    return ReadBack(saved, text, read, omitted, notRemoved, progress).Run();
 }
 
 } // namespace drawcore

@@ -18,6 +18,6 @@ using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 // the offsets of all graphics in the document's text, which is complete if nothing was added. Throws SaveError if the
 // file would contain other graphics.
 Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& omitted,
-                        const std::vector<uint32_t>& removedLeft, const dxf::Progress& progress);
+                        const std::vector<uint32_t>& notRemoved, const dxf::Progress& progress);
 
 } // namespace drawcore

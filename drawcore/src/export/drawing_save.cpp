@@ -48,9 +48,9 @@ private:
         for (size_t i = 0; i < group.MemberCount(); ++i) {
             const Graphic& graphic = *group.MemberAt(i);
             const bool isNew = graphic.source == Graphic::kNoSource;
-            if (isNew && !structure_.WillHave(graphic)) continue;
+            if (isNew && !structure_.IsAdded(graphic)) continue;
             if ((graphic.touched || isNew) && !omitted_.Has(graphic))
-                omitted_.RunOrAdd(graphic, [&] { appearances_.Write(graphic, structure_.PlaceOf(graphic)); });
+                omitted_.RunOrOmit(graphic, [&] { appearances_.Write(graphic, structure_.PlaceOf(graphic)); });
             WriteMembers(graphic);
         }
     }
@@ -84,7 +84,7 @@ struct ChangedSource {
     std::string bytes;
     dxf::Document known;
     Sources sources;
-    std::vector<uint32_t> removedLeft;          // StructureExport::RemovedLeft, as offsets in the bytes
+    std::vector<uint32_t> notRemoved;           // StructureExport::NotRemoved, as offsets in the bytes
     std::map<std::string, size_t> onlyExtended; // DrawingPatch::OnlyExtended
 };
 
@@ -103,21 +103,21 @@ public:
         structure.Write();
         const bool restructured = structurePatch.IsChanged();
         const std::string other = restructured ? structurePatch.Finish() : std::string();
-        structure.TakeRefusals();
+        structure.ReportBlockingReferences();
         const std::vector<Id> newLayers = NewLayers();
         const bool isSame = !restructured && newLayers.empty() && ChangedLayers(drawing_, source_.known).empty() &&
                             !IsTouched(drawing_);
-        if (isSame || IsInVain()) return std::nullopt;
+        if (isSame || MustRepeat()) return std::nullopt;
         dxf::DrawingPatch patch(restructured ? std::string_view(other) : text_,
                                 restructured ? dxf::Read(other, {}).Tables() : source_.known.Tables());
         ChangeLayers(patch);
         ChangeExport(drawing_, structure, patch, omitted_).Write(newLayers);
-        if (IsInVain()) return std::nullopt;
+        if (MustRepeat()) return std::nullopt;
         ChangedSource changed;
         changed.onlyExtended = patch.OnlyExtended();
         changed.bytes = source_.bytes.substr(0, source_.bytes.size() - text_.size()) + patch.Finish();
-        for (const uint32_t place : structure.RemovedLeft())
-            changed.removedLeft.push_back(static_cast<uint32_t>(patch.Moved(place)));
+        for (const uint32_t place : structure.NotRemoved())
+            changed.notRemoved.push_back(static_cast<uint32_t>(patch.Moved(place)));
         report_(kPatched);
         Compare(changed);
         return changed;
@@ -125,7 +125,7 @@ public:
 
 private:
     // Returns whether the pass must be repeated without the graphics found meanwhile.
-    bool IsInVain() const { return omitted_.Count() != before_; }
+    bool MustRepeat() const { return omitted_.Count() != before_; }
 
     // Returns the layers added since the drawing was read or saved.
     std::vector<Id> NewLayers() const {
@@ -152,11 +152,10 @@ private:
     void Compare(ChangedSource& changed) {
         const std::string_view text = dxf::TextOf(changed.bytes);
         const dxf::Document document = dxf::Read(changed.bytes, report_.Part(kPatched, kReadBack));
-        changed.sources = CompareWithFile(drawing_, text, document, omitted_, changed.removedLeft,
-                                          report_.Part(kReadBack, kCompared));
+        changed.sources =
+            CompareWithFile(drawing_, text, document, omitted_, changed.notRemoved, report_.Part(kReadBack, kCompared));
         for (const auto& [index, layer] : ChangedLayers(drawing_, document))
-            omitted_.Add(OmittedObjects::NameOfLayer(HostName(layer.name)),
-                         "the file format can't store a change of it");
+            omitted_.Add(OmittedObjects::NameOfLayer(HostName(layer.name)), "the file format cannot store the change");
         CompareLayerNames(text, document);
         changed.known = document.Tables();
     }
@@ -169,7 +168,7 @@ private:
             const std::string layer = Utf8FromCodePage(name);
             if (dxf::FirstOnLayer(text, document, layer).empty()) continue;
             const std::string user = dxf::FirstOnLayer(text_, source_.known, layer); // including its line
-            omitted_.Add(OmittedObjects::NameOfLayer(name), "it cannot be deleted, since " + user + " is on it");
+            omitted_.Add(OmittedObjects::NameOfLayer(name), "cannot be deleted because " + user + " is on it");
         }
     }
 
@@ -208,7 +207,7 @@ std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, Omit
 }
 
 // Removed graphics that remain in the file are removed again at the next save.
-void RecordContents(const Drawing& drawing, const OmittedObjects& omitted, const std::vector<uint32_t>& removedLeft) {
+void RecordContents(const Drawing& drawing, const OmittedObjects& omitted, const std::vector<uint32_t>& notRemoved) {
     DxfSource& source = *drawing.source;
     const std::vector<std::string> layers = source.layers, blocks = source.blocks;
     source.RecordContents(drawing, omitted.Count());
@@ -218,7 +217,7 @@ void RecordContents(const Drawing& drawing, const OmittedObjects& omitted, const
     for (const std::string& name : blocks)
         if (omitted.Has(OmittedObjects::NameOfBlock(name)) && !drawing.Blocks()->IdOf(name))
             source.blocks.push_back(name);
-    source.graphics.insert(source.graphics.end(), removedLeft.begin(), removedLeft.end());
+    source.graphics.insert(source.graphics.end(), notRemoved.begin(), notRemoved.end());
     std::sort(source.graphics.begin(), source.graphics.end());
 }
 
@@ -245,17 +244,17 @@ int SaveDrawing(Drawing& drawing, const std::filesystem::path& path, uint32_t fl
     file.Write(bytes, [&](size_t written) { progress(dxf::Permille(written, bytes.size())); });
     if (isChanged()) return kSaveFileChanged; // while this program was writing
     file.Commit();                            // cannot be canceled from here on
-    const std::vector<uint32_t> removedLeft =
-        changed ? changed->removedLeft : std::vector<uint32_t>(omitted.Removed().begin(), omitted.Removed().end());
+    const std::vector<uint32_t> notRemoved =
+        changed ? changed->notRemoved : std::vector<uint32_t>(omitted.Removed().begin(), omitted.Removed().end());
     if (changed) {
         ReportOnlyExtended(changed->onlyExtended, listener);
         TakeOver(std::move(*changed), omitted, source);
     }
-    RecordContents(drawing, omitted, removedLeft);
+    RecordContents(drawing, omitted, notRemoved);
     source.path = path;
-    for (const dxf::Finding& finding : omitted.List())
+    for (const dxf::Warning& warning : omitted.List())
         if (listener && listener->warning)
-            listener->warning(listener->context, static_cast<int>(finding.line), finding.text.c_str());
+            listener->warning(listener->context, static_cast<int>(warning.line), warning.text.c_str());
     return omitted.Count() == 0 ? kSaveDone : kSaveDoneInPart;
 }
 

@@ -50,7 +50,7 @@ dxf::Shape HatchOf(const VertexGraphic& graphic) {
     hatch->elevation = graphic.vertices[0].z;
     std::vector<Vertex> outline;
     const auto close = [&] {
-        if (outline.size() < 2) throw dxf::SaveError("an outline with no area was added");
+        if (outline.size() < 2) throw dxf::SaveError("an added outline has no area");
         if (outline.front().Position() == outline.back().Position()) outline.pop_back();
         constexpr int kPolyline = 2, kExternal = 1;
         hatch->loops.push_back({kPolyline | kExternal, PolylineOf(outline, true), {}});
@@ -67,13 +67,13 @@ dxf::Shape HatchOf(const VertexGraphic& graphic) {
 dxf::Shape ShapeOf(const VertexGraphic& graphic) {
     const std::vector<Vertex>& vertices = graphic.vertices;
     if (vertices.empty() || graphic.MemberCount() > 0)
-        throw dxf::SaveError("a group of graphics was added, which the file format can't store");
+        throw dxf::SaveError("the file format cannot store a group of graphics");
     const bool isOneStroke = std::all_of(vertices.begin() + 1, vertices.end(),
                                          [](const Vertex& vertex) { return vertex.wFlags & kVertexDrawn; });
     const bool isLevel = IsLevel(vertices);
     if (!isOneStroke && graphic.GetPen().style == kLineStyleNone && isLevel) return HatchOf(graphic);
     if (!isOneStroke || vertices.size() < 2)
-        throw dxf::SaveError("a graphic of several strokes was added, which the file format can't store");
+        throw dxf::SaveError("the file format cannot store a graphic of several strokes");
     const bool isStraight =
         std::all_of(vertices.begin(), vertices.end(), [](const Vertex& vertex) { return vertex.Next().IsPlain(); });
     if (!graphic.closed && isStraight && vertices.size() == 2) {
@@ -81,7 +81,7 @@ dxf::Shape ShapeOf(const VertexGraphic& graphic) {
         return dxf::Line{vertices[0].Position(), vertices[1].Position()};
     }
     if (!isLevel && !isStraight)
-        throw dxf::SaveError("an arc or a width in space was added, which the file format can't store");
+        throw dxf::SaveError("the file format cannot store arcs and widths of a polyline in space");
     dxf::Polyline polyline = PolylineOf(vertices, graphic.closed);
     if (!isLevel) polyline.kind = dxf::Polyline::Kind::spatial;
     return polyline;
@@ -97,7 +97,7 @@ dxf::Shape ShapeOf(EllipseArc arc, Vec3& normal) {
     const double turned = arc.major.x * arc.minor.y - arc.major.y * arc.minor.x;
     const bool isCircle = Near(length, across) && Near(Dot(arc.major, arc.minor) + length * across, length * across);
     if (isCircle && isLevel && turned > 0) {
-        if (arc.IsWhole()) return dxf::Circle{arc.center, length};
+        if (arc.IsFullTurn()) return dxf::Circle{arc.center, length};
         const double start = std::atan2(arc.major.y, arc.major.x) + arc.start;
         return dxf::Arc{arc.center, length, Degrees(start), Degrees(start + arc.sweep)};
     }
@@ -173,14 +173,14 @@ dxf::Shape ParagraphsOf(const TextState& state) {
 
 dxf::Shape ShapeOf(const TextState& state) {
     if (state.along.z != 0 || state.up.z != 0)
-        throw dxf::SaveError("a text that is tilted into space was added, which the file format can't store");
+        throw dxf::SaveError("the file format cannot store a text that is tilted into space");
     const bool isLine = state.wrapWidth == 0 && state.text.find(L'\n') == state.text.npos;
     return isLine ? LineOf(state) : ParagraphsOf(state);
 }
 
 dxf::Shape ShapeOf(const InsertGraphic& insert) {
     if (insert.MemberCount() > 0 || !insert.Array().IsOne())
-        throw dxf::SaveError("an insertion with attributes or in rows was added, which can't be saved yet");
+        throw dxf::SaveError("an added insertion cannot be saved if it has attributes or is arrayed");
     return std::make_unique<dxf::Insert>();
 }
 

@@ -29,12 +29,12 @@ std::string LineTypeName(const LineStyleTable& styles, Id id) {
 
 } // namespace
 
-void Describe(const Layer& layer, dxf::Layer& made) {
+void Describe(const Layer& layer, dxf::Layer& fileLayer) {
     const int color = dxf::NearestIndex(layer.color);
-    made.color = color * (layer.off ? -1 : 1);
-    made.trueColor = dxf::ColorOfIndex(color) == layer.color ? -1 : dxf::TrueColorOf(layer.color);
-    made.flags &= ~(dxf::kLayerIsFrozen | dxf::kLayerIsLocked);
-    made.flags |= (layer.frozen ? dxf::kLayerIsFrozen : 0) | (layer.locked ? dxf::kLayerIsLocked : 0);
+    fileLayer.color = color * (layer.off ? -1 : 1);
+    fileLayer.trueColor = dxf::ColorOfIndex(color) == layer.color ? -1 : dxf::TrueColorOf(layer.color);
+    fileLayer.flags &= ~(dxf::kLayerIsFrozen | dxf::kLayerIsLocked);
+    fileLayer.flags |= (layer.frozen ? dxf::kLayerIsFrozen : 0) | (layer.locked ? dxf::kLayerIsLocked : 0);
 }
 
 std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing, const dxf::Document& known) {

@@ -10,7 +10,7 @@
 namespace drawcore {
 
 // Sets color and state of the file's layer; its line type does not change.
-void Describe(const Layer& layer, dxf::Layer& made);
+void Describe(const Layer& layer, dxf::Layer& fileLayer);
 
 // Returns the layers of the file whose state, color or line type has changed, with the new values.
 std::vector<std::pair<dxf::LayerIndex, dxf::Layer>> ChangedLayers(const Drawing& drawing, const dxf::Document& known);

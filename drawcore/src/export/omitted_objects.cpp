@@ -12,14 +12,14 @@ void OmittedObjects::Add(const Graphic& graphic, const std::string& why) {
     if (!graphics_.insert(&graphic).second) return;
     const std::string block = BlockOf(graphic);
     if (graphic.source == Graphic::kNoSource) {
-        findings_.push_back({0, (block.empty() ? "" : NameOfBlock(block) + ": ") + why});
+        warnings_.push_back({0, (block.empty() ? "" : NameOfBlock(block) + ": ") + why});
         return;
     }
     const std::string_view text = dxf::TextOf(drawing_.source->bytes);
     dxf::RecordName name = dxf::NameOfRecord(text, graphic.source);
     name.line = dxf::LineAt(text, graphic.source);
     name.block = block;
-    findings_.push_back({name.line, name.Text() + ": " + why});
+    warnings_.push_back({name.line, name.Text() + ": " + why});
 }
 
 void OmittedObjects::AddRemoved(uint32_t place, const std::string& why) {
@@ -27,11 +27,11 @@ void OmittedObjects::AddRemoved(uint32_t place, const std::string& why) {
     const std::string_view text = dxf::TextOf(drawing_.source->bytes);
     dxf::RecordName name = dxf::NameOfRecord(text, place);
     name.line = dxf::LineAt(text, place);
-    findings_.push_back({name.line, name.Text() + ": " + why});
+    warnings_.push_back({name.line, name.Text() + ": " + why});
 }
 
 void OmittedObjects::Add(const std::string& what, const std::string& why) {
-    if (others_.insert(what).second) findings_.push_back({0, what + ": " + why});
+    if (others_.insert(what).second) warnings_.push_back({0, what + ": " + why});
 }
 
 std::string OmittedObjects::BlockOf(const Graphic& graphic) const {

@@ -33,11 +33,11 @@ public:
 
     size_t Count() const { return graphics_.size() + removed_.size() + others_.size(); }
     // Returns all of them, with their lines in the file, in the order in which they were found.
-    const std::vector<dxf::Finding>& List() const { return findings_; }
+    const std::vector<dxf::Warning>& List() const { return warnings_; }
 
     // Runs the work for the graphic, and adds the graphic if it throws SaveError.
     template <class Work>
-    void RunOrAdd(const Graphic& graphic, const Work& work) {
+    void RunOrOmit(const Graphic& graphic, const Work& work) {
         try {
             work();
         } catch (const dxf::SaveError& error) {
@@ -52,7 +52,7 @@ private:
     std::set<const Graphic*> graphics_;
     std::set<uint32_t> removed_;
     std::set<std::string> others_;
-    std::vector<dxf::Finding> findings_;
+    std::vector<dxf::Warning> warnings_;
 };
 
 } // namespace drawcore

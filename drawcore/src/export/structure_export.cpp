@@ -27,8 +27,8 @@ StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& pa
     : drawing_(drawing), patch_(patch), omitted_(omitted) {
     for (const dxf::Block& block : patch.Known().blocks) {
         const std::string name = HostName(block.name);
-        const std::vector<std::string>& taken = drawing.source->blocks;
-        if (block.declared && std::find(taken.begin(), taken.end(), name) != taken.end())
+        const std::vector<std::string>& fileBlocks = drawing.source->blocks;
+        if (block.declared && std::find(fileBlocks.begin(), fileBlocks.end(), name) != fileBlocks.end())
             inFile_.emplace(
                 dxf::FoldName(name),
                 dxf::Block{
@@ -37,7 +37,7 @@ StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& pa
 }
 
 void StructureExport::Write() {
-    CheckWhole("the drawing", drawing_.Root());
+    CheckGroup("the drawing", drawing_.Root());
     RemoveLayers();
     RemoveBlocks();
     if (const BlockTable* blocks = drawing_.Blocks())
@@ -70,36 +70,36 @@ void StructureExport::RemoveBlocks() {
 }
 
 void StructureExport::WriteBlock(const Block& block) {
-    CheckWhole(OmittedObjects::NameOfBlock(block.name), block.Content());
+    CheckGroup(OmittedObjects::NameOfBlock(block.name), block.Content());
     const auto known = inFile_.find(dxf::FoldName(block.name));
     if (known != inFile_.end()) {
         WriteTree(block, known->second);
         return AddMissing(block.Content(), &known->second);
     }
-    dxf::Block made;
-    made.name = Utf8FromCodePage(block.name);
-    made.base = block.base;
+    dxf::Block fileBlock;
+    fileBlock.name = Utf8FromCodePage(block.name);
+    fileBlock.base = block.base;
     if (const std::string tree = StyleTreeOf(block); !tree.empty())
-        made.own.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
+        fileBlock.own.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
     std::vector<const Graphic*> parts;
     for (size_t i = 0; i < block.Content().MemberCount(); ++i) {
         const Graphic& part = *block.Content().MemberAt(i);
         if (omitted_.Has(part)) continue;
-        omitted_.RunOrAdd(part, [&] {
-            patch_.Check(made.entities.emplace_back(EntityOf(part)));
+        omitted_.RunOrOmit(part, [&] {
+            patch_.Check(fileBlock.entities.emplace_back(EntityOf(part)));
             parts.push_back(&part);
         });
     }
-    if (parts.size() != made.entities.size()) return; // will be repeated without the others
-    const size_t first = patch_.AddBlock(made);
+    if (parts.size() != fileBlock.entities.size()) return; // will be repeated without the others
+    const size_t first = patch_.AddBlock(fileBlock);
     for (size_t i = 0; i < parts.size(); ++i)
         added_.emplace(parts[i], first + i);
 }
 
 // A group of graphics has properties that no record of a file can store.
-void StructureExport::CheckWhole(const std::string& name, const Graphic& whole) {
-    if (!whole.HasAppearance(VertexGraphic().GetAppearance()))
-        omitted_.Add(name, "the file format can't store properties of the whole");
+void StructureExport::CheckGroup(const std::string& name, const Graphic& group) {
+    if (!group.HasAppearance(VertexGraphic().GetAppearance()))
+        omitted_.Add(name, "the file format cannot store properties of a group");
 }
 
 void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
@@ -131,13 +131,13 @@ void StructureExport::AddMissing(const Graphic& group, const dxf::Block* block) 
         if (!IsNew(graphic))
             Keep(graphic);
         else if (!omitted_.Has(graphic))
-            omitted_.RunOrAdd(graphic, [&] { added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block)); });
+            omitted_.RunOrOmit(graphic, [&] { added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block)); });
     }
 }
 
 // Keeps a graphic that is in the file with all its members.
 void StructureExport::Keep(const Graphic& graphic) {
-    if (IsNew(graphic)) return omitted_.Add(graphic, "an attribute was added, which can't be saved");
+    if (IsNew(graphic)) return omitted_.Add(graphic, "added attributes cannot be saved");
     kept_.push_back(graphic.source);
     for (size_t i = 0; i < graphic.MemberCount(); ++i)
         Keep(*graphic.MemberAt(i));
@@ -155,19 +155,19 @@ void StructureExport::RemoveOthers() {
     }
 }
 
-void StructureExport::TakeRefusals() {
-    for (const dxf::ReferenceRemoval::Refusal& refusal : patch_.Refusals()) {
-        const auto place = static_cast<uint32_t>(refusal.place);
+void StructureExport::ReportBlockingReferences() {
+    for (const dxf::ReferenceRemoval::BlockingReference& blocking : patch_.BlockingReferences()) {
+        const auto place = static_cast<uint32_t>(blocking.place);
         std::string what;
         for (const auto& [folded, block] : inFile_)
             if (block.begin == place) what = OmittedObjects::NameOfBlock(HostName(block.name));
         for (const dxf::Layer& layer : drawing_.source->known.layers)
             if (layer.declared && layer.offset == place) what = OmittedObjects::NameOfLayer(HostName(layer.name));
-        what.empty() ? omitted_.AddRemoved(place, refusal.why) : omitted_.Add(what, refusal.why);
+        what.empty() ? omitted_.AddRemoved(place, blocking.why) : omitted_.Add(what, blocking.why);
     }
 }
 
-std::vector<uint32_t> StructureExport::RemovedLeft() const {
+std::vector<uint32_t> StructureExport::NotRemoved() const {
     std::vector<uint32_t> places;
     for (const uint32_t place : omitted_.Removed())
         places.push_back(static_cast<uint32_t>(patch_.Moved(place)));
@@ -187,10 +187,10 @@ std::string StyleTreeOf(const dxf::Block& block) {
 
 dxf::Entity StructureExport::EntityOf(const Graphic& graphic) {
     dxf::Entity entity = drawcore::EntityOf(graphic);
-    if (auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape)) {
+    if (auto* insert = std::get_if<dxf::Boxed<dxf::Insert>>(&entity.shape)) {
         const BlockTable* blocks = drawing_.Blocks();
         const Block* shown = blocks ? blocks->At(static_cast<const InsertGraphic&>(graphic).block) : nullptr;
-        if (!shown) throw dxf::SaveError("an insertion without a block was added");
+        if (!shown) throw dxf::SaveError("an added insertion has no block");
         (*insert)->block = patch_.FindBlock(Utf8FromCodePage(shown->name));
     }
     return entity;

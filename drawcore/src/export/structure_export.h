@@ -22,11 +22,11 @@ public:
     // Returns the offset of the graphic's record in the changed text. Valid after the patch is finished.
     uint32_t PlaceOf(const Graphic& graphic) const;
     // Adds objects that cannot be removed to `omitted`. Valid after the patch is finished.
-    void TakeRefusals();
+    void ReportBlockingReferences();
     // Returns whether a new graphic gets a record.
-    bool WillHave(const Graphic& added) const { return added_.count(&added) != 0; }
+    bool IsAdded(const Graphic& added) const { return added_.count(&added) != 0; }
     // Returns the offsets in the changed text of records that are kept although their graphics were removed.
-    std::vector<uint32_t> RemovedLeft() const;
+    std::vector<uint32_t> NotRemoved() const;
     // Returns whether the file contains the block, or will.
     static bool Has(const Block& block);
 
@@ -34,7 +34,7 @@ private:
     void RemoveBlocks();
     void RemoveLayers();
     void WriteBlock(const Block& block);
-    void CheckWhole(const std::string& name, const Graphic& whole);
+    void CheckGroup(const std::string& name, const Graphic& group);
     void WriteTree(const Block& block, const dxf::Block& known);
     void AddMissing(const Graphic& group, const dxf::Block* block);
     void Keep(const Graphic& graphic);

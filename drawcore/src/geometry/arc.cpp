@@ -5,7 +5,7 @@
 
 namespace drawcore {
 
-bool EllipseArc::IsWhole() const {
+bool EllipseArc::IsFullTurn() const {
     return std::fabs(sweep) >= 2 * kPi - 1e-9;
 }
 

@@ -16,7 +16,7 @@ struct EllipseArc {
     double start = 0;       // parameter in radians
     double sweep = 2 * kPi; // extent from there; positive is counterclockwise
 
-    bool IsWhole() const;
+    bool IsFullTurn() const;
     double End() const { return start + sweep; }
     Vec3 At(double t) const;
     EllipseArc Transformed(const Matrix& matrix) const;

@@ -25,9 +25,9 @@ double ParameterAt(double low, double high, int step, int steps) {
 
 } // namespace
 
-void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance, Path& path) {
-    EllipseArc arc = given;
-    arc.start = std::fmod(given.start, 2 * kPi); // equivalent modulo a full turn, but keeps all digits
+void FlattenArc(const EllipseArc& original, const Matrix& matrix, double tolerance, Path& path) {
+    EllipseArc arc = original;
+    arc.start = std::fmod(original.start, 2 * kPi); // equivalent modulo a full turn, but keeps all digits
     const Vec3 u = matrix.Turn(arc.major), v = matrix.Turn(arc.minor);
     const double radius = std::max(std::hypot(u.x, u.y), std::hypot(v.x, v.y));
     const double sweep = arc.sweep;
@@ -42,7 +42,7 @@ void FlattenArc(const EllipseArc& given, const Matrix& matrix, double tolerance,
     for (const double t : at)
         path.LineTo(matrix.Plan(arc.At(t)), false);
     // The end of a full turn equals its start exactly, so that the outline is closed.
-    path.LineTo(matrix.Plan(arc.At(arc.IsWhole() ? arc.start : arc.End())));
+    path.LineTo(matrix.Plan(arc.At(arc.IsFullTurn() ? arc.start : arc.End())));
 }
 
 std::vector<Vec3> SplineChain(const SplineCurve& curve) {

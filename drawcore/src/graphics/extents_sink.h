@@ -8,7 +8,7 @@ namespace drawcore {
 class ExtentsSink : public GeometrySink {
 public:
     explicit ExtentsSink(Extents& extents) : extents_(extents) {}
-    bool Wants(const Extents&, double) const override { return true; }
+    bool Needs(const Extents&, double) const override { return true; }
     double Tolerance() const override { return 0; }
     double PaperInch() const override { return 0; }
     void Stroke(const Path& path, const PenUse&) override { Add(path); }

@@ -36,8 +36,8 @@ Graphic::Graphic(const Graphic& other)
     : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr), layer(other.layer),
       styleTree(other.styleTree) {
     MakeHostParts();
-    Ties().drawing = other.Ties().drawing;
-    Ties().properties = other.Ties().properties;
+    GetHostData().drawing = other.GetHostData().drawing;
+    GetHostData().properties = other.GetHostData().properties;
     GetPen() = other.GetPen();
     SetBrush(other.GetBrush());
     ++ObjectCounts::graphics;
@@ -53,7 +53,7 @@ void Graphic::SetBrush(const Brush& brush) {
 
 void Graphic::MakeHostParts() {
     new (host8) Pen;
-    new (host68) Tied;
+    new (host68) HostData;
     new (host28) Extents;
 }
 
@@ -74,20 +74,20 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     if (!parts_) parts_ = std::make_unique<std::vector<std::unique_ptr<Graphic>>>();
     Graphic* added = parts_->emplace_back(std::move(part)).get();
     added->pParent = this;
-    added->Ties().place = static_cast<uint32_t>(parts_->size() - 1);
+    added->GetHostData().place = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
-    if (DrawingContents* drawing = Ties().drawing) added->Attach(drawing);
+    if (DrawingContents* drawing = GetHostData().drawing) added->Attach(drawing);
     InvalidateExtents();
     return added;
 }
 
 std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
-    const size_t place = part->Ties().place;
+    const size_t place = part->GetHostData().place;
     if (!parts_ || place >= parts_->size() || (*parts_)[place].get() != part) return nullptr;
     std::unique_ptr<Graphic> released = std::move((*parts_)[place]);
     parts_->erase(parts_->begin() + static_cast<std::ptrdiff_t>(place));
     for (size_t i = place; i < parts_->size(); ++i)
-        (*parts_)[i]->Ties().place = static_cast<uint32_t>(i);
+        (*parts_)[i]->GetHostData().place = static_cast<uint32_t>(i);
     MembersMoved();
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;
@@ -111,14 +111,14 @@ const Graphic& Graphic::Top() const {
 }
 
 void Graphic::Attach(DrawingContents* drawing) {
-    Ties().drawing = drawing;
+    GetHostData().drawing = drawing;
     InvalidateExtents();
     for (size_t i = 0; parts_ && i < parts_->size(); ++i)
         (*parts_)[i]->Attach(drawing);
 }
 
 DrawingContents* Graphic::GetDrawing() const {
-    return DrawingContents::Find(Ties().drawing);
+    return DrawingContents::Find(GetHostData().drawing);
 }
 
 void Graphic::SetStyleName(const char* name) {

@@ -94,8 +94,8 @@ public:
     // Returns the spatial index of the members; null for a graphic with few members.
     virtual SpatialIndex* MemberIndex() const { return nullptr; }
 
-    const PropertyTable* GetPropertyTable() const { return Ties().properties; }
-    void SetPropertyTable(const PropertyTable* table) { Ties().properties = table; }
+    const PropertyTable* GetPropertyTable() const { return GetHostData().properties; }
+    void SetPropertyTable(const PropertyTable* table) { GetHostData().properties = table; }
 
     const Pen& GetPen() const { return *Place<Pen>(const_cast<Graphic*>(this)->host8); }
     Pen& GetPen() { return *Place<Pen>(host8); }
@@ -131,14 +131,14 @@ private:
 
     // Data stored in the record's bytes that belong to the host; in separate members it would take a hundred megabytes
     // for a million graphics.
-    struct Tied {
+    struct HostData {
         DrawingContents* drawing = nullptr;
         const PropertyTable* properties = nullptr;
         uint32_t undoPlace = 0; // index in the open undo step; only a hint
         uint32_t place = 0;     // index among the parts of its owner
     };
-    Tied& Ties() { return *Place<Tied>(host68); }
-    const Tied& Ties() const { return *Place<Tied>(const_cast<Graphic*>(this)->host68); }
+    HostData& GetHostData() { return *Place<HostData>(host68); }
+    const HostData& GetHostData() const { return *Place<HostData>(const_cast<Graphic*>(this)->host68); }
     Extents& Box() const { return *Place<Extents>(const_cast<Graphic*>(this)->host28); }
     void MakeHostParts();
 

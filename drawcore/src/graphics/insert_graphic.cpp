@@ -46,7 +46,7 @@ void InsertGraphic::SetArray(const InsertArray& array) {
 }
 
 void InsertGraphic::Place(const dxf::AxisEnds& ends) {
-    KeepFirst();
+    StorePlacement();
     for (size_t i = 0; i < ends.size(); ++i)
         vertices[i].Set(ends[i]);
 }
@@ -80,14 +80,14 @@ Matrix InsertGraphic::Placement() const {
     return dxf::PlacementOf(Ends());
 }
 
-void InsertGraphic::KeepFirst() {
+void InsertGraphic::StorePlacement() {
     const bool leads = MemberCount() > 0 || !Array().IsOne();
     if (leads && !(more_ && more_->first)) GetMore().first = Placement();
 }
 
 Vertex* InsertGraphic::VertexAt(size_t place) {
     if (place >= std::size(vertices)) return nullptr;
-    KeepFirst();
+    StorePlacement();
     return &vertices[place];
 }
 

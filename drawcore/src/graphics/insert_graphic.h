@@ -48,7 +48,7 @@ protected:
     void AddShapeExtents(Extents& extents) const override;
 
 private:
-    void KeepFirst(); // called before it is moved
+    void StorePlacement(); // called before it is moved
 
     // Data that few insertions need.
     struct More {

@@ -22,7 +22,7 @@ namespace drawcore {
 namespace {
 
 // Access to an integer value.
-struct WholeAccess {
+struct IntegerAccess {
     int64_t (*get)(const Graphic&);
     void (*set)(Graphic&, int64_t);
 };
@@ -40,7 +40,7 @@ struct TextAccess {
 // A property: exactly one of the three accessors is set.
 struct Property {
     const char* name;
-    WholeAccess whole{};
+    IntegerAccess integer{};
     RealAccess real{};
     TextAccess text{};
 };
@@ -85,7 +85,7 @@ struct InText : Assigned<InText<field>> {
 };
 
 template <class Place>
-constexpr Property Whole(const char* name) {
+constexpr Property IntegerProperty(const char* name) {
     return {name, {[](const Graphic& g) { return static_cast<int64_t>(Place::In(g)); }, Place::template Set<int64_t>}};
 }
 
@@ -170,27 +170,27 @@ const char* GetStoredFont(const Graphic& graphic) {
 // In the order of kPropertyList.
 constexpr Property kProperties[] = {
     Real<InBrush<&Brush::angle>>(kPropBrushAngle),
-    Whole<InBrush<&Brush::color>>(kPropBrushColor),
-    Whole<InBrush<&Brush::drawMode>>(kPropBrushDrawMode),
+    IntegerProperty<InBrush<&Brush::color>>(kPropBrushColor),
+    IntegerProperty<InBrush<&Brush::drawMode>>(kPropBrushDrawMode),
     Real<InBrush<&Brush::scale>>(kPropBrushScale),
-    Whole<InBrush<&Brush::style>>(kPropBrushStyle),
-    Whole<InBrush<&Brush::cross>>(kPropHatchCross),
+    IntegerProperty<InBrush<&Brush::style>>(kPropBrushStyle),
+    IntegerProperty<InBrush<&Brush::cross>>(kPropHatchCross),
     {kPropInfo, {}, {}, {GetInfo, SetInfo, nullptr}},
-    Whole<Own<&Graphic::layer>>(kPropLayer),
-    Whole<InPen<&Pen::alignment>>(kPropPenAlignment),
-    Whole<InPen<&Pen::color>>(kPropPenColor),
+    IntegerProperty<Own<&Graphic::layer>>(kPropLayer),
+    IntegerProperty<InPen<&Pen::alignment>>(kPropPenAlignment),
+    IntegerProperty<InPen<&Pen::color>>(kPropPenColor),
     Real<InPen<&Pen::scale>>(kPropPenScale),
-    Whole<InPen<&Pen::style>>(kPropPenStyle),
+    IntegerProperty<InPen<&Pen::style>>(kPropPenStyle),
     {kPropPenWidth, {}, {ShownPenWidth, SetPenWidth, GetStoredPenWidth}},
     {kPropScaleSystem, {GetScaleSystem, SetScaleSystem}},
-    Whole<Own<&Graphic::styleTree>>(kPropStyleTree),
+    IntegerProperty<Own<&Graphic::styleTree>>(kPropStyleTree),
     {kPropTextFont,
      {},
      {},
      {GetFont, [](Graphic& g, const char* v) { InText<&TextState::font>::In(g) = v; }, GetStoredFont}},
-    Whole<InText<&TextState::format>>(kPropTextFormat),
+    IntegerProperty<InText<&TextState::format>>(kPropTextFormat),
     Real<InText<&TextState::height>>(kPropTextSize),
-    Whole<InText<&TextState::style>>(kPropTextStyle),
+    IntegerProperty<InText<&TextState::style>>(kPropTextStyle),
 };
 
 // Lookups use binary search, and both tables have the same order.
@@ -207,7 +207,7 @@ static_assert(IsListSorted());
 
 // Types of integers. 32-bit types accept either interpretation of the top bit, because colors may be signed or
 // unsigned.
-bool GiveWhole(int vt, void* out, int64_t value) {
+bool StoreInteger(int vt, void* out, int64_t value) {
     switch (vt) {
     case VT_I4:
     case VT_UI4:
@@ -227,7 +227,7 @@ bool GiveWhole(int vt, void* out, int64_t value) {
     }
 }
 
-bool TakeWhole(int vt, const void* in, int64_t& value) {
+bool ReadInteger(int vt, const void* in, int64_t& value) {
     switch (vt) {
     case VT_I4:
     case VT_UI4:
@@ -271,11 +271,11 @@ bool GiveText(int vt, void* out, const char* text) {
     if (vt != VT_BSTR) return false;
     char** variable = static_cast<char**>(out);
     const size_t size = std::strlen(text) + 1;
-    char* made = static_cast<char*>(DrawCoreNew(size));
-    if (!made) return false;
-    std::memcpy(made, text, size);
+    char* copy = static_cast<char*>(DrawCoreNew(size));
+    if (!copy) return false;
+    std::memcpy(copy, text, size);
     BStringNULL(variable);
-    *variable = made;
+    *variable = copy;
     return true;
 }
 
@@ -316,7 +316,7 @@ int Get(GraphicStruct* record, int32_t number, int vt, void* out) {
     if (!record || !InfoAt(number, owner) || !out) return 0;
     const Property& property = kProperties[number];
     const Graphic& graphic = *Graphic::From(record);
-    if (property.whole.get) return GiveWhole(vt, out, property.whole.get(graphic));
+    if (property.integer.get) return StoreInteger(vt, out, property.integer.get(graphic));
     if (property.real.get) return GiveReal(vt, out, property.real.get(graphic));
     return GiveText(vt, out, property.text.get(graphic));
 }
@@ -327,10 +327,11 @@ int Set(GraphicStruct* record, int32_t number, int vt, const void* in) {
     if (!record || !info || !in) return 0;
     const Property& property = kProperties[number];
     Graphic& graphic = *Graphic::From(record);
-    if (property.whole.get) {
+    if (property.integer.get) {
         int64_t value;
-        return TakeWhole(vt, in, value) && Accepts(*info, graphic, value) ? Put(graphic, *info, property.whole, value)
-                                                                          : 0;
+        return ReadInteger(vt, in, value) && Accepts(*info, graphic, value)
+                   ? Put(graphic, *info, property.integer, value)
+                   : 0;
     }
     if (property.real.get) {
         double value;
@@ -356,7 +357,7 @@ bool HasStored(const Graphic& graphic, size_t place) {
 StoredProperty GetStored(const Graphic& graphic, size_t place) {
     const Property& property = kProperties[place];
     if (!HasStored(graphic, place)) return {};
-    if (property.whole.get) return property.whole.get(graphic);
+    if (property.integer.get) return property.integer.get(graphic);
     if (property.real.get) return property.real.stored ? property.real.stored(graphic) : property.real.get(graphic);
     return std::string(property.text.stored ? property.text.stored(graphic) : property.text.get(graphic));
 }
@@ -365,10 +366,10 @@ void SetStored(Graphic& graphic, size_t place, const StoredProperty& value) {
     const Property& property = kProperties[place];
     const PropertyInfo& info = kPropertyList[place];
     if (!HasStored(graphic, place)) return;
-    const auto* whole = std::get_if<int64_t>(&value);
+    const auto* integer = std::get_if<int64_t>(&value);
     const auto* real = std::get_if<double>(&value);
     const auto* text = std::get_if<std::string>(&value);
-    if (whole && property.whole.set && Accepts(info, graphic, *whole)) property.whole.set(graphic, *whole);
+    if (integer && property.integer.set && Accepts(info, graphic, *integer)) property.integer.set(graphic, *integer);
     if (real && property.real.set && Accepts(info, *real)) property.real.set(graphic, *real);
     if (text && property.text.set) property.text.set(graphic, text->c_str());
 }

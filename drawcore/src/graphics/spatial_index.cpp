@@ -59,7 +59,7 @@ double Share(double low, double high, double allLow, double allHigh) {
 }
 
 // Returns whether the box contains so much that checking every member is faster than sorting the results.
-bool HoldsMuch(const Extents& box, const Extents& all) {
+bool ContainsMuch(const Extents& box, const Extents& all) {
     constexpr double kMuch = 0.125;
     return Share(box.low.x, box.high.x, all.low.x, all.high.x) * Share(box.low.y, box.high.y, all.low.y, all.high.y) >
            kMuch;
@@ -104,7 +104,7 @@ void SpatialIndex::Build(const Graphic& group) {
 }
 
 // Adds new members, which follow the known ones.
-void SpatialIndex::TakeUp(const Graphic& group) {
+void SpatialIndex::AddNewMembers(const Graphic& group) {
     for (; known_ < group.MemberCount(); ++known_)
         changed_.push_back(static_cast<uint32_t>(known_));
     constexpr size_t kFew = 64;
@@ -123,9 +123,9 @@ void SpatialIndex::TakeUp(const Graphic& group) {
 void SpatialIndex::Forget(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
-    changed_.push_back(member.Ties().place);
+    changed_.push_back(member.GetHostData().place);
     const Extents& extents = member.Box();
-    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.Ties().place});
+    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.GetHostData().place});
 }
 
 void SpatialIndex::Drop() {
@@ -133,8 +133,8 @@ void SpatialIndex::Drop() {
 }
 
 std::optional<std::vector<uint32_t>> SpatialIndex::Find(const Graphic& group, const Extents& box, double paperInch) {
-    if (HoldsMuch(box, group.GetExtents())) return std::nullopt;
-    TakeUp(group);
+    if (ContainsMuch(box, group.GetExtents())) return std::nullopt;
+    AddNewMembers(group);
     const double reach = std::max(worldReach_, paperReach_ * paperInch);
     Extents around = box;
     around.Add(box.low - Vec3{reach, reach, 0});

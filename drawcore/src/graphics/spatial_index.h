@@ -36,7 +36,7 @@ private:
     class Tree;
 
     void Build(const Graphic& group);
-    void TakeUp(const Graphic& group);
+    void AddNewMembers(const Graphic& group);
     void NoteMember(const Graphic& member);
 
     std::unique_ptr<Tree> tree_;    // null until it is built

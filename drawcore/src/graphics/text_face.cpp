@@ -43,9 +43,9 @@ const TextFace& TextFace::Get(const std::string& name, uint16_t style) {
 
 TextFace::TextFace(const std::string& name, uint16_t style) : font_(MakeFont(name, style)) {
     const SelectedObject selected(MeasuringDevice(), font_);
-    char given[LF_FACESIZE] = "";
-    ::GetTextFaceA(MeasuringDevice(), sizeof given, given);
-    name_ = given;
+    char substituted[LF_FACESIZE] = "";
+    ::GetTextFaceA(MeasuringDevice(), sizeof substituted, substituted);
+    name_ = substituted;
     TEXTMETRICA metrics{};
     ::GetTextMetricsA(MeasuringDevice(), &metrics);
     GLYPHMETRICS glyph{};

@@ -122,7 +122,7 @@ bool TraceAlone(const Graphic& graphic, const Trace& trace) {
     const PenUse use = ResolvePen(graphic, trace);
     const double reach = std::max(use.width / 2, graphic.Reach() * trace.matrix.PlanScale());
     const bool isGroup = graphic.GetKind() == Kind::Group;
-    if (!isGroup && !trace.sink.Wants(box, reach)) return false;
+    if (!isGroup && !trace.sink.Needs(box, reach)) return false;
     if (!isGroup && IsShown(graphic, trace)) {
         if (IsDot(box, trace.sink))
             TraceDot(box, trace, use);

@@ -50,7 +50,7 @@ class GeometrySink {
 public:
     virtual ~GeometrySink();
     // Returns whether geometry in that box (sink units), or within that distance of it, is needed.
-    virtual bool Wants(const Extents& box, double reach) const = 0;
+    virtual bool Needs(const Extents& box, double reach) const = 0;
     // Graphics up to this size in both directions are traced as points.
     virtual double DotSize() const { return 0; }
     // Returns the maximum distance between a flattened curve and the true one.

@@ -37,7 +37,7 @@ void UndoLog::Step::Close() {
         size += appearance.info.size();
 }
 
-UndoLog::Step UndoLog::Step::Present() const {
+UndoLog::Step UndoLog::Step::CurrentState() const {
     Step present;
     present.mark = mark;
     for (const Saved& entry : saved) {
@@ -52,7 +52,7 @@ UndoLog::Step UndoLog::Step::Present() const {
 int UndoLog::Step::Restore() const {
     int restored = 0;
     for (const Saved& entry : saved) {
-        if (entry.IsGone()) continue;
+        if (entry.IsRemoved()) continue;
         entry.Restore();
         ++restored;
     }
@@ -126,14 +126,14 @@ int UndoLog::Cancel() {
 
 // The step undone last is discarded last, because it is the next to redo.
 void UndoLog::EnforceLimit() {
-    size_t whole = 0;
+    size_t total = 0;
     for (const std::deque<Step>* steps : {&steps_, &undone_})
         for (const Step& step : *steps)
-            whole += step.size;
-    for (; whole > room_ && undone_.size() > 1; undone_.pop_front())
-        whole -= undone_.front().size;
-    for (dropped_ = 0; whole > room_ && steps_.size() > 1; ++dropped_) {
-        whole -= steps_.front().size;
+            total += step.size;
+    for (; total > memoryLimit_ && undone_.size() > 1; undone_.pop_front())
+        total -= undone_.front().size;
+    for (dropped_ = 0; total > memoryLimit_ && steps_.size() > 1; ++dropped_) {
+        total -= steps_.front().size;
         firstMark_ = steps_.front().mark;
         steps_.pop_front();
     }
@@ -142,7 +142,7 @@ void UndoLog::EnforceLimit() {
 int UndoLog::Turn(std::deque<Step>& from, std::deque<Step>& to) {
     TellListener();
     Step& step = from.back();
-    to.push_back(step.Present());
+    to.push_back(step.CurrentState());
     const int restored = step.Restore();
     to.back().Close();
     from.pop_back();
@@ -169,19 +169,19 @@ uint32_t UndoLog::Mark() const {
 
 UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
     std::deque<Saved>& saved = steps_.back().saved;
-    const size_t place = graphic.Ties().undoPlace;
+    const size_t place = graphic.GetHostData().undoPlace;
     return place < saved.size() && saved[place].graphic == &graphic ? &saved[place] : nullptr;
 }
 
-void UndoLog::Enter(Graphic& graphic) {
-    graphic.Ties().undoPlace = static_cast<uint32_t>(steps_.back().saved.size());
+void UndoLog::AddToStep(Graphic& graphic) {
+    graphic.GetHostData().undoPlace = static_cast<uint32_t>(steps_.back().saved.size());
     graphic.inUndoLog_ = true;
 }
 
 void UndoLog::SaveAppearance(Graphic& graphic) {
     TellListener();
     if (InOpenStep(graphic)) return;
-    Enter(graphic);
+    AddToStep(graphic);
     steps_.back().Add(graphic);
 }
 
@@ -195,7 +195,7 @@ void UndoLog::SaveState(Graphic& graphic) {
     if (entry && entry->state) return;
     std::unique_ptr<Graphic> state = graphic.CloneState();
     if (!entry) {
-        Enter(graphic);
+        AddToStep(graphic);
         entry = &steps_.back().saved.emplace_back(Saved{&graphic, nullptr, nullptr});
     }
     if (entry->appearance) state->SetAppearance(*entry->appearance); // as it was before the step
@@ -209,7 +209,7 @@ void UndoLog::Remove(Graphic& graphic) {
             std::deque<Saved>& saved = steps_.back().saved;
             if (entry != &saved.back()) {
                 *entry = std::move(saved.back());
-                entry->graphic->Ties().undoPlace = graphic.Ties().undoPlace;
+                entry->graphic->GetHostData().undoPlace = graphic.GetHostData().undoPlace;
             }
             saved.pop_back();
         }

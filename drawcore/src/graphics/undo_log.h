@@ -33,7 +33,7 @@ public:
     size_t UndoneSteps() const { return undone_.size(); }
     uint32_t Mark() const; // identifies the state; each state in the lifetime of the drawing has another
 
-    void SetRoom(size_t bytes) { room_ = bytes; }
+    void SetMemoryLimit(size_t bytes) { memoryLimit_ = bytes; }
     void SetListener(const ChangeListener& listener) { listener_ = listener; }
     int Dropped() const { return dropped_; } // number of steps discarded by the last End for lack of memory
 
@@ -47,7 +47,7 @@ private:
         const Appearance* appearance = nullptr; // at most one of these is set; neither after the graphic was removed
         std::unique_ptr<Graphic> state;
 
-        bool IsGone() const { return !appearance && !state; }
+        bool IsRemoved() const { return !appearance && !state; }
         bool IsDifferentNow() const;
         void Restore() const;
     };
@@ -64,12 +64,12 @@ private:
         const Appearance* Take(const Graphic& graphic);
         void Forget(const Graphic& graphic);
         void Close();
-        Step Present() const; // the current state of the same graphics
-        int Restore() const;  // returns the number of graphics
+        Step CurrentState() const; // the current state of the same graphics
+        int Restore() const;       // returns the number of graphics
     };
 
     Saved* InOpenStep(const Graphic& graphic);
-    void Enter(Graphic& graphic); // adds it to the open step
+    void AddToStep(Graphic& graphic); // adds it to the open step
     void TellListener() const;
     int Turn(std::deque<Step>& from, std::deque<Step>& to);
     void EnforceLimit();
@@ -77,7 +77,7 @@ private:
     std::deque<Step> steps_;
     std::deque<Step> undone_; // the last one is redone next
     bool open_ = false;
-    size_t room_ = size_t{256} << 20;
+    size_t memoryLimit_ = size_t{256} << 20;
     int dropped_ = 0;
     uint32_t firstMark_ = 0; // of the state before the first remaining step
     uint32_t lastMark_ = 0;

@@ -20,9 +20,9 @@ Vertex& Vertex::operator=(const Vertex& other) {
 }
 
 void Vertex::SetNext(const Segment& segment) {
-    const Segment* made = segment.IsPlain() ? nullptr : new Segment(segment);
+    const Segment* stored = segment.IsPlain() ? nullptr : new Segment(segment);
     delete Kept().segment;
-    Keep({made, Kept().owner});
+    Keep({stored, Kept().owner});
 }
 
 bool operator==(const Vertex& a, const Vertex& b) {

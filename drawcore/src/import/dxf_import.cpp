@@ -32,7 +32,7 @@ public:
                 entities_.AddTo(drawing_->Root(), entity, false);
         }
         if (onPaper > 0)
-            document_.findings.push_back({0, onPaper == 1
+            document_.warnings.push_back({0, onPaper == 1
                                                  ? "1 entity of paper space is not shown"
                                                  : std::to_string(onPaper) + " entities of paper space are not shown"});
         return std::move(drawing_);

@@ -8,7 +8,7 @@
 
 namespace drawcore {
 
-// Converts the document's model space with its tables and blocks. Omitted objects are added to its findings.
+// Converts the document's model space with its tables and blocks. Omitted objects are added to its warnings.
 std::unique_ptr<Drawing> ImportDxf(dxf::Document& document, const dxf::Progress& progress);
 
 } // namespace drawcore

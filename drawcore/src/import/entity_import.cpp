@@ -107,7 +107,7 @@ public:
     std::unique_ptr<Graphic> operator()(const dxf::Circle&) { return Curve(); }
     std::unique_ptr<Graphic> operator()(const dxf::Arc&) { return Curve(); }
     std::unique_ptr<Graphic> operator()(const dxf::Ellipse&) { return Curve(); }
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Viewport>&) { return nullptr; }
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Viewport>&) { return nullptr; }
 
     std::unique_ptr<Graphic> operator()(const dxf::PointMark& mark) {
         auto graphic = std::make_unique<VertexGraphic>();
@@ -121,11 +121,11 @@ public:
         return polyline.kind == dxf::Polyline::Kind::flat ? MakeFlat(entity_, polyline) : Traced(entity_);
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Spline>& spline) {
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Spline>& spline) {
         return std::make_unique<SplineGraphic>(dxf::CurveOf(*spline));
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Face>& face) {
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Face>& face) {
         auto graphic = std::make_unique<VertexGraphic>();
         const Matrix system = face->filled ? dxf::ObjectSystem(entity_.normal) : Matrix();
         graphic->AddVertex(system.Apply(face->corners[0]));
@@ -136,7 +136,7 @@ public:
         return graphic;
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Hatch>& hatch) {
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Hatch>& hatch) {
         auto graphic = std::make_unique<VertexGraphic>();
         VertexBuilder builder(*graphic);
         const Matrix system = Matrix::Translation({0, 0, hatch->elevation}) * dxf::ObjectSystem(entity_.normal);
@@ -145,17 +145,17 @@ public:
         return graphic->vertices.empty() ? nullptr : std::move(graphic);
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Text>& text) { return ImportText(entity_, *text); }
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Text>& text) { return ImportText(entity_, *text); }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::MText>& text) {
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::MText>& text) {
         return ImportText(entity_, *text, importer_.document_);
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Insert>& insert) {
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Insert>& insert) {
         return importer_.MakeInsert(entity_, *insert);
     }
 
-    std::unique_ptr<Graphic> operator()(const dxf::Apart<dxf::Dimension>& dimension) {
+    std::unique_ptr<Graphic> operator()(const dxf::Boxed<dxf::Dimension>& dimension) {
         if (dimension->block == dxf::BlockIndex::none) return nullptr;
         const Id block = importer_.tables_.blocks[static_cast<size_t>(dimension->block)];
         if (!block) return nullptr;
@@ -232,7 +232,7 @@ void EntityImport::AddAttributes(Graphic& group, const dxf::Insert& insert) {
 }
 
 void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock) {
-    const auto* text = std::get_if<dxf::Apart<dxf::Text>>(&entity.shape);
+    const auto* text = std::get_if<dxf::Boxed<dxf::Text>>(&entity.shape);
     if (entity.invisible || (inBlock && text && (*text)->role == dxf::Text::Role::definition)) return;
     std::unique_ptr<Graphic> graphic = std::visit(ShapeImport(*this, entity), entity.shape);
     Graphic* added = nullptr;
@@ -242,7 +242,7 @@ void EntityImport::AddTo(Graphic& group, const dxf::Entity& entity, bool inBlock
         added = group.Add(std::move(graphic));
     }
     // Attributes of an invisible insertion become separate graphics.
-    if (const auto* insert = std::get_if<dxf::Apart<dxf::Insert>>(&entity.shape))
+    if (const auto* insert = std::get_if<dxf::Boxed<dxf::Insert>>(&entity.shape))
         AddAttributes(added ? *added : group, **insert);
 }
 

@@ -53,10 +53,10 @@ private:
         if (!(length < kFarthest)) headEnd_ = length; // solid
         const double dash = pattern_.items.front() * pattern_.scale;
         if (headEnd_ > 0 || !pattern_.fit || dash <= 0) return;
-        const double whole = std::floor(length / period_);
-        const double end = (length - whole * period_ + dash) / 2;
-        headEnd_ = whole < 1 ? length : end;
-        tailStart_ = whole < 1 ? length : length - end;
+        const double periods = std::floor(length / period_);
+        const double end = (length - periods * period_ + dash) / 2;
+        headEnd_ = periods < 1 ? length : end;
+        tailStart_ = periods < 1 ? length : length - end;
         shift_ = dash - end; // at the end of the first dash, one dash of the pattern has been drawn
     }
 

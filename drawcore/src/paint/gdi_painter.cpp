@@ -29,7 +29,7 @@ Box BoxOf(const RECT& rect) {
 
 // Clips the device context to the rectangle. Returns where geometry is needed: the clip region may be smaller, but
 // geometry slightly outside can extend into it.
-Box WantedOf(HDC dc, const RECT& clip) {
+Box NeededBoxOf(HDC dc, const RECT& clip) {
     ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     RECT through = clip;
     const DWORD type = ::GetObjectType(dc);
@@ -82,7 +82,7 @@ bool GdiPainter::PenKey::operator==(const PenKey& other) const {
 
 GdiPainter::GdiPainter(HDC dc, const RECT& clip, const PaintSettings& settings)
     : dc_(dc), saved_(dc), settings_(settings), inch_(::GetDeviceCaps(dc, LOGPIXELSX)), clip_(BoxOf(clip)),
-      wanted_(WantedOf(dc, clip)), texts_(dc) {
+      needed_(NeededBoxOf(dc, clip)), texts_(dc) {
     ::SetBkMode(dc, TRANSPARENT);
     ::SetROP2(dc, R2_COPYPEN);
 }
@@ -92,9 +92,9 @@ GdiPainter::~GdiPainter() {
     ::SelectObject(dc_, ::GetStockObject(BLACK_PEN)); // before the pens are deleted
 }
 
-bool GdiPainter::Wants(const Extents& box, double reach) const {
-    return box.low.x <= wanted_.right + reach && box.high.x >= wanted_.left - reach &&
-           box.low.y <= wanted_.bottom + reach && box.high.y >= wanted_.top - reach;
+bool GdiPainter::Needs(const Extents& box, double reach) const {
+    return box.low.x <= needed_.right + reach && box.high.x >= needed_.left - reach &&
+           box.low.y <= needed_.bottom + reach && box.high.y >= needed_.top - reach;
 }
 
 Color GdiPainter::Seen(Color color) {

@@ -28,9 +28,9 @@ public:
     ~GdiPainter() override;
 
     // Returns the part of clip where geometry is needed.
-    const Box& Wanted() const { return wanted_; }
+    const Box& NeededBox() const { return needed_; }
 
-    bool Wants(const Extents& box, double reach) const override;
+    bool Needs(const Extents& box, double reach) const override;
     double DotSize() const override { return 0.75; }
     double Tolerance() const override { return 0.2; }
     double PaperInch() const override { return inch_; }
@@ -63,8 +63,8 @@ private:
     SavedDC saved_;
     const PaintSettings settings_;
     const double inch_;
-    const Box clip_; // lines are clipped here regardless of wanted_, because clipping may change the pixels of a line
-    const Box wanted_;
+    const Box clip_; // lines are clipped here regardless of needed_, because clipping may change the pixels of a line
+    const Box needed_;
     std::map<PenKey, OwnedPen> pens_;
     std::unordered_map<Color, Color> shades_; // cache of displayed colors
     TextOutput texts_;

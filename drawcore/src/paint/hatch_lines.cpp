@@ -74,14 +74,14 @@ Lines LinesIn(const Family& family, const Box& box) {
     return {static_cast<int64_t>(std::ceil(low)), static_cast<int64_t>(std::floor(high))};
 }
 
-void AddCrossings(const Family& family, const Point& a, const Point& b, const Lines& seen,
+void AddCrossings(const Family& family, const Point& a, const Point& b, const Lines& visible,
                   std::vector<Crossing>& found) {
     const double from = family.Across(a) / family.spacing, to = family.Across(b) / family.spacing;
     if (from == to) return;
     // A line through a corner intersects only the edge that ends above it: low < line <= high.
     const double low = std::min(from, to), high = std::max(from, to);
-    const double first = std::max(std::floor(low) + 1, static_cast<double>(seen.first));
-    const double last = std::min(std::floor(high), static_cast<double>(seen.last));
+    const double first = std::max(std::floor(low) + 1, static_cast<double>(visible.first));
+    const double last = std::min(std::floor(high), static_cast<double>(visible.last));
     const double alongA = family.Along(a), alongB = family.Along(b);
     for (double line = first; line <= last; ++line)
         found.push_back(
@@ -127,12 +127,12 @@ void AddPiece(const Family& family, int64_t line, double from, double to, const 
 }
 
 void AddFamily(const Family& family, const Path& areas, bool winding, const Box& box, Path& lines) {
-    const Lines seen = LinesIn(family, box);
+    const Lines visible = LinesIn(family, box);
     std::vector<Crossing> crossings;
     for (size_t area = 0; area < areas.Count(); ++area) {
         const size_t begin = areas.Begin(area), end = areas.End(area);
         for (size_t i = begin; i < end; ++i)
-            AddCrossings(family, areas.points[i], areas.points[i + 1 < end ? i + 1 : begin], seen, crossings);
+            AddCrossings(family, areas.points[i], areas.points[i + 1 < end ? i + 1 : begin], visible, crossings);
     }
     std::sort(crossings.begin(), crossings.end(), [](const Crossing& a, const Crossing& b) {
         return a.line != b.line ? a.line < b.line : a.along < b.along;

@@ -59,7 +59,7 @@ public:
 
     void Begin() override { hit_ = false; }
     bool IsHit() const override { return hit_; }
-    bool Wants(const Extents& box, double reach) const override {
+    bool Needs(const Extents& box, double reach) const override {
         const double slack = tolerance_ + reach;
         return !hit_ && point_.x >= box.low.x - slack && point_.x <= box.high.x + slack &&
                point_.y >= box.low.y - slack && point_.y <= box.high.y + slack;
@@ -87,7 +87,7 @@ public:
 
     void Begin() override { hit_ = false; }
     bool IsHit() const override { return hit_; }
-    bool Wants(const Extents& box, double reach) const override {
+    bool Needs(const Extents& box, double reach) const override {
         const Box grown = box_.Grown(reach);
         return !hit_ && box.low.x <= grown.right && box.high.x >= grown.left && box.low.y <= grown.bottom &&
                box.high.y >= grown.top;
@@ -104,7 +104,7 @@ private:
         double from, to;
         for (size_t line = 0; line < path.Count(); ++line) {
             const size_t begin = path.Begin(line), end = path.End(line);
-            hit_ = hit_ || box_.Holds(path.points[begin]);
+            hit_ = hit_ || box_.Contains(path.points[begin]);
             for (size_t i = begin; i + 1 < end && !hit_; ++i)
                 hit_ = ClipSegment(path.points[i], path.points[i + 1], box_, from, to);
         }
@@ -123,7 +123,7 @@ public:
         any_ = false;
     }
     bool IsHit() const override { return any_ && inside_; }
-    bool Wants(const Extents&, double) const override { return inside_; }
+    bool Needs(const Extents&, double) const override { return inside_; }
     void Stroke(const Path& path, const PenUse&) override { Check(path); }
     void Fill(const Path& outlines, const BrushUse&) override { Check(outlines); }
     void Text(const TextRow& row) override { Check(BoxOf(row)); }
@@ -132,7 +132,7 @@ private:
     void Check(const Path& path) {
         any_ = any_ || !path.points.empty();
         for (const Point& p : path.points)
-            inside_ = inside_ && box_.Holds(p);
+            inside_ = inside_ && box_.Contains(p);
     }
 
     const Box box_;

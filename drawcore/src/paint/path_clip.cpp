@@ -47,7 +47,7 @@ Where Locate(const Path& path, const Box& box) {
         high = {std::max(high.x, p.x), std::max(high.y, p.y)};
     }
     if (!isFinite) return Where::Nowhere;
-    if (box.Holds(low) && box.Holds(high)) return Where::Inside;
+    if (box.Contains(low) && box.Contains(high)) return Where::Inside;
     const bool disjoint = low.x > box.right || high.x < box.left || low.y > box.bottom || high.y < box.top;
     return disjoint ? Where::Outside : Where::Across;
 }
@@ -64,7 +64,7 @@ void ClipLines(const Path& path, const Box& box, Path& clipped) {
     clipped.Clear();
     for (size_t line = 0; line < path.Count(); ++line) {
         const size_t begin = path.Begin(line), end = path.End(line);
-        if (end - begin == 1 && box.Holds(path.points[begin])) clipped.MoveTo(path.points[begin]);
+        if (end - begin == 1 && box.Contains(path.points[begin])) clipped.MoveTo(path.points[begin]);
         bool joined = false; // the last part ends where the next begins
         for (size_t i = begin; i + 1 < end; ++i) {
             const Point &a = path.points[i], &b = path.points[i + 1];

@@ -9,7 +9,7 @@ namespace drawcore {
 struct Box {
     double left, top, right, bottom; // left < right, top < bottom
 
-    bool Holds(const Point& p) const { return p.x >= left && p.x <= right && p.y >= top && p.y <= bottom; }
+    bool Contains(const Point& p) const { return p.x >= left && p.x <= right && p.y >= top && p.y <= bottom; }
     Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
 };
 

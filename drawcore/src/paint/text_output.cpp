@@ -20,7 +20,7 @@ XFORM Directions(const TextRow& row) {
             0};
 }
 
-// Gets the start of the row in font units, rounded to its pixel, so that a picture moved by whole pixels equals a
+// Gets the start of the row in font units, rounded to its pixel, so that a picture moved by combined pixels equals a
 // redrawn one. If a font unit is larger than a pixel, the position is part of the transformation. Returns false if the
 // row is seen edge-on or is too far away for the device.
 bool Place(const TextRow& row, XFORM& form, POINT& position) {
@@ -56,9 +56,9 @@ void TextOutput::Draw(const TextRow& row, Color color) {
     if (!Place(row, form, at)) return;
     if (!open_) Begin();
     if (std::memcmp(&form, &form_, sizeof form) != 0) {
-        XFORM whole;
-        ::CombineTransform(&whole, &form, &before_);
-        ::SetWorldTransform(dc_, &whole);
+        XFORM combined;
+        ::CombineTransform(&combined, &form, &before_);
+        ::SetWorldTransform(dc_, &combined);
         form_ = form;
     }
     if (::GetCurrentObject(dc_, OBJ_FONT) != row.face->Font()) ::SelectObject(dc_, row.face->Font());

@@ -43,10 +43,10 @@ void Viewport::Show(const Extents& extents) {
 
 void Viewport::Zoom(Point fixed, double factor) {
     if (!(factor > 0) || !std::isfinite(factor)) return;
-    const Point kept = ToDrawing(fixed);
+    const Point anchor = ToDrawing(fixed);
     scale_ = std::clamp(scale_ * factor, kSmallestScale, kLargestScale);
     const Point now = ToDrawing(fixed);
-    center_ = {center_.x + kept.x - now.x, center_.y + kept.y - now.y};
+    center_ = {center_.x + anchor.x - now.x, center_.y + anchor.y - now.y};
 }
 
 void Viewport::Pan(double dx, double dy) {

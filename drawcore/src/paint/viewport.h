@@ -40,7 +40,7 @@ public:
     bool lineWeights = true;
 
     struct Painting { // continued by the next call
-        VisibleMembers seen;
+        VisibleMembers members;
         long budget = 0; // of the tracing
     };
     Painting painting;

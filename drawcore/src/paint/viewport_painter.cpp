@@ -98,15 +98,16 @@ bool PaintUntil(PaintClock::time_point end, const Graphic& graphic, Viewport& vi
     if (place == 0) {
         if (!TraceAlone(graphic, trace)) return true;
         viewport.painting.budget = tools.budget;
-        viewport.painting.seen =
-            preview ? VisibleMembers() : VisibleMembers(graphic, painter.Wanted(), trace.matrix, painter.PaperInch());
+        viewport.painting.members =
+            preview ? VisibleMembers()
+                    : VisibleMembers(graphic, painter.NeededBox(), trace.matrix, painter.PaperInch());
     }
     tools.budget = viewport.painting.budget;
     const Trace inner = TraceOfMembers(graphic, trace);
-    const VisibleMembers& seen = viewport.painting.seen;
-    const size_t count = seen.CountIn(graphic);
+    const VisibleMembers& members = viewport.painting.members;
+    const size_t count = members.CountIn(graphic);
     while (place < count) {
-        if (const Graphic* member = seen.At(graphic, place)) TraceGraphic(*member, inner);
+        if (const Graphic* member = members.At(graphic, place)) TraceGraphic(*member, inner);
         constexpr uint32_t kAtOnce = 64; // number of graphics between time checks
         if (++place % kAtOnce == 0 && PaintClock::now() >= end) break;
     }

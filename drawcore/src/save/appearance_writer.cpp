@@ -44,8 +44,8 @@ void AppearanceWriter::Write(const Appearance& wanted) {
         WriteDashes(wanted);
         WriteExtended(wanted);
     }
-    if (const auto* text = std::get_if<Apart<Text>>(&entity_.shape)) PutText(**text);
-    if (const auto* text = std::get_if<Apart<MText>>(&entity_.shape)) PutText(**text);
+    if (const auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) PutText(**text);
+    if (const auto* text = std::get_if<Boxed<MText>>(&entity_.shape)) PutText(**text);
     WriteExtendedValue();
 }
 
@@ -91,7 +91,7 @@ void AppearanceWriter::WriteExtendedValue() {
 
 void AppearanceWriter::WriteLayer(const Appearance& wanted) {
     if (wanted.layer == entity_.layer) return;
-    drawing_.NeedRecord(wanted.layer);
+    drawing_.EnsureRecord(wanted.layer);
     record_.SetCommon(8, drawing_.in_.layers.Stored(drawing_.Known().At(wanted.layer)));
     entity_.layer = wanted.layer;
 }
@@ -124,7 +124,7 @@ void AppearanceWriter::PutColor(uint32_t color) {
 void AppearanceWriter::WriteColor(const Appearance& wanted) {
     const Appearance now = Now();
     if (now.color == wanted.color && now.brush.color == wanted.brush.color) return;
-    const bool isHatch = std::holds_alternative<Apart<Hatch>>(entity_.shape);
+    const bool isHatch = std::holds_alternative<Boxed<Hatch>>(entity_.shape);
     const uint32_t brush = wanted.brush.color;
     RemoveExtended(kPropPenColor);
     RemoveExtended(kPropBrushColor);
@@ -145,7 +145,7 @@ void AppearanceWriter::WriteLineType(const Appearance& wanted) {
     const LineTypeIndex type = wanted.lineType;
     if (Now().lineType == type) return;
     const bool named = type < LineTypeIndex::none;
-    if (named) drawing_.NeedRecord(type);
+    if (named) drawing_.EnsureRecord(type);
     const std::string name = type == LineTypeIndex::none      ? ""
                              : type == LineTypeIndex::byLayer ? kByLayerName
                              : type == LineTypeIndex::byBlock ? kByBlockName
@@ -166,8 +166,8 @@ void AppearanceWriter::WriteLineType(const Appearance& wanted) {
 void AppearanceWriter::WriteLineScale(const Appearance& wanted) {
     if (Now().lineScale == wanted.lineScale) return;
     RemoveExtended(kPropPenScale);
-    const bool held = wanted.lineScale > 0 && (IsNewer("AC1012") || record_.HasCommon(48));
-    if (!held) return ExtendedNumbers(kPropPenScale, {wanted.lineScale});
+    const bool hasGroup = wanted.lineScale > 0 && (IsNewer("AC1012") || record_.HasCommon(48));
+    if (!hasGroup) return ExtendedNumbers(kPropPenScale, {wanted.lineScale});
     entity_.lineTypeScale = wanted.lineScale;
     record_.SetCommon(48, RealText(wanted.lineScale));
 }

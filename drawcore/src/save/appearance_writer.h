@@ -48,7 +48,7 @@ private:
     void RemoveVertexWidths();
 
     void WriteBrush(const Appearance& wanted);
-    void WriteAngle(double angle, double held);
+    void WriteAngle(double angle, double inGroups);
     void PutBrush(Hatch& hatch, const BrushAppearance& wanted);
     void PutSolid(Hatch& hatch);
     void PutPattern(Hatch& hatch, const BrushAppearance& wanted);
@@ -61,7 +61,7 @@ private:
     void WriteEffects(const TextAppearance& wanted); // and other values that the groups cannot store
     void PutFace(Text& text, const FontFace& face);
     static void PutFormat(Text& text, uint16_t format);
-    static void PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole);
+    static void PutSwitch(std::string& text, char letter, bool was, bool wanted, bool forAll);
     void PutText(const Text& now);
     void PutText(const MText& now);
     void PutParagraphs(const std::string& text);

@@ -47,41 +47,41 @@ void AppearanceWriter::WriteBrush(const Appearance& wanted) {
     for (const char* name : {kPropBrushStyle, kPropBrushScale, kPropBrushAngle, kPropHatchCross, kPropBrushDrawMode})
         RemoveExtended(name);
     const BrushAppearance& brush = wanted.brush;
-    if (auto* hatch = std::get_if<Apart<Hatch>>(&entity_.shape)) PutBrush(**hatch, brush);
-    const BrushAppearance held = AppearanceByGroups(drawing_.Known(), entity_).brush;
-    const bool sameLines =
-        brush.lines.empty() && held.lines.empty() ? brush.style == held.style : SameLines(brush.lines, held.lines);
-    if (!sameLines || brush.style.empty() != held.style.empty())
+    if (auto* hatch = std::get_if<Boxed<Hatch>>(&entity_.shape)) PutBrush(**hatch, brush);
+    const BrushAppearance inGroups = AppearanceByGroups(drawing_.Known(), entity_).brush;
+    const bool sameLines = brush.lines.empty() && inGroups.lines.empty() ? brush.style == inGroups.style
+                                                                         : SameLines(brush.lines, inGroups.lines);
+    if (!sameLines || brush.style.empty() != inGroups.style.empty())
         ExtendedText(kPropBrushStyle, brush.style,
                      SameLines(StandardLines(brush.style), brush.lines) ? std::vector<double>()
                                                                         : NumbersFromLines(brush.lines));
-    if (brush.scale != held.scale) ExtendedNumbers(kPropBrushScale, {brush.scale});
-    if (brush.angle != held.angle) WriteAngle(brush.angle, held.angle);
-    if (brush.cross != held.cross) ExtendedNumbers(kPropHatchCross, {brush.cross ? 1.0 : 0.0});
-    if (brush.winding != held.winding) ExtendedNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
+    if (brush.scale != inGroups.scale) ExtendedNumbers(kPropBrushScale, {brush.scale});
+    if (brush.angle != inGroups.angle) WriteAngle(brush.angle, inGroups.angle);
+    if (brush.cross != inGroups.cross) ExtendedNumbers(kPropHatchCross, {brush.cross ? 1.0 : 0.0});
+    if (brush.winding != inGroups.winding) ExtendedNumbers(kPropBrushDrawMode, {brush.winding ? 1.0 : 0.0});
 }
 
 // Writes the exact angle to extended data if the degrees are only near it.
-void AppearanceWriter::WriteAngle(double angle, double held) {
-    if (!Near(angle, held)) return ExtendedNumbers(kPropBrushAngle, {angle});
+void AppearanceWriter::WriteAngle(double angle, double inGroups) {
+    if (!Near(angle, inGroups)) return ExtendedNumbers(kPropBrushAngle, {angle});
     exact_.insert(kPropBrushAngle);
-    ExtendedNumbers(kPropBrushAngle, {angle, held});
+    ExtendedNumbers(kPropBrushAngle, {angle, inGroups});
 }
 
 // As far as a hatch can have that brush.
 void AppearanceWriter::PutBrush(Hatch& hatch, const BrushAppearance& wanted) {
-    const BrushAppearance held = BrushOf(hatch);
+    const BrushAppearance inGroups = BrushOf(hatch);
     if (wanted.style == kSolidBrush && wanted.lines.empty()) {
-        if (held.style != kSolidBrush || !held.lines.empty()) PutSolid(hatch);
+        if (inGroups.style != kSolidBrush || !inGroups.lines.empty()) PutSolid(hatch);
         return;
     }
     if (wanted.lines.empty()) return; // no brush, or one without lines
     BrushAppearance put = wanted;
-    if (!(put.scale > 0)) put.scale = held.scale;
-    if (!IsWithinTurn(put.angle)) put.angle = held.angle;
+    if (!(put.scale > 0)) put.scale = inGroups.scale;
+    if (!IsWithinTurn(put.angle)) put.angle = inGroups.angle;
     put.cross = wanted.cross && wanted.lines.size() == 1;
-    const bool same = SameLines(put.lines, held.lines) && put.scale == held.scale && put.angle == held.angle &&
-                      put.cross == held.cross;
+    const bool same = SameLines(put.lines, inGroups.lines) && put.scale == inGroups.scale &&
+                      put.angle == inGroups.angle && put.cross == inGroups.cross;
     if (!same) PutPattern(hatch, put);
 }
 

@@ -56,9 +56,9 @@ void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
     RequireStorable(wanted, layer, Known().header.version);
     const bool otherLine = wanted.lineType != layer.lineType;
     const LineTypeIndex line = otherLine ? FindLineType(wanted.lineType) : LineTypeIndex::none;
-    if (otherLine) NeedRecord(line);
+    if (otherLine) EnsureRecord(line);
     const Layer was = std::exchange(layer, wanted);
-    if (!was.declared) return NeedRecord(index);
+    if (!was.declared) return EnsureRecord(index);
     RecordPatch record(patch_, in_.tags, was.offset);
     if (wanted.color != was.color) record.Set(62, std::to_string(wanted.color), {70, 2});
     if (wanted.flags != was.flags) record.Set(70, std::to_string(wanted.flags), {2});
@@ -102,14 +102,14 @@ std::string DrawingPatch::Finish() {
     return patch_.Result();
 }
 
-void DrawingPatch::NeedRecord(LayerIndex index) {
+void DrawingPatch::EnsureRecord(LayerIndex index) {
     Layer& layer = Describe(index);
     if (layer.declared) return;
     layer.declared = true;
     tables_.AddLayer(layer, in_.layers.Stored(layer));
 }
 
-void DrawingPatch::NeedRecord(LineTypeIndex index) {
+void DrawingPatch::EnsureRecord(LineTypeIndex index) {
     LineType& type = Describe(index);
     if (type.declared) return;
     type.declared = true;

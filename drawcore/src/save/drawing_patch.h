@@ -60,7 +60,7 @@ public:
     void RenameLayer(LayerIndex index, const std::string& name);
 
     // Adds a record for the layer if no table has one.
-    void NeedRecord(LayerIndex index);
+    void EnsureRecord(LayerIndex index);
 
     // Returns the number of entities for which a property was written to extended data only, by property name.
     const std::map<std::string, size_t>& OnlyExtended() const { return onlyExtended_; }
@@ -74,7 +74,7 @@ public:
 private:
     friend class AppearanceWriter;
 
-    void NeedRecord(LineTypeIndex index);
+    void EnsureRecord(LineTypeIndex index);
     // Returns the name of a text style with that face.
     std::string TextStyleFor(const FontFace& face);
 

@@ -92,7 +92,7 @@ struct EntityRecords::Shapes {
     }
 
     void operator()(const Ellipse& ellipse) {
-        records.NeedVersion("AC1012", "ellipses");
+        records.RequireVersion("AC1012", "ellipses");
         Begin("ELLIPSE", "AcDbEllipse");
         Put(values, 10, ellipse.center);
         Put(values, 11, ellipse.majorAxis);
@@ -128,8 +128,8 @@ struct EntityRecords::Shapes {
         }
     }
 
-    void operator()(const Apart<Spline>& spline) {
-        records.NeedVersion("AC1012", "splines");
+    void operator()(const Boxed<Spline>& spline) {
+        records.RequireVersion("AC1012", "splines");
         Begin("SPLINE", "AcDbSpline");
         Put(values, 70, spline->closed ? kClosedSpline : 0);
         Put(values, 71, spline->degree);
@@ -144,7 +144,7 @@ struct EntityRecords::Shapes {
             Put(values, 10, point);
     }
 
-    void operator()(const Apart<Text>& text) {
+    void operator()(const Boxed<Text>& text) {
         Begin("TEXT", "AcDbText");
         Put(values, 10, text->insertion);
         Put(values, 40, text->height);
@@ -160,8 +160,8 @@ struct EntityRecords::Shapes {
         Put(values, 73, static_cast<int>(text->vertical));
     }
 
-    void operator()(const Apart<MText>& text) {
-        records.NeedVersion("AC1012", "texts of several lines");
+    void operator()(const Boxed<MText>& text) {
+        records.RequireVersion("AC1012", "multiline texts");
         Begin("MTEXT", "AcDbMText");
         Put(values, 10, text->insertion);
         Put(values, 40, text->height);
@@ -174,7 +174,7 @@ struct EntityRecords::Shapes {
         Put(values, 44, text->lineSpacing);
     }
 
-    void operator()(const Apart<Insert>& insert) {
+    void operator()(const Boxed<Insert>& insert) {
         Begin("INSERT", "AcDbBlockReference");
         const Block& block = records.known_.At(insert->block);
         const bool isStored = !block.stored.empty();
@@ -182,8 +182,8 @@ struct EntityRecords::Shapes {
         Put(values, 10, insert->at);
     }
 
-    void operator()(const Apart<Hatch>& hatch) {
-        records.NeedVersion("AC1012", "hatches");
+    void operator()(const Boxed<Hatch>& hatch) {
+        records.RequireVersion("AC1012", "hatches");
         Begin("HATCH", "AcDbHatch");
         Put(values, 10, Vec3{0, 0, hatch->elevation});
         Put(values, 210, entity.normal);
@@ -209,7 +209,7 @@ struct EntityRecords::Shapes {
 
     template <class Other>
     void operator()(const Other&) {
-        throw SaveError("a graphic of a kind that is only read was added");
+        throw SaveError("graphics of this kind can be read, but not added");
     }
 };
 
@@ -257,7 +257,7 @@ void EntityRecords::Mark(Values& to, const char* marker) const {
     if (tables_.HasMarkers()) to.push_back({kSubclass, marker});
 }
 
-void EntityRecords::NeedVersion(const char* version, const char* kind) const {
+void EntityRecords::RequireVersion(const char* version, const char* kind) const {
     if (known_.header.version < version) throw SaveError(std::string("a file of this version has no ") + kind);
 }
 

@@ -29,7 +29,7 @@ private:
     // Begins a record and returns its handle.
     std::string Begin(Values& to, const Head& head, const std::string& owner);
     void Mark(Values& to, const char* marker) const;
-    void NeedVersion(const char* version, const char* kind) const;
+    void RequireVersion(const char* version, const char* kind) const;
 
     struct Shapes;
     void AppendVertices(Values& to, const Polyline& polyline, const std::string& owner);

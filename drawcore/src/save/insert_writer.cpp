@@ -74,13 +74,13 @@ void AppearanceWriter::Place(const AxisEnds& ends) {
     if (AxisEndsOf(entity_) == ends) return;
     const Matrix placement = PlacementOf(ends), motion = MotionBetween(PlacementOf(entity_), placement);
     RemoveExtended(kExtendedPlacement);
-    if (auto* insert = std::get_if<Apart<Insert>>(&entity_.shape)) {
+    if (auto* insert = std::get_if<Boxed<Insert>>(&entity_.shape)) {
         const Matrix axes = AxesOf(entity_, **insert);
         PutPlacement(**insert, placement);
         if ((*insert)->columns > 1 || (*insert)->rows > 1) MoveArray(**insert, axes * motion);
         for (const Entity& attribute : (*insert)->attributes)
             drawing_.moved_[attribute.offset] = motion;
-    } else if (auto* dimension = std::get_if<Apart<Dimension>>(&entity_.shape)) {
+    } else if (auto* dimension = std::get_if<Boxed<Dimension>>(&entity_.shape)) {
         const Vec3 to = placement.Apply({});
         PutPoint(12, (*dimension)->offset, to);
         (*dimension)->offset = to;
@@ -125,7 +125,7 @@ void AppearanceWriter::MoveArray(Insert& insert, const Matrix& moved) {
         const double rounding = RoundingAt(insert.at);
         double length = now.x * along.x + now.y * along.y + now.z * along.z;
         if (Length(along * length - now) > rounding * std::max(1.0, Length(now)))
-            throw SaveError("an array of insertions is slanted, which the file format can't store");
+            throw SaveError("the file format cannot store a sheared array of insertions");
         length = std::fabs(length - spacing) <= rounding ? spacing : Clean(length, rounding);
         PutReal(code, spacing, length, {71, 70, 43, 42, 41, 30});
         spacing = length;

@@ -11,8 +11,8 @@ std::string FirstOnLayer(std::string_view text, const Document& document, const 
     TextDecoder decoder;
     decoder.SetVersion(document.header.version);
     decoder.SetCodePage(document.header.codePage);
-    std::vector<Layer> mentioned;
-    Names<Layer> names(mentioned, decoder);
+    std::vector<Layer> layers;
+    Names<Layer> names(layers, decoder);
     const size_t wanted = names.FindUtf8(layer);
     const Progress silent;
     TagReader tags(text, silent);

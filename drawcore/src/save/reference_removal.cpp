@@ -89,7 +89,7 @@ private:
             if (isObject) return RemoveRecord(record.End(), *removed, before);
             RecordName name = NameOfRecord(text_, begin);
             name.line = LineAt(text_, begin);
-            of_.refusals_.push_back({*removed, "it cannot be removed, since " + name.Text() + " refers to it"});
+            of_.blocking_.push_back({*removed, "cannot be removed because " + name.Text() + " refers to it"});
         }
     }
 
@@ -224,9 +224,9 @@ void ReferenceRemoval::Run() {
         edits_.erase(
             std::remove_if(edits_.begin(), edits_.end(), [&](const Edit& edit) { return ranges_.count(edit.at) == 0; }),
             edits_.end());
-        refusals_.clear();
+        blocking_.clear();
     } while (Scan(*this).Run());
-    if (!refusals_.empty()) return;
+    if (!blocking_.empty()) return;
     for (Edit& edit : edits_)
         patch_.Replace(edit.at, edit.length, std::move(edit.with));
 }

@@ -16,16 +16,16 @@ class ReferenceRemoval {
 public:
     ReferenceRemoval(TextPatch& patch) : patch_(patch) {}
 
-    // Adds records that the caller removes, from begin to end. The offset `place` stands for them in refusals.
+    // Adds records that the caller removes, from begin to end. The offset `place` names them in blocking references.
     void Add(size_t begin, size_t end, size_t place);
 
     // Removes all references, or none if one of them cannot be removed.
     void Run();
-    struct Refusal {
+    struct BlockingReference {
         size_t place;    // of the record that cannot be removed
         std::string why; // for example "GROUP 2F (line 1024) refers to it"
     };
-    const std::vector<Refusal>& Refusals() const { return refusals_; }
+    const std::vector<BlockingReference>& BlockingReferences() const { return blocking_; }
 
 private:
     struct Range {
@@ -44,7 +44,7 @@ private:
     std::map<std::string, size_t> handles_; // removed handles, and the offsets that stand for them
     std::map<std::string, size_t> owned_;   // likewise, for objects removed with their owners
     std::vector<Edit> edits_;
-    std::vector<Refusal> refusals_;
+    std::vector<BlockingReference> blocking_;
 };
 
 } // namespace dxf

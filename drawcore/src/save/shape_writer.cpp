@@ -23,7 +23,7 @@ void AppearanceWriter::MoveVertices(const std::vector<Vec3>& to) {
         PutPoint(11, line->end, to[1]);
     } else if (auto* mark = std::get_if<PointMark>(&entity_.shape); mark && to.size() == 2) {
         PutPoint(10, mark->at, to[0]);
-    } else if (auto* face = std::get_if<Apart<Face>>(&entity_.shape); face && to.size() == 5) {
+    } else if (auto* face = std::get_if<Boxed<Face>>(&entity_.shape); face && to.size() == 5) {
         MoveCorners(**face, to);
     } else if (auto* leader = std::get_if<Leader>(&entity_.shape)) {
         PutPoints(leader->vertices, to, true);
@@ -59,7 +59,7 @@ void AppearanceWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>&
         return !SameToRounding(point.z, height, std::max(std::fabs(point.x), std::fabs(point.y)));
     };
     if (flat && std::any_of(now.begin(), now.end(), isOff))
-        throw SaveError("a polyline has left its plane, which the file format can't store");
+        throw SaveError("the file format cannot store a polyline that has left its plane");
     const bool isLight = record_.Groups()[0].value.find("LW") != std::string_view::npos;
     if (isLight) {
         PutReal(38, was[0].z, height, {43, 70, 90});
@@ -73,16 +73,16 @@ void AppearanceWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>&
 // Writes the groups 10, 20 and possibly 30, which occur once per point.
 void AppearanceWriter::PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace) {
     if (was.size() != now.size()) return;
-    size_t begun = 0;
+    size_t pointCount = 0;
     for (const Group& group : record_.Groups()) {
         if (group.attached) continue;
-        if (group.code == 10) ++begun;
-        const size_t i = begun - 1;
+        if (group.code == 10) ++pointCount;
+        const size_t i = pointCount - 1;
         const double Vec3::*axis = group.code == 10              ? &Vec3::x
                                    : group.code == 20            ? &Vec3::y
                                    : group.code == 30 && inSpace ? &Vec3::z
                                                                  : nullptr;
-        if (axis && begun > 0 && begun <= now.size() && was[i].*axis != now[i].*axis)
+        if (axis && pointCount > 0 && pointCount <= now.size() && was[i].*axis != now[i].*axis)
             record_.SetValue(group, RealText(now[i].*axis));
     }
 }

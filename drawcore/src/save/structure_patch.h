@@ -42,10 +42,12 @@ public:
     size_t AddBlock(const Block& block);
 
     bool IsChanged() const { return changed_; }
-    // Returns the changed text, which is valid if there are no refusals. Nothing can be changed afterwards.
+    // Returns the changed text, which is valid if there are no blocking references. Nothing can be changed afterwards.
     std::string Finish();
-    // Returns what cannot be removed, by offset of the entity, layer or block.
-    const std::vector<ReferenceRemoval::Refusal>& Refusals() const { return references_.Refusals(); }
+    // Returns references that prevent removals, with the offset of the entity, layer or block.
+    const std::vector<ReferenceRemoval::BlockingReference>& BlockingReferences() const {
+        return references_.BlockingReferences();
+    }
     // Returns the offset of an added entity's record in the changed text, or that of existing contents.
     size_t PlaceOf(size_t added) const { return added_[added].place; }
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }

@@ -118,7 +118,7 @@ void TablePatch::Scan() {
 
 std::string TablePatch::TakeHandle() {
     constexpr uint64_t kLast = UINT64_MAX - 1; // so that the following one is valid too
-    if (highest_ >= kLast) throw SaveError("the drawing has no unused handles for new entries of its tables");
+    if (highest_ >= kLast) throw SaveError("the drawing has no unused handles");
     handleTaken_ = true;
     return Hex(++highest_);
 }
@@ -162,12 +162,11 @@ bool TablePatch::HasApplication(const std::string& name) {
     return std::find(applications_.begin(), applications_.end(), name) != applications_.end();
 }
 
-TablePatch::Table& TablePatch::NeedTable(const char* name) {
+TablePatch::Table& TablePatch::RequireTable(const char* name) {
     Scan();
     Table& table = tables_[name];
     if (table.head != 0 && table.end == 0)
-        throw SaveError(std::string("table ") + name +
-                        " of the drawing has no end, so that nothing can be added to it");
+        throw SaveError(std::string("table ") + name + " has no end; nothing can be added to it");
     if (table.head != 0 || table.isNew) return table;
     table.isNew = true;
     if (HasMarkers()) table.handle = TakeHandle();
@@ -186,7 +185,7 @@ std::string TablePatch::LinesOf(const Values& values) {
 }
 
 std::string TablePatch::Add(const char* name, const char* marker, const Values& values, const Values& extended) {
-    Table& table = NeedTable(name);
+    Table& table = RequireTable(name);
     const Progress none;
     TagReader tags(patch_.Text(), none);
     std::optional<RecordPatch> sample;

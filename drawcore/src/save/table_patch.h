@@ -71,7 +71,7 @@ private:
     void NoteSection(const Tag& tag);
     void NoteHandle(const Tag& tag);
     Record& BlockRecordOf(const std::string& name);
-    Table& NeedTable(const char* name);
+    Table& RequireTable(const char* name);
     std::string Add(const char* name, const char* marker, const Values& values, const Values& extended = {});
 
     TextPatch& patch_;

@@ -51,43 +51,44 @@ bool IsNameForCode(const std::string& family) {
 } // namespace
 
 void AppearanceWriter::PutContents(const std::string& contents) {
-    if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) (*text)->text = contents;
-    if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) (*text)->text = contents;
+    if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) (*text)->text = contents;
+    if (auto* text = std::get_if<Boxed<MText>>(&entity_.shape)) (*text)->text = contents;
 }
 
 void AppearanceWriter::WriteText(const Appearance& wanted) {
-    if (auto* text = std::get_if<Apart<Text>>(&entity_.shape)) WriteLine(**text, wanted);
-    if (auto* text = std::get_if<Apart<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);
+    if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) WriteLine(**text, wanted);
+    if (auto* text = std::get_if<Boxed<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);
 }
 
 void AppearanceWriter::WriteEffects(const TextAppearance& wanted) {
     RemoveExtended(kPropTextStyle);
-    const TextAppearance held = AppearanceByGroups(drawing_.Known(), entity_).text;
-    if (const int missing = wanted.style & ~held.style) ExtendedNumbers(kPropTextStyle, {static_cast<double>(missing)});
+    const TextAppearance inGroups = AppearanceByGroups(drawing_.Known(), entity_).text;
+    if (const int missing = wanted.style & ~inGroups.style)
+        ExtendedNumbers(kPropTextStyle, {static_cast<double>(missing)});
     RemoveExtended(kPropTextFont);
-    if (held.font != wanted.font) ExtendedText(kPropTextFont, wanted.font);
+    if (inGroups.font != wanted.font) ExtendedText(kPropTextFont, wanted.font);
     RemoveExtended(kPropTextFormat);
-    if (held.format != wanted.format) ExtendedNumbers(kPropTextFormat, {static_cast<double>(wanted.format)});
+    if (inGroups.format != wanted.format) ExtendedNumbers(kPropTextFormat, {static_cast<double>(wanted.format)});
 }
 
 void AppearanceWriter::WriteLine(Text& text, const Appearance& appearance) {
     const TextAppearance& wanted = appearance.text;
-    const bool whole = Now().varied & ~appearance.varied & kVariedStyle;
-    const TextAppearance held = AppearanceByGroups(drawing_.Known(), entity_).text;
-    if (held.height != wanted.height) text.height = wanted.height;
-    if (held.font != wanted.font || (held.style ^ wanted.style) & kCut)
+    const bool forAll = Now().varied & ~appearance.varied & kVariedStyle;
+    const TextAppearance inGroups = AppearanceByGroups(drawing_.Known(), entity_).text;
+    if (inGroups.height != wanted.height) text.height = wanted.height;
+    if (inGroups.font != wanted.font || (inGroups.style ^ wanted.style) & kCut)
         PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kCut)});
-    if (held.format != wanted.format && !IsFitted(text)) PutFormat(text, wanted.format);
+    if (inGroups.format != wanted.format && !IsFitted(text)) PutFormat(text, wanted.format);
     if (text.role != Text::Role::definition) { // a definition displays its tag, which is a name
-        PutSwitch(text.text, 'u', held.style & kTextUnderline, wanted.style & kTextUnderline, whole);
-        PutSwitch(text.text, 'k', held.style & kTextStrikethrough, wanted.style & kTextStrikethrough, whole);
+        PutSwitch(text.text, 'u', inGroups.style & kTextUnderline, wanted.style & kTextUnderline, forAll);
+        PutSwitch(text.text, 'k', inGroups.style & kTextStrikethrough, wanted.style & kTextStrikethrough, forAll);
     }
     if (text.role == Text::Role::attribute) text.hidden = (wanted.style & kTextHidden) != 0;
     WriteEffects(wanted);
 }
 
-void AppearanceWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted, bool whole) {
-    if (was == wanted && !whole) return;
+void AppearanceWriter::PutSwitch(std::string& text, char letter, bool was, bool wanted, bool forAll) {
+    if (was == wanted && !forAll) return;
     text = WithoutSwitch(text, letter);
     if (wanted) text.insert(0, std::string("%%") + letter);
 }
@@ -129,33 +130,34 @@ void PutAlignment(MText& text, uint16_t format) {
 
 void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
     const TextAppearance& appearance = wanted.text;
-    const auto held = [&] { return AppearanceByGroups(drawing_.Known(), entity_); };
+    const auto inGroups = [&] { return AppearanceByGroups(drawing_.Known(), entity_); };
     // Values requested for all of the text, not only for most of it.
-    const uint8_t whole = Now().varied & ~wanted.varied;
-    if (whole & kVariedSize) text.text = WithoutCodes(text.text, "H");
-    if (held().text.height != appearance.height) text.height = appearance.height;
-    if (held().text.height != appearance.height) text.text = WithoutCodes(text.text, "H");
+    const uint8_t forAll = Now().varied & ~wanted.varied;
+    if (forAll & kVariedSize) text.text = WithoutCodes(text.text, "H");
+    if (inGroups().text.height != appearance.height) text.height = appearance.height;
+    if (inGroups().text.height != appearance.height) text.text = WithoutCodes(text.text, "H");
     const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
-    const bool otherFace = held().text.font != appearance.font || (held().text.style ^ appearance.style) & kCut ||
-                           (isInCodes && whole & (kVariedFont | kVariedStyle));
+    const bool otherFace = inGroups().text.font != appearance.font ||
+                           (inGroups().text.style ^ appearance.style) & kCut ||
+                           (isInCodes && forAll & (kVariedFont | kVariedStyle));
     if (otherFace && IsNameForCode(appearance.font)) PutFaceCode(text, appearance);
     const auto put = [&](uint16_t bit, const char* codes) {
-        if (!((held().text.style ^ appearance.style) & bit || whole & kVariedStyle)) return;
+        if (!((inGroups().text.style ^ appearance.style) & bit || forAll & kVariedStyle)) return;
         text.text = WithoutCodes(text.text, codes);
         if (appearance.style & bit) text.text = std::string("\\") + codes[0] + text.text;
     };
     put(kTextUnderline, "Ll");
     put(kTextStrikethrough, "Kk");
-    if (held().color != wanted.color || whole & kVariedColor) text.text = WithoutCodes(text.text, "Cc");
-    if (held().text.format != appearance.format || whole & kVariedFormat) PutAlignment(text, appearance.format);
+    if (inGroups().color != wanted.color || forAll & kVariedColor) text.text = WithoutCodes(text.text, "Cc");
+    if (inGroups().text.format != appearance.format || forAll & kVariedFormat) PutAlignment(text, appearance.format);
     WriteEffects(appearance);
 }
 
 // Rotates, mirrors and slants the text, also into another plane.
 void AppearanceWriter::Move(const Matrix& motion) {
-    auto* held = std::get_if<Apart<Text>>(&entity_.shape);
-    if (!held) return;
-    Text& text = **held;
+    auto* shape = std::get_if<Boxed<Text>>(&entity_.shape);
+    if (!shape) return;
+    Text& text = **shape;
     const Matrix system = ObjectSystem(entity_.normal);
     const double angle = Radians(text.rotation), up = angle + kPi / 2 - Radians(text.oblique);
     Vec3 along = motion.Turn(system.Turn(Direction(angle))), rise = motion.Turn(system.Turn(Direction(up)));
@@ -207,7 +209,7 @@ void AppearanceWriter::CheckText(std::string_view stored) const {
 }
 
 void AppearanceWriter::PutText(const Text& now) {
-    const Text& was = *std::get<Apart<Text>>(stored_.shape);
+    const Text& was = *std::get<Boxed<Text>>(stored_.shape);
     if (was.text != now.text) {
         const Group* group = record_.Find(1);
         if (group) CheckText(group->value);
@@ -237,7 +239,7 @@ void AppearanceWriter::PutText(const Text& now) {
 }
 
 void AppearanceWriter::PutText(const MText& now) {
-    const MText& was = *std::get<Apart<MText>>(stored_.shape);
+    const MText& was = *std::get<Boxed<MText>>(stored_.shape);
     PutReal(40, was.height, now.height, {30, 20, 10});
     if (was.attachment != now.attachment) record_.Set(71, std::to_string(now.attachment), {41, 40});
     if (was.text != now.text) PutParagraphs(now.text);

@@ -35,15 +35,15 @@ double PatternLine::Spacing() const {
 }
 
 std::vector<PatternLine> LinesFromFile(const std::vector<dxf::Hatch::PatternLine>& lines) {
-    std::vector<PatternLine> made;
+    std::vector<PatternLine> patternLines;
     for (const dxf::Hatch::PatternLine& from : lines) {
-        PatternLine& line = made.emplace_back();
+        PatternLine& line = patternLines.emplace_back();
         line.angle = Radians(from.angle);
         line.base = {from.base.x, from.base.y};
         line.offset = {from.offset.x, from.offset.y};
         line.dashes = from.dashes;
     }
-    return made;
+    return patternLines;
 }
 
 BrushStyleTable::BrushStyleTable(DrawingStruct* owner) : TableOf(owner) {

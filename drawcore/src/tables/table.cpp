@@ -42,12 +42,12 @@ std::unique_ptr<TableEntry> Table::MakeEntry(std::string_view name, void* data) 
     return std::make_unique<PlainEntry>(name, data);
 }
 
-bool Table::Takes(std::string_view name) const {
+bool Table::CanAdd(std::string_view name) const {
     return !name.empty() && name.size() <= kLongestName && ids_.size() < kHighestId && IdOf(name) == kNoId;
 }
 
 Id Table::Add(std::unique_ptr<TableEntry> entry) {
-    if (!entry || !Takes(entry->name)) return kNoId;
+    if (!entry || !CanAdd(entry->name)) return kNoId;
     const Id id = FreeId();
     ids_.emplace(dxf::FoldName(entry->name), id);
     if (id > entries_.size()) entries_.resize(id);

@@ -55,7 +55,7 @@ public:
     virtual std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data);
 
     // Returns whether an entry with that name can be added.
-    bool Takes(std::string_view name) const;
+    bool CanAdd(std::string_view name) const;
     // Adds an entry and returns its identifier. Returns 0 and deletes the entry if the name is invalid or exists, or if
     // the table is full.
     Id Add(std::unique_ptr<TableEntry> entry);

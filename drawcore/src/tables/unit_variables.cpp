@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kMostDigits = 12;
 
-int Whole(const Table& units, uint16_t variable, int otherwise) {
+int IntegerVariable(const Table& units, uint16_t variable, int otherwise) {
     const int* value = units.Variable<int>(variable);
     return value ? *value : otherwise;
 }
@@ -20,7 +20,7 @@ int Whole(const Table& units, uint16_t variable, int otherwise) {
 // Returns the value of a variable as an enumerator from first to last.
 template <class System>
 System SystemOf(const Table& units, uint16_t variable, System first, System last, System otherwise) {
-    const auto number = static_cast<System>(Whole(units, variable, static_cast<int>(otherwise)));
+    const auto number = static_cast<System>(IntegerVariable(units, variable, static_cast<int>(otherwise)));
     return number >= first && number <= last ? number : otherwise;
 }
 
@@ -47,7 +47,7 @@ LengthFormat LengthFormatOf(const Table& units) {
     LengthFormat format;
     format.system =
         SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, fresh.lengthSystem);
-    format.digits = std::clamp(Whole(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
+    format.digits = std::clamp(IntegerVariable(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
     return format;
 }
 
@@ -55,7 +55,7 @@ AngleFormat AngleFormatOf(const Table& units) {
     const UnitSettings fresh;
     AngleFormat format;
     format.system = SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
-    format.digits = std::clamp(Whole(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
+    format.digits = std::clamp(IntegerVariable(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
     return format;
 }
 

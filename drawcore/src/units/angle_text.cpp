@@ -74,8 +74,8 @@ std::string_view WithoutBlanks(std::string_view text) {
 }
 
 // Parses "N 45d E", from north or south toward east or west, or a single "N", "E", "S" or "W".
-bool ReadBearing(std::string_view whole, double bare, double& radians) {
-    const std::string text = dxf::FoldName(WithoutBlanks(whole));
+bool ReadBearing(std::string_view input, double bare, double& radians) {
+    const std::string text = dxf::FoldName(WithoutBlanks(input));
     constexpr std::string_view kDirections = "enws";
     if (text.size() == 1 && kDirections.find(text[0]) != kDirections.npos) {
         radians = kRight * static_cast<double>(kDirections.find(text[0]));
@@ -123,11 +123,11 @@ double AllowedError(double value) {
 // Formats nonnegative steps.
 std::string StepsText(double steps, const Division& division) {
     const double perDegree = division.StepsOfDegree();
-    const double whole = std::floor(steps / perDegree);
-    const double rest = (steps - whole * perDegree) * 60; // in sixtieths of a degree
+    const double wholeDegrees = std::floor(steps / perDegree);
+    const double rest = (steps - wholeDegrees * perDegree) * 60; // in sixtieths of a degree
     const double minutes = std::floor(rest / perDegree);
     const double seconds = (rest - minutes * perDegree) * 60 / perDegree;
-    std::string text = DecimalText(whole, 0) + "d";
+    std::string text = DecimalText(wholeDegrees, 0) + "d";
     if (minutes > 0 || seconds > 0) text += DecimalText(minutes, 0) + "'";
     if (seconds > 0) text += DecimalText(seconds, division.SecondDigits()) + "\"";
     return text;

@@ -76,13 +76,13 @@ bool CountSteps(double number, double perUnit, double& steps) {
 
 // Returns "18 1/2", "1/2" or "18": whole units and a fraction with the given number of steps per unit, a power of two.
 std::string FractionText(double steps, double perUnit) {
-    const double whole = std::floor(steps / perUnit);
-    double over = steps - whole * perUnit, under = perUnit;
-    if (over == 0) return Plain(whole);
+    const double units = std::floor(steps / perUnit);
+    double over = steps - units * perUnit, under = perUnit;
+    if (over == 0) return Plain(units);
     for (; std::fmod(over, 2) == 0; under /= 2)
         over /= 2;
     const std::string fraction = Plain(over) + "/" + Plain(under);
-    return whole > 0 ? Plain(whole) + " " + fraction : fraction;
+    return units > 0 ? Plain(units) + " " + fraction : fraction;
 }
 
 // Returns "1'-6 1/2\"" or "1'-6.5\"" for a number of steps.

@@ -60,13 +60,13 @@ int DecimalExponent(double value) {
 } // namespace
 
 size_t ScanUnsigned(std::string_view text, double& value) {
-    const size_t whole = CountDigits(text);
-    size_t length = whole, decimals = 0;
+    const size_t integerDigits = CountDigits(text);
+    size_t length = integerDigits, decimals = 0;
     if (length < text.size() && text[length] == DecimalMark()) {
         decimals = CountDigits(text.substr(length + 1));
         length += 1 + decimals;
     }
-    if (!whole && !decimals) return 0;
+    if (!integerDigits && !decimals) return 0;
     length += CountExponent(text.substr(length));
     if (length > kLongestText) return 0;
     std::string number(text.substr(0, length));
@@ -77,7 +77,7 @@ size_t ScanUnsigned(std::string_view text, double& value) {
     return length;
 }
 
-size_t ScanWhole(std::string_view text, double& value) {
+size_t ScanInteger(std::string_view text, double& value) {
     const size_t length = CountDigits(text);
     return length && ScanUnsigned(text.substr(0, length), value) ? length : 0;
 }
@@ -110,12 +110,12 @@ double StringToDouble(int, const char* text, char** end) {
     char* const start = const_cast<char*>(text); // like strtod, returns a pointer into the caller's text
     if (end) *end = start;
     if (!text) return 0;
-    const std::string_view whole = text;
-    TextCursor cursor(whole);
+    const std::string_view input = text;
+    TextCursor cursor(input);
     cursor.SkipBlanks();
     double value = 0;
     if (!ReadCalculation(cursor, value)) return 0;
-    if (end) *end = start + (whole.size() - cursor.Rest().size());
+    if (end) *end = start + (input.size() - cursor.Rest().size());
     return value;
 }
 

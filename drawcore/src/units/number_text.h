@@ -13,7 +13,7 @@ constexpr size_t kLongestText = 255;
 // exponent. Returns the number of characters, or 0 with value unchanged if there is no number or it overflows.
 size_t ScanUnsigned(std::string_view text, double& value);
 // Parses only digits.
-size_t ScanWhole(std::string_view text, double& value);
+size_t ScanInteger(std::string_view text, double& value);
 
 // Formats with that many decimal places, or more if needed for four significant digits, without trailing zeros. Very
 // large and very small numbers have an exponent. Returns an empty string for what is not a number.

@@ -72,7 +72,7 @@ std::string ColorText(uint32_t color) {
     return text;
 }
 
-std::string WholeText(const PropertyInfo& property, uint32_t value) {
+std::string IntegerText(const PropertyInfo& property, uint32_t value) {
     if (property.meaning == PropertyMeaning::Color) return ColorText(value);
     if (property.meaning == PropertyMeaning::TextStyle) return TextStyleText(value);
     const char* word = WordOf(property.meaning, value);

@@ -23,6 +23,6 @@ std::string TextStyleText(uint32_t bits);
 // Returns the word for a marker, the name of a numbered color, or "#RRGGBB".
 std::string ColorText(uint32_t color);
 // Returns the text of a whole number as the value of a property: one of these, or the number.
-std::string WholeText(const PropertyInfo& property, uint32_t value);
+std::string IntegerText(const PropertyInfo& property, uint32_t value);
 
 } // namespace drawcore

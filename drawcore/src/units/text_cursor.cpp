@@ -41,10 +41,10 @@ bool TextCursor::TakeMinus() {
 char TextCursor::TakeOperator(char one, char other) {
     const size_t begin = at_;
     SkipBlanks();
-    const char taken = Take(one) ? one : Take(other) ? other : '\0';
+    const char found = Take(one) ? one : Take(other) ? other : '\0';
     SkipBlanks();
-    const bool doubled = (taken == '+' || taken == '-') && Next() == taken;
-    if (taken && !doubled) return taken;
+    const bool doubled = (found == '+' || found == '-') && Next() == found;
+    if (found && !doubled) return found;
     at_ = begin;
     return '\0';
 }
@@ -73,8 +73,8 @@ bool TextCursor::Number(double& value) {
     return length != 0;
 }
 
-bool TextCursor::Whole(double& value) {
-    const size_t length = ScanWhole(Rest(), value);
+bool TextCursor::ReadInteger(double& value) {
+    const size_t length = ScanInteger(Rest(), value);
     at_ += length;
     return length != 0;
 }
@@ -82,7 +82,7 @@ bool TextCursor::Whole(double& value) {
 bool TextCursor::Fraction(double& value) {
     const size_t begin = at_;
     double over = 0, under = 0;
-    if (Whole(over) && Take('/') && Whole(under) && under > 0) {
+    if (ReadInteger(over) && Take('/') && ReadInteger(under) && under > 0) {
         value = over / under;
         return true;
     }
@@ -94,9 +94,9 @@ bool TextCursor::Fraction(double& value) {
 template <class Join>
 bool TextCursor::WholeAndFraction(double& value, Join join) {
     const size_t begin = at_;
-    double whole = 0, part = 0;
-    if (Whole(whole) && join() && Fraction(part)) {
-        value = whole + part;
+    double integer = 0, part = 0;
+    if (ReadInteger(integer) && join() && Fraction(part)) {
+        value = integer + part;
         return true;
     }
     at_ = begin;

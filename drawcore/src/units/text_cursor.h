@@ -35,7 +35,7 @@ public:
 
 private:
     char Next() const { return at_ < text_.size() ? text_[at_] : '\0'; }
-    bool Whole(double& value);
+    bool ReadInteger(double& value);
     bool Fraction(double& value);
     template <class Join>
     bool WholeAndFraction(double& value, Join join);
