@@ -23,7 +23,7 @@ std::vector<CObject*> Elements(const CObList& list) {
     return elements;
 }
 
-TEST(ObjectList, KeepsItsOrderThroughChanges) {
+TEST(ObjectList, KeepsTheOrderOfElements) {
     Item a, b, c, d;
     CObList list(2); // more elements than fit in a block
     list.AddTail(&b);
@@ -48,7 +48,7 @@ TEST(ObjectList, KeepsItsOrderThroughChanges) {
     EXPECT_EQ(&a, list.GetTail());
 }
 
-TEST(ObjectList, AnElementBeforeThePositionCanBeRemoved) {
+TEST(ObjectList, ElementsBeforeThePositionCanBeRemoved) {
     Item items[5];
     CObList list;
     for (Item& item : items)
@@ -71,7 +71,7 @@ std::vector<std::string> Keys(const CMapStringToPtr& map) {
     return keys;
 }
 
-TEST(StringMap, GivesItsKeysInTheOrderOfTheirComing) {
+TEST(StringMap, IteratesInInsertionOrder) {
     CMapStringToPtr map(3);
     int one = 1, two = 2;
     map.SetAt("zebra", &one);
@@ -90,7 +90,7 @@ TEST(StringMap, GivesItsKeysInTheOrderOfTheirComing) {
     EXPECT_EQ(Keys(map), (std::vector<std::string>{"zebra", "", "ant"}));
 }
 
-TEST(StringMap, HoldsManyKeys) {
+TEST(StringMap, StoresManyKeys) {
     CMapStringToPtr map;
     constexpr int kCount = 20000;
     for (std::intptr_t i = 0; i < kCount; ++i)
@@ -108,7 +108,7 @@ TEST(StringMap, HoldsManyKeys) {
     EXPECT_TRUE(map.IsEmpty());
 }
 
-TEST(WordMap, HoldsEveryKeyThereIs) {
+TEST(WordMap, StoresAll65536Keys) {
     CMapWordToOb map;
     Item item;
     for (int key = 0; key <= 0xFFFF; ++key)

@@ -56,7 +56,7 @@ void PressKey(UINT key) {
     ::PostMessageA(::GetFocus(), WM_KEYDOWN, key, 1);
 }
 
-TEST(Dialog, CarriesValuesInAndOut) {
+TEST(Dialog, LoadsAndSavesValues) {
     CForm form;
     form.onOpen = [](CForm& dialog) {
         EXPECT_STREQ(TextOf(dialog, IDC_NAME), "Ann");
@@ -84,7 +84,7 @@ TEST(Dialog, CarriesValuesInAndOut) {
         IDOK);
 }
 
-TEST(Dialog, AnInvalidValueKeepsItOpenAndSelectsTheField) {
+TEST(Dialog, InvalidValueKeepsItOpenAndSelectsTheField) {
     CForm form;
     MessageBoxWatcher boxes;
     form.onOpen = [&](CForm& dialog) {
@@ -107,7 +107,7 @@ TEST(Dialog, AnInvalidValueKeepsItOpenAndSelectsTheField) {
     EXPECT_EQ(boxes.Boxes().size(), 2u);
 }
 
-TEST(Dialog, AnExchangeThatFailsForOtherReasonsIsReported) {
+TEST(Dialog, OtherExceptionsOfAnExchangeAreReported) {
     CForm form;
     MessageBoxWatcher boxes;
     form.onOpen = [&](CForm& dialog) {
@@ -119,7 +119,7 @@ TEST(Dialog, AnExchangeThatFailsForOtherReasonsIsReported) {
     EXPECT_EQ(form.DoModal(), 7);
 }
 
-TEST(Dialog, ThatCannotLoadItsValuesDoesNotOpen) {
+TEST(Dialog, DoesNotOpenIfItsValuesCannotBeLoaded) {
     CForm form;
     form.check = [](CDataExchange* pDX) { pDX->Fail(); };
     EXPECT_EQ(form.DoModal(), -1);
@@ -129,7 +129,7 @@ TEST(Dialog, ThatCannotLoadItsValuesDoesNotOpen) {
     EXPECT_FALSE(modeless.Create(12345));
 }
 
-TEST(Dialog, DisablesItsOwnerAndGivesItBack) {
+TEST(Dialog, DisablesItsOwnerWhileItIsOpen) {
     CWnd owner;
     ASSERT_TRUE(owner.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 300, 300, nullptr, nullptr));
     CWnd child;

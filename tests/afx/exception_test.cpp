@@ -53,7 +53,7 @@ const Thrown kThrown[] = {
 };
 INSTANTIATE_TEST_SUITE_P(All, HandlerThatThrows, ::testing::ValuesIn(kThrown), [](auto& i) { return i.param.name; });
 
-TEST(HandlerThatThrows, AtCreationMakesNoWindow) {
+TEST(HandlerThatThrows, PreventsCreationOfTheWindow) {
     CThrower window;
     window.thrower = [] { AfxThrowUserException(); };
     window.when = WM_CREATE;
@@ -61,7 +61,7 @@ TEST(HandlerThatThrows, AtCreationMakesNoWindow) {
     EXPECT_EQ(window.m_hWnd, nullptr);
 }
 
-TEST(HandlerThatThrows, WhilePaintingIsReportedOnceForEachWindow) {
+TEST(HandlerThatThrows, IsReportedOncePerWindowWhilePainting) {
     for (const UINT painting : {WM_PAINT, WM_DRAWITEM}) {
         CThrower window;
         ASSERT_TRUE(window.CreateEx(0, nullptr, "", WS_POPUP | WS_VISIBLE, 0, 0, 99, 99, nullptr, nullptr));
@@ -79,7 +79,7 @@ TEST(HandlerThatThrows, WhilePaintingIsReportedOnceForEachWindow) {
     }
 }
 
-TEST(Exception, TextsAreCutToTheirRoom) {
+TEST(Exception, MessageIsTruncatedToTheBuffer) {
     CFileException full(CFileException::diskFull, 0, "A:\\file");
     char text[10];
     EXPECT_TRUE(full.GetErrorMessage(text, sizeof text));

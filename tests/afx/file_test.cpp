@@ -35,7 +35,7 @@ protected:
     }
 };
 
-TEST_F(File, OverwritesInThePlaceItGoesBackTo) {
+TEST_F(File, OverwritesAfterSeekingBack) {
     CStdioFile file(kName, CStdioFile::modeCreate | CStdioFile::modeWrite);
     file.WriteString("one\n");
     const ULONGLONG place = file.GetPosition();
@@ -65,7 +65,7 @@ struct Mode {
 
 class FileMode : public File, public ::testing::WithParamInterface<Mode> {};
 
-TEST_P(FileMode, SaysWhatBecomesOfAFileThatIsThere) {
+TEST_P(FileMode, DeterminesWhetherAnExistingFileIsKept) {
     Fill("old text");
     CStdioFile file(kName, GetParam().flags | CStdioFile::typeBinary);
     file.WriteString("new");
@@ -80,12 +80,12 @@ const Mode kModes[] = {
 };
 INSTANTIATE_TEST_SUITE_P(All, FileMode, ::testing::ValuesIn(kModes), [](auto& i) { return i.param.name; });
 
-TEST_F(File, IsMadeByNoTruncateToo) {
+TEST_F(File, IsCreatedWithModeNoTruncate) {
     CStdioFile file(kName, CStdioFile::modeCreate | CStdioFile::modeNoTruncate | CStdioFile::modeReadWrite);
     EXPECT_NE(file.m_pStream, nullptr);
 }
 
-TEST_F(File, SaysWhyItCannotBeOpened) {
+TEST_F(File, ReportsWhyItCannotBeOpened) {
     CFileException reason;
     CStdioFile file;
     EXPECT_FALSE(file.Open("no such folder/file", CStdioFile::modeRead, &reason));
@@ -101,7 +101,7 @@ TEST_F(File, SaysWhyItCannotBeOpened) {
     }
 }
 
-TEST_F(File, ThrowsWhereItCannotWriteOrSeek) {
+TEST_F(File, ThrowsIfItCannotWriteOrSeek) {
     Fill("text");
     CStdioFile file(kName, CStdioFile::modeRead);
     EXPECT_TRUE(Throws([&] {
@@ -111,7 +111,7 @@ TEST_F(File, ThrowsWhereItCannotWriteOrSeek) {
     EXPECT_TRUE(Throws([&] { file.Seek(-1, CStdioFile::begin); }));
 }
 
-TEST_F(File, TakesAnOpenStreamOver) {
+TEST_F(File, TakesOwnershipOfAnOpenStream) {
     {
         CStdioFile file(std::fopen(kName, "wb"));
         file.Write("ab\0cd", 5);

@@ -43,7 +43,7 @@ protected:
     }
 };
 
-TEST_F(Frame, IsMadeFromItsResources) {
+TEST_F(Frame, IsCreatedFromItsResources) {
     CString title;
     frame->GetWindowText(title);
     EXPECT_STREQ(title, "A frame");
@@ -51,7 +51,7 @@ TEST_F(Frame, IsMadeFromItsResources) {
     EXPECT_EQ(frame, AfxGetMainWnd());
 }
 
-TEST_F(Frame, TurnsKeysIntoCommands) {
+TEST_F(Frame, TranslatesAccelerators) {
     MSG key = {};
     key.hwnd = frame->m_hWnd;
     key.message = WM_KEYDOWN;
@@ -63,7 +63,7 @@ TEST_F(Frame, TurnsKeysIntoCommands) {
     EXPECT_FALSE(AfxGetThread()->PreTranslateMessage(&key));
 }
 
-TEST_F(Frame, IsFoundFromWithin) {
+TEST_F(Frame, IsFoundFromChildWindows) {
     CWnd child, grandchild, owned;
     const CRect place(0, 0, 10, 10);
     ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, place, frame, 1));
@@ -77,7 +77,7 @@ TEST_F(Frame, IsFoundFromWithin) {
     owned.DestroyWindow();
 }
 
-TEST_F(Frame, EndsTheLoopWhenItGoes) {
+TEST_F(Frame, EndsTheMessageLoopWhenDestroyed) {
     frame->SetTimer(1, 1);
     EXPECT_EQ(AfxGetThread()->Run(), 0);
     EXPECT_TRUE(gone);

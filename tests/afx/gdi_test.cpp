@@ -8,7 +8,7 @@
 
 namespace {
 
-TEST(Gdi, ObjectsFreeWhatTheyOwnAndNothingElse) {
+TEST(Gdi, ObjectsDeleteOnlyHandlesThatTheyOwn) {
     const auto draw = [] {
         CDC memory;
         ASSERT_TRUE(memory.CreateCompatibleDC(nullptr));
@@ -57,7 +57,7 @@ TEST(Gdi, FillingLeavesTheBackgroundColor) {
     memory.SelectObject(before);
 }
 
-TEST(Rect, IsNormalisedAndSeen) {
+TEST(Rect, IsNormalizedAndCompared) {
     CRect rect(30, 40, 10, 20);
     rect.NormalizeRect();
     EXPECT_EQ(CRect(10, 20, 30, 40), rect);

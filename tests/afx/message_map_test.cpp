@@ -107,7 +107,7 @@ TEST_F(MessageMap, ParametersKeepTheirWidth) {
     EXPECT_EQ(sizeof(WPARAM) > 4 ? "long timer;" : "timer;", Send(WM_TIMER, wide, 0));
 }
 
-TEST_F(MessageMap, DerivedComesBeforeBase) {
+TEST_F(MessageMap, DerivedHandlersPrecedeInheritedOnes) {
     EXPECT_EQ(Send(WM_COMMAND, 10, 0), "derived greet;");
     EXPECT_EQ(Send(WM_TIMER, 1, 0), "timer;") << "the base's own";
 }
@@ -144,7 +144,7 @@ const Command kCommands[] = {
 };
 INSTANTIATE_TEST_SUITE_P(All, CommandRouting, ::testing::ValuesIn(kCommands), [](auto& i) { return i.param.name; });
 
-TEST_F(MessageMap, HandlersCanBeAskedForWithoutACall) {
+TEST_F(MessageMap, HandlersCanBeQueriedWithoutACall) {
     AFX_CMDHANDLERINFO info = {};
     EXPECT_TRUE(window.OnCmdMsg(11, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(&window, info.pTarget);
@@ -152,7 +152,7 @@ TEST_F(MessageMap, HandlersCanBeAskedForWithoutACall) {
     EXPECT_FALSE(window.OnCmdMsg(99, CN_COMMAND, nullptr, &info));
 }
 
-TEST_F(MessageMap, NestedMessagesKeepTheOuterOnesParameters) {
+TEST_F(MessageMap, NestedMessagesPreserveOuterParameters) {
     class CNester : public CWnd {
     public:
         int depth = 0;
@@ -171,7 +171,7 @@ TEST_F(MessageMap, NestedMessagesKeepTheOuterOnesParameters) {
     EXPECT_STREQ(text, "outer");
 }
 
-TEST_F(MessageMap, HelpIsAskedForOutwards) {
+TEST_F(MessageMap, HelpIsRequestedFromTheWindowOutward) {
     class CHelper : public CWnd {
     public:
         LRESULT answer = 0;

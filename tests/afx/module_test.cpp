@@ -26,7 +26,7 @@ TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
     EXPECT_TRUE(text.IsEmpty());
 }
 
-TEST(ModuleChain, TakesExtensionModulesInAndOut) {
+TEST(ModuleChain, AddsAndRemovesExtensionModules) {
     // The shell's library has icons; no other module in this program does.
     HMODULE shell = ::LoadLibraryA("shell32.dll");
     ASSERT_NE(::FindResourceA(shell, MAKEINTRESOURCEA(1), kGroupIcon), nullptr);
@@ -42,7 +42,7 @@ TEST(ModuleChain, TakesExtensionModulesInAndOut) {
     ::FreeLibrary(shell);
 }
 
-TEST(ModuleChain, LoadsStringsIntoAnyRoom) {
+TEST(ModuleChain, LoadsStringsIntoBuffersOfAnySize) {
     char text[8];
     EXPECT_EQ(AfxLoadString(IDS_SHEET, text, sizeof text), 7);
     EXPECT_STREQ(text, "Sheet o");

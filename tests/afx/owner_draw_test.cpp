@@ -50,7 +50,7 @@ protected:
 };
 const CRect OwnerDraw::kPlace(10, 10, 110, 210);
 
-TEST_F(OwnerDraw, ReachesAList) {
+TEST_F(OwnerDraw, CallsVirtualFunctionsOfAListBox) {
     Drawn<CListBox> list;
     ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_SORT, kPlace, &parent, 7));
     EXPECT_EQ(list.calls, "M") << "measured while it is made";
@@ -67,7 +67,7 @@ TEST_F(OwnerDraw, ReachesAList) {
     EXPECT_NE(std::string::npos, list.calls.find('X'));
 }
 
-TEST_F(OwnerDraw, ReachesACombo) {
+TEST_F(OwnerDraw, CallsVirtualFunctionsOfAComboBox) {
     Drawn<CComboBox> combo;
     ASSERT_TRUE(
         combo.Create(WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_SORT, kPlace, &parent, 8));
@@ -85,7 +85,7 @@ TEST_F(OwnerDraw, ReachesACombo) {
     EXPECT_NE(std::string::npos, combo.calls.find('X')) << "the object is there until its items have gone";
 }
 
-TEST_F(OwnerDraw, OfEachItemMeasuresEach) {
+TEST_F(OwnerDraw, MeasuresEachItemWithVariableHeights) {
     class CVariable : public Drawn<CListBox> {
         void MeasureItem(LPMEASUREITEMSTRUCT record) override { record->itemHeight = 10 + 5 * record->itemID; }
     } list;
@@ -96,7 +96,7 @@ TEST_F(OwnerDraw, OfEachItemMeasuresEach) {
         EXPECT_EQ(10 + 5 * i, list.SendMessage(LB_GETITEMHEIGHT, static_cast<WPARAM>(i)));
 }
 
-TEST_F(OwnerDraw, OfAControlWithoutObjectIsTheSystems) {
+TEST_F(OwnerDraw, IsLeftToTheSystemForAControlWithoutObject) {
     HWND list = ::CreateWindowExA(0, "LISTBOX", "", WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0,
                                   50, 50, parent.m_hWnd, reinterpret_cast<HMENU>(9), nullptr, nullptr);
     EXPECT_EQ(::SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("item")), 0);
@@ -109,7 +109,7 @@ TEST_F(OwnerDraw, OfAControlWithoutObjectIsTheSystems) {
     EXPECT_EQ(late.lastDrawn, 0);
 }
 
-TEST_F(OwnerDraw, TextsOfItems) {
+TEST_F(OwnerDraw, ReadsTextsOfItems) {
     CListBox list;
     ASSERT_TRUE(list.Create(WS_CHILD, kPlace, &parent, 7));
     list.AddString("some text");

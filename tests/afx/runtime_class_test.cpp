@@ -30,7 +30,7 @@ TEST(RuntimeClass, KnowsItsBases) {
     EXPECT_EQ(RUNTIME_CLASS(CDog)->m_wSchema, 0xFFFFu);
 }
 
-TEST(RuntimeClass, MakesObjects) {
+TEST(RuntimeClass, CreatesObjects) {
     const std::unique_ptr<CObject> dog(RUNTIME_CLASS(CDog)->CreateObject());
     ASSERT_NE(dog, nullptr);
     EXPECT_EQ(RUNTIME_CLASS(CDog), dog->GetRuntimeClass());

@@ -134,7 +134,7 @@ TEST_F(Sheet, ChangesPagesByClickAndByKey) {
     EXPECT_EQ(second.log, "aikac");
 }
 
-TEST_F(Sheet, LaterPagesComeWhereTheFirstIs) {
+TEST_F(Sheet, LaterPagesHaveThePositionOfTheFirst) {
     Run([&](SheetDriver& user) {
         const CRect place = Place(user.Page());
         CRect client;
@@ -155,7 +155,7 @@ TEST_F(Sheet, LaterPagesComeWhereTheFirstIs) {
     });
 }
 
-TEST_F(Sheet, APageThatCannotBeLeftStays) {
+TEST_F(Sheet, PageThatCannotBeLeftStaysActive) {
     first.accepts = false;
     const int result = Run([&](SheetDriver& user) {
         user.SelectPage(1);
@@ -177,7 +177,7 @@ TEST_F(Sheet, APageThatCannotBeLeftStays) {
     EXPECT_EQ(second.log, "aiko");
 }
 
-TEST_F(Sheet, APageThatDoesNotOpenLeavesTheOneBefore) {
+TEST_F(Sheet, PreviousPageStaysIfTheNextCannotBeOpened) {
     second.opens = false;
     Run([&](SheetDriver& user) {
         user.SelectPage(1);
@@ -188,7 +188,7 @@ TEST_F(Sheet, APageThatDoesNotOpenLeavesTheOneBefore) {
     EXPECT_EQ(first.log, "aikac") << "active again";
 }
 
-TEST_F(Sheet, OpensOnTheFirstPageThatOpensAndFailsWithoutOne) {
+TEST_F(Sheet, OpensOnTheFirstUsablePageOrFails) {
     CPropertySheet empty("Empty");
     EXPECT_EQ(empty.DoModal(), -1);
     first.opens = false;
@@ -198,7 +198,7 @@ TEST_F(Sheet, OpensOnTheFirstPageThatOpensAndFailsWithoutOne) {
     EXPECT_EQ(sheet.m_hWnd, nullptr);
 }
 
-TEST_F(Sheet, KeyboardEndsItAndReachesButtons) {
+TEST_F(Sheet, KeyboardClosesItAndReachesButtons) {
     EXPECT_EQ(Run([](SheetDriver& user) { user.Key(VK_RETURN); }), IDOK);
     EXPECT_EQ(Run([](SheetDriver& user) { user.Key(VK_ESCAPE); }), IDCANCEL);
     EXPECT_EQ(Run([&](SheetDriver&) { sheet.PostMessage(WM_CLOSE); }), IDCANCEL);
@@ -236,7 +236,7 @@ TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
     });
 }
 
-TEST_F(Sheet, CancelAsksEveryPageThatWasOpen) {
+TEST_F(Sheet, CancelCallsOnCancelOfAllOpenedPages) {
     EXPECT_EQ(Run([](SheetDriver& user) {
                   user.Type(IDC_FIELD, "dropped");
                   user.SelectPage(1);
@@ -266,7 +266,7 @@ TEST_F(Sheet, ApplySavesAndStaysOpen) {
     EXPECT_EQ(first.log, "aikoc");
 }
 
-TEST_F(Sheet, HelpStartsInTheSheet) {
+TEST_F(Sheet, HelpRequestStartsAtTheSheet) {
     class CHelped : public CPropertySheet {
     public:
         using CPropertySheet::CPropertySheet;
@@ -312,7 +312,7 @@ TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
     EXPECT_EQ(sheet.GetPageCount(), 2);
 }
 
-TEST(SheetOwnership, EitherMayGoFirst) {
+TEST(SheetOwnership, SheetOrPageCanBeDestroyedFirst) {
     auto sheet = std::make_unique<CPropertySheet>(IDS_SHEET);
     auto page = std::make_unique<CTestPage>(IDD_PAGE_ONE);
     sheet->AddPage(page.get());
@@ -325,7 +325,7 @@ TEST(SheetOwnership, EitherMayGoFirst) {
     EXPECT_EQ(page->GetParentSheet(), nullptr);
 }
 
-TEST_F(Sheet, StartsOnThePageItWasTold) {
+TEST_F(Sheet, OpensOnTheRequestedPage) {
     EXPECT_TRUE(sheet.SetActivePage(1));
     Run([&](SheetDriver&) { EXPECT_EQ(&second, sheet.GetActivePage()); });
     CPropertySheet other("Other", nullptr, 9); // out of range: the last page is used
@@ -384,7 +384,7 @@ BEGIN_MESSAGE_MAP(CStrip, CPropertySheet)
 ON_WM_CREATE()
 END_MESSAGE_MAP()
 
-TEST(SheetLayout, OfADerivedSheetIsLeftAlone) {
+TEST(SheetLayout, IsNotChangedInADerivedSheetWithItsOwn) {
     CStrip strip;
     CTestPage page(IDD_PAGE_ONE);
     strip.AddPage(&page);
@@ -400,7 +400,7 @@ TEST(SheetLayout, OfADerivedSheetIsLeftAlone) {
     });
 }
 
-TEST(SheetLeaks, ManySheetsHoldNothing) {
+TEST(SheetLeaks, ManySheetsLeakNothing) {
     const auto cycle = [] {
         CTestPage one(IDD_PAGE_ONE), two(IDD_PAGE_TWO);
         CPropertySheet sheet("Leak");

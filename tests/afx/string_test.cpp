@@ -13,7 +13,7 @@ std::string Text(const CString& string) {
     return std::string(string, static_cast<std::size_t>(string.GetLength()));
 }
 
-TEST(String, NullPointersAreTheEmptyText) {
+TEST(String, NullPointerIsAnEmptyString) {
     CString text(static_cast<LPCSTR>(nullptr));
     EXPECT_TRUE(text.IsEmpty());
     text = static_cast<LPCSTR>(nullptr);
@@ -32,7 +32,7 @@ struct Part {
 
 class StringPart : public ::testing::TestWithParam<Part> {};
 
-TEST_P(StringPart, IsCutToWhatThereIs) {
+TEST_P(StringPart, IsLimitedToTheString) {
     const CString text("abcdef");
     const Part& row = GetParam();
     EXPECT_EQ(row.mid, Text(text.Mid(row.first, row.count)));
@@ -47,7 +47,7 @@ const Part kParts[] = {
 };
 INSTANTIATE_TEST_SUITE_P(All, StringPart, ::testing::ValuesIn(kParts), [](auto& i) { return i.param.name; });
 
-TEST(String, BufferKeepsTheTextAndEndsAtItsNul) {
+TEST(String, BufferKeepsTheTextUpToItsNul) {
     CString text("start");
     LPSTR buffer = text.GetBuffer(100);
     EXPECT_STREQ(buffer, "start");
@@ -85,7 +85,7 @@ TEST(String, FindsFromBothEnds) {
     EXPECT_EQ(text.Find("bc"), -1);
 }
 
-TEST(String, ChangesCaseByTheCodePage) {
+TEST(String, ConvertsCaseByTheCodePage) {
     CString text("MIXED \xC4\xD6\xDC \xD7 \x8A\x9F");
     text.MakeLower();
     EXPECT_EQ(Text(text), "mixed \xE4\xF6\xFC \xD7 \x9A\xFF");
@@ -119,7 +119,7 @@ TEST(String, JoinsAndTrims) {
     EXPECT_TRUE(text.IsEmpty());
 }
 
-TEST(String, CopiesAreApart) {
+TEST(String, CopiesAreIndependent) {
     CString one("text");
     CString two(one);
     two.SetAt(0, 'n');

@@ -50,7 +50,7 @@ bool Contains(const std::vector<UINT>& messages, UINT message) {
     return std::find(messages.begin(), messages.end(), message) != messages.end();
 }
 
-TEST_F(Window, SeesItsFirstAndItsLastMessages) {
+TEST_F(Window, ReceivesItsFirstAndLastMessages) {
     CLog child;
     ASSERT_TRUE(child.Create("STATIC", "text", WS_CHILD, kPlace, &parent, 5));
     EXPECT_EQ(child.messages.front(), static_cast<UINT>(WM_NCCREATE));
@@ -71,7 +71,7 @@ TEST_F(Window, SeesItsFirstAndItsLastMessages) {
     EXPECT_EQ(DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, child.SendMessage(WM_GETDLGCODE));
 }
 
-TEST_F(Window, ThatCannotBeMadeLeavesAnEmptyObject) {
+TEST_F(Window, ObjectStaysEmptyIfCreationFails) {
     CLog refused;
     refused.refuseCreate = true;
     EXPECT_FALSE(refused.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
@@ -97,7 +97,7 @@ TEST_F(Window, ObjectsOfChildrenAreNotTheirParents) {
     EXPECT_EQ(&combo, CWnd::FromHandlePermanent(combo.m_hWnd));
 }
 
-TEST_F(Window, OnTheHeapMayGoWithItsWindow) {
+TEST_F(Window, HeapObjectCanBeDeletedWithItsWindow) {
     bool deleted = false;
     auto* child = new CLog;
     child->deleted = &deleted;
@@ -128,7 +128,7 @@ TEST_F(Window, IsDestroyedByItsDestructor) {
     EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
 }
 
-TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
+TEST_F(Window, TemporaryObjectsOutliveNestedMessages) {
     HWND plain = ::CreateWindowExA(0, "STATIC", "", WS_CHILD, 0, 0, 1, 1, parent.m_hWnd, nullptr, nullptr, nullptr);
     CWnd* before = CWnd::FromHandle(plain);
     EXPECT_EQ(before, CWnd::FromHandle(plain)) << "one object for one window";
@@ -160,7 +160,7 @@ TEST_F(Window, TemporaryObjectsOutliveTheMessagesThatFollow) {
     EXPECT_EQ(before, CWnd::FromHandle(plain));
 }
 
-TEST_F(Window, TemporaryObjectsGoWithTheMessageThatMadeThem) {
+TEST_F(Window, TemporaryObjectsAreFreedAfterTheirMessage) {
     // Each message creates many temporary objects, which must not accumulate.
     class CMaker : public CWnd {
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -187,7 +187,7 @@ TEST_F(Window, TemporaryObjectsGoWithTheMessageThatMadeThem) {
     EXPECT_LT(used(), before + 10000000);
 }
 
-TEST_F(Window, SubclassedGetsItsProcedureBack) {
+TEST_F(Window, UnsubclassingRestoresTheProcedure) {
     HWND edit = ::CreateWindowExA(0, "EDIT", "abc", WS_CHILD, 0, 0, 50, 20, parent.m_hWnd, nullptr, nullptr, nullptr);
     const auto before = ::GetWindowLongPtrA(edit, GWLP_WNDPROC);
     CLog object;
@@ -230,7 +230,7 @@ LRESULT CALLBACK FirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM l
     return ::CallWindowProcA(AfxGetAfxWndProc(), window, message, wParam, lParam);
 }
 
-TEST_F(Window, OfAClassThatMakesObjectsGoesOnPlainlyWithoutOne) {
+TEST_F(Window, OfAnObjectCreatingClassWorksWithoutAnObject) {
     WNDCLASSA list = {};
     ASSERT_TRUE(::GetClassInfoA(nullptr, "LISTBOX", &list));
     CMade::super = list.lpfnWndProc;
@@ -261,7 +261,7 @@ TEST_F(Window, OfAClassThatMakesObjectsGoesOnPlainlyWithoutOne) {
     ::UnregisterClassA("AfxTestList", AfxGetInstanceHandle());
 }
 
-TEST_F(Window, LeftByItsObjectGoesOnByItsClass) {
+TEST_F(Window, UsesTheProcedureOfItsClassAfterItsObjectIsGone) {
     CWnd object;
     ASSERT_TRUE(object.Create("LISTBOX", "", WS_CHILD, kPlace, &parent, 1));
     HWND window = object.Detach();
@@ -269,7 +269,7 @@ TEST_F(Window, LeftByItsObjectGoesOnByItsClass) {
     ::DestroyWindow(window);
 }
 
-TEST_F(Window, TellsItsDescendants) {
+TEST_F(Window, SendsMessagesToItsDescendants) {
     CLog child, grandchild;
     ASSERT_TRUE(child.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
     ASSERT_TRUE(grandchild.Create(nullptr, "", WS_CHILD, kPlace, &child, 1));
@@ -281,7 +281,7 @@ TEST_F(Window, TellsItsDescendants) {
     EXPECT_FALSE(Contains(parent.messages, WM_APP));
 }
 
-TEST_F(Window, PretranslatesFromTheInnermostOutwards) {
+TEST_F(Window, PretranslatesFromTheInnermostWindowOutward) {
     class CTaker : public CWnd {
     public:
         int asked = 0;
@@ -305,7 +305,7 @@ TEST_F(Window, PretranslatesFromTheInnermostOutwards) {
     EXPECT_EQ(inner.asked, 3);
 }
 
-TEST_F(Window, SetsATextOnlyIfItIsAnotherOne) {
+TEST_F(Window, SetsATextOnlyIfItDiffers) {
     CLog child;
     ASSERT_TRUE(child.Create("STATIC", "same", WS_CHILD, kPlace, &parent, 1));
     child.messages.clear();
@@ -317,7 +317,7 @@ TEST_F(Window, SetsATextOnlyIfItIsAnotherOne) {
     EXPECT_EQ(child.GetWindowTextLength(), 0);
 }
 
-TEST_F(Window, IsCentredOnItsOwnerAndKeptOnTheScreen) {
+TEST_F(Window, IsCenteredOnItsOwnerWithinTheScreen) {
     parent.SetWindowPos(nullptr, 300, 200, 400, 300, SWP_NOZORDER | SWP_SHOWWINDOW);
     CWnd popup;
     ASSERT_TRUE(popup.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 100, 60, parent.m_hWnd, nullptr));

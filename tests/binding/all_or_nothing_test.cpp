@@ -37,7 +37,7 @@ struct OverTwo {
     TestSheet sheet{kit};
 };
 
-TEST(AllOrNothing, ABadLastControlWritesNothingAndTheNextTryWritesEachOnce) {
+TEST(AllOrNothing, InvalidLastControlWritesNothingAndTheNextAttemptWritesEachOnce) {
     for (const char* bad : {"abc", "99", "", "2x"}) {
         SCOPED_TRACE(bad);
         OverTwo over;
@@ -113,7 +113,7 @@ TEST(WriteBack, RejectedValuesAreCountedAndOthersWritten) {
     }
 }
 
-TEST(WriteBack, StampsTheSelectionAlsoWhenNothingWasDirty) {
+TEST(WriteBack, SetsTheLastPageEvenIfNothingIsDirty) {
     OverTwo over;
     GraphicStruct* bare = over.kit.AddWithoutTable();
     over.sheet.Add(over.numbers.Exchange());

@@ -66,7 +66,7 @@ TYPED_TEST(EditDataFlow, EqualValuesAreShownAndAllReplaced) {
     EXPECT_TRUE(kit[1].writes.empty());
 }
 
-TYPED_TEST(EditDataFlow, IndeterminateValuesSurviveAnUntouchedPage) {
+TYPED_TEST(EditDataFlow, IndeterminateValuesSurviveAnUneditedPage) {
     GraphicKit kit;
     kit.Add({{kName, Sample<TypeParam>::A()}});
     kit.Add({{kName, Sample<TypeParam>::B()}});
@@ -88,7 +88,7 @@ class CheckDataFlow : public ::testing::Test {};
 using CheckTypes = ::testing::Types<int, unsigned short>;
 TYPED_TEST_SUITE(CheckDataFlow, CheckTypes);
 
-TYPED_TEST(CheckDataFlow, AClickWritesAllAndUntouchedNothing) {
+TYPED_TEST(CheckDataFlow, ClickWritesToAllAndNoClickWritesNothing) {
     const struct {
         int values[2];
         bool clicked;

@@ -100,7 +100,7 @@ protected:
          [](SheetDriver& user) { user.Choose(kList, 0); }, [](SheetDriver& user) { user.Choose(kList, 2); }}};
 };
 
-TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
+TEST_F(EditedControls, ShowSomethingOtherThanWhatWasLoaded) {
     for (const KindOfControl& kind : kinds) {
         for (const bool back : {true, false}) {
             SCOPED_TRACE(kind.name);
@@ -135,7 +135,7 @@ TEST_F(EditedControls, AreThoseThatShowSomethingElseThanWasLoaded) {
 }
 
 // Two controls of one member: restoring the text of one does not discard the edit of the other.
-TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
+TEST_F(EditedControls, OneOfTwoControlsOfAMemberIsEnough) {
     kit[1].properties["Bits"] = 4;
     TestSheet sheet(kit);
     sheet.Add([&](CDataExchange* pDX) {
@@ -158,7 +158,7 @@ TEST_F(EditedControls, ShareAMemberOfWhichOneWasEdited) {
 }
 
 // Loading by the page or by the refresh command marks no control, and values keep all digits.
-TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
+TEST_F(EditedControls, DoNotIncludeReloadedControls) {
     struct Refreshed : ExchangePage {
         using ExchangePage::ExchangePage;
         void Refresh() {
@@ -192,7 +192,7 @@ TEST_F(EditedControls, AreNotThoseThatAreLoadedAnew) {
 }
 
 // The written value is the base for later edits, whether or not the page was left in between.
-TEST_F(EditedControls, AreComparedWithWhatWasWritten) {
+TEST_F(EditedControls, AreComparedWithTheLastWrittenValue) {
     for (const bool leave : {true, false}) {
         TestSheet sheet(kit);
         ExchangePage& page = sheet.Add([&](CDataExchange* pDX) {
@@ -222,7 +222,7 @@ TEST_F(EditedControls, AreComparedWithWhatWasWritten) {
 
 // If asterisks are typed over a number, the values of the graphics do not change, whatever a failed exchange has left
 // in the member.
-TEST_F(EditedControls, WithStarsForANumberWriteNothing) {
+TEST_F(EditedControls, AsterisksInPlaceOfANumberWriteNothing) {
     TestSheet sheet(kit);
     sheet.Add([&](CDataExchange* pDX) {
         DDP_Text(pDX, kEdit, width, "Width");

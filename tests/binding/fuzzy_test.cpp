@@ -24,7 +24,7 @@ float WithBits(uint32_t bits) {
     return value;
 }
 
-TEST(CompareDoublesTest, ByBucketsBothWays) {
+TEST(CompareDoublesTest, ComparesBucketsInBothDirections) {
     const struct {
         double a, b;
         int order;
@@ -61,7 +61,7 @@ TEST(CompareFloatsTest, RoundsAtSixtyFour) {
 }
 
 // Random similar bit patterns: antisymmetric, transitive, and never contrary to the numeric order.
-TEST(CompareDoublesTest, IsAnOrderOfBuckets) {
+TEST(CompareDoublesTest, IsATotalOrderOfBuckets) {
     std::mt19937 random(20260801);
     std::uniform_int_distribution<uint32_t> base(0x00100000, 0x7FE00000), near(0, 40), sign(0, 1);
     for (int i = 0; i < 20000; ++i) {
@@ -77,7 +77,7 @@ TEST(CompareDoublesTest, IsAnOrderOfBuckets) {
     }
 }
 
-TEST(HexTest, EightDigitsAndANul) {
+TEST(HexTest, WritesEightDigitsAndANul) {
     char text[10];
     std::memset(text, 'x', sizeof text);
     DWord_to_Hex(255, text);

@@ -70,7 +70,7 @@ TEST_F(Graphics, WithoutThePropertyNothingIsMerged) {
     EXPECT_EQ(pair[0], 0);
 }
 
-TEST_F(Graphics, ADifferenceEndsTheWalk) {
+TEST_F(Graphics, MergingStopsAtTheFirstDifference) {
     Fill({}, {"wall", "wall", "door", "wall"});
     CString text;
     EXPECT_EQ(MergeText(set, "Any", &text), 1);
@@ -82,7 +82,7 @@ TEST_F(Graphics, ADifferenceEndsTheWalk) {
     EXPECT_STREQ(text, "wall");
 }
 
-TEST_F(Graphics, AWriteTellsWhichKeepTheirValue) {
+TEST_F(Graphics, WritingReturnsTheGraphicsThatKeepTheirValue) {
     Fill({1, 2, 3, 4});
     EXPECT_EQ(Write<Double>(target, "Any", Indeterminate<double>::Value()), 0);
     At(1).refuses = true;
@@ -98,7 +98,7 @@ TEST_F(Graphics, AWriteTellsWhichKeepTheirValue) {
     EXPECT_EQ(unchanged, (std::set<const GraphicStruct*>{&At(1), &At(2), &At(3)}));
 }
 
-TEST_F(Graphics, BitsThatDifferStay) {
+TEST_F(Graphics, DifferingBitsAreNotWritten) {
     Fill({0x11, 0x12});
     const unsigned short pair[] = {0x03, 0x20};
     EXPECT_EQ(WriteBits(target, "Any", pair), 1);
@@ -109,7 +109,7 @@ TEST_F(Graphics, BitsThatDifferStay) {
 void Nothing(CDataExchange*, int, void*, const char*) {}
 
 // Members 64 KB apart have the same key.
-TEST(Records, OfOneKeyAreAllKept) {
+TEST(Records, WithEqualKeysAreChained) {
     const std::vector<char> memory(0x20001);
     CMapWordToOb records;
     const auto lay = [&](size_t offset, int nID) {

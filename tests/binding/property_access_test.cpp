@@ -18,7 +18,7 @@ void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned
     sheet.Run([&](SheetDriver&) { test(page); });
 }
 
-TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
+TEST(Merge, DifferingTextsBecomeTheMarkerAndEmptyOnesStayEmpty) {
     GraphicKit kit;
     kit.Add({{kPropInfo, ""}, {"Name", "a"}});
     kit.Add({{kPropInfo, ""}, {"Name", "A"}});
@@ -37,7 +37,7 @@ TEST(Merge, TextsMergeEmptyAsEmptyAndDifferentAsTheMarker) {
     });
 }
 
-TEST(Merge, ChecksFoldOnlyAsInt) {
+TEST(Merge, ChecksAreMergedOnlyAsInt) {
     GraphicKit kit;
     kit.Add({{"On", 1}});
     kit.Add({{"On", 5}});
@@ -59,7 +59,7 @@ TEST(Merge, ChecksFoldOnlyAsInt) {
     });
 }
 
-TEST(Merge, AHostThatThrowsInTheMiddleOfATextLosesNoString) {
+TEST(Merge, ExceptionOfTheHostLeaksNoString) {
     GraphicKit kit;
     kit.Add({{"Name", "a"}});
     kit.Add({{"Name", "b"}});
@@ -79,7 +79,7 @@ TEST(Merge, AHostThatThrowsInTheMiddleOfATextLosesNoString) {
 }
 
 // Iteration clears the flag of the graphics that it reaches, and no others; in the preview group it sets it.
-TEST(Walk, MarksWhatItReaches) {
+TEST(Walk, MarksVisitedGraphics) {
     GraphicKit kit;
     for (int i = 0; i < 3; ++i)
         kit.Add({{"Kind", i < 2 ? 1 : 2}, {"Last", 1}}).graphic->dwFlags |= kFlagPreview;
@@ -103,7 +103,7 @@ TEST(Walk, MarksWhatItReaches) {
     });
 }
 
-TEST(Walk, ANullSelectionHasNoObjectsAndWritesNothing) {
+TEST(Walk, NullSelectionHasNoObjectsAndWritesNothing) {
     GraphicKit kit;
     ::PropPageInit();
     std::unique_ptr<CGraphicPropertySheet> sheet(

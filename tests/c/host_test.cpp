@@ -14,7 +14,7 @@ constexpr char kDrawing[] = " " TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf";
 class CHost : public HostProcess {};
 class ForeignHost : public HostProcess, public ::testing::WithParamInterface<const char*> {};
 
-TEST_F(CHost, OfTheGuideShowsTheTablesOfItsDrawing) {
+TEST_F(CHost, GuideExampleShowsTheTablesOfItsDrawing) {
     Start(std::string("c_host.exe") + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);
@@ -23,7 +23,7 @@ TEST_F(CHost, OfTheGuideShowsTheTablesOfItsDrawing) {
     EXPECT_EQ(ExitCode(), 0u);
 }
 
-TEST_F(CHost, OfTheGuideHasAPageOfItsOwn) {
+TEST_F(CHost, GuideExampleHasACustomPage) {
     Start(std::string("c_page.exe") + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);

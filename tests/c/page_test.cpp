@@ -158,7 +158,7 @@ TEST_F(CPages, EditPropertiesAndTheHostsOwnData) {
     EXPECT_EQ(written, (std::vector<Counts>{{2, 1}})) << "both accepted a price, one no rating";
 }
 
-TEST_F(CPages, AButtonOfTheHostRenewsTheFields) {
+TEST_F(CPages, HostButtonReloadsTheFields) {
     RunOk([&](HWND window) {
         user.Click(::GetDlgItem(ActivePageOf(window), kPick));
         EXPECT_EQ(Shown(window, kPrice), "42");
@@ -166,7 +166,7 @@ TEST_F(CPages, AButtonOfTheHostRenewsTheFields) {
     EXPECT_TRUE(written.empty());
 }
 
-TEST_F(CPages, ArePartOfSheetsOverTheirGraphicsOnly) {
+TEST_F(CPages, AreAddedOnlyForTheirGraphics) {
     const uint8_t types[] = {kGraphicText, kGraphicInsert};
     page.types = types;
     page.typeCount = 2;
@@ -179,7 +179,7 @@ TEST_F(CPages, ArePartOfSheetsOverTheirGraphicsOnly) {
 }
 
 // The record of the first version ends before the pages. What follows it in memory is not read.
-TEST_F(CPages, ARecordOfTheFirstVersionIsAccepted) {
+TEST_F(CPages, RecordOfTheFirstVersionIsAccepted) {
     std::memset(&sheet.pages, 0xAB, sizeof sheet - offsetof(OrloSheet, pages));
     sheet.size = offsetof(OrloSheet, pages);
     int32_t code = 0;
@@ -192,7 +192,7 @@ TEST_F(CPages, ARecordOfTheFirstVersionIsAccepted) {
     }
 }
 
-TEST_F(CPages, AWrongPageIsRefusedByItsField) {
+TEST_F(CPages, InvalidPageIsRejectedWithItsField) {
     int32_t code = 0;
     const auto expect = [&](const char* message) {
         EXPECT_EQ(OrloRunSheet(&sheet, &code), kOrloBadArgument);
@@ -294,7 +294,7 @@ TEST_F(CSheetWindow, FollowsTheSelectionAndAppliesFirst) {
     EXPECT_EQ(OrloSheetFollow(handle, kit.Selection()), kOrloOk);
 }
 
-TEST_F(CSheetWindow, RefusesWhatIsNotValid) {
+TEST_F(CSheetWindow, RejectsInvalidInput) {
     ShowRoom();
     Edit(kRating, 'x');
     MessageBoxWatcher boxes;
@@ -310,7 +310,7 @@ TEST_F(CSheetWindow, RefusesWhatIsNotValid) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_F(CSheetWindow, TakesTheKeysOfItsFields) {
+TEST_F(CSheetWindow, HandlesTheKeysOfItsFields) {
     ShowRoom();
     Edit(kRating, '4');
     Post(Field(kRating), WM_KEYDOWN, VK_TAB);
@@ -322,7 +322,7 @@ TEST_F(CSheetWindow, TakesTheKeysOfItsFields) {
     EXPECT_EQ(OrloSheetTakesMessage(nullptr), 0);
 }
 
-TEST_F(CSheetWindow, IsClosedByItsUserAndShownAgain) {
+TEST_F(CSheetWindow, CanBeClosedByTheUserAndShownAgain) {
     ::SendMessageA(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(closed, 1);
     EXPECT_FALSE(::IsWindowVisible(window));
@@ -334,7 +334,7 @@ TEST_F(CSheetWindow, IsClosedByItsUserAndShownAgain) {
     EXPECT_EQ(closed, 2);
 }
 
-TEST_F(CSheetWindow, CloseEndsTheHandle) {
+TEST_F(CSheetWindow, CloseInvalidatesTheHandle) {
     EXPECT_EQ(OrloSheetClose(handle), kOrloOk);
     EXPECT_FALSE(::IsWindow(window));
     EXPECT_EQ(OrloSheetApply(handle), kOrloBadHandle);
@@ -342,7 +342,7 @@ TEST_F(CSheetWindow, CloseEndsTheHandle) {
     handle = nullptr;
 }
 
-TEST_F(CSheetWindow, OneOfTwoAndAModalOneOverThem) {
+TEST_F(CSheetWindow, TwoWindowsAndAModalSheetCoexist) {
     OrloSheetHandle second = nullptr;
     ASSERT_EQ(OrloOpenSheet(&sheet, &second), kOrloOk);
     EXPECT_NE(second, handle);

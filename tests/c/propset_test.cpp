@@ -55,7 +55,7 @@ public:
     std::wstring path;
 };
 
-TEST(CPropset, WalksAndReadsADocument) {
+TEST(CPropset, EnumeratesAndReadsADocument) {
     const OrloPropset set = Opened(kDocument);
     uint32_t sections = 0;
     ASSERT_EQ(OrloPropsetCountSections(set, &sections), kOrloOk);
@@ -106,7 +106,7 @@ TEST(CPropset, SavesIntoAFileInOneStepAndLeavesTheRest) {
     OrloPropsetClose(other);
 }
 
-TEST(CPropset, MakesSetsFilesAndNames) {
+TEST(CPropset, CreatesSetsFilesAndNames) {
     ScratchFile file;
     OrloPropset set = nullptr;
     ASSERT_EQ(OrloPropsetNew(&set), kOrloOk);
@@ -151,7 +151,7 @@ TEST(CPropset, MakesSetsFilesAndNames) {
     OrloPropsetClose(set);
 }
 
-TEST(CPropset, SavesOnlyOverWhatItHasRead) {
+TEST(CPropset, SavesOnlyIfTheStreamIsUnchanged) {
     ScratchFile file;
     ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
     OrloPropset first = Opened(file.path.c_str()), second = Opened(file.path.c_str());
@@ -171,7 +171,7 @@ TEST(CPropset, SavesOnlyOverWhatItHasRead) {
     OrloPropsetClose(first);
 }
 
-TEST(CPropset, OpensAFileThatAnotherProgramWrites) {
+TEST(CPropset, OpensAFileThatIsOpenForWritingElsewhere) {
     ScratchFile file;
     ASSERT_TRUE(::CopyFileW(kDocument, file.path.c_str(), FALSE));
     constexpr DWORD kEverything = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -185,7 +185,7 @@ TEST(CPropset, OpensAFileThatAnotherProgramWrites) {
     ::CloseHandle(writer);
 }
 
-TEST(CPropset, AStreamHasTheSetAndNothingElseAfterwards) {
+TEST(CPropset, StreamContainsOnlyTheSetAfterSaving) {
     IStream* stream = nullptr;
     ASSERT_EQ(::CreateStreamOnHGlobal(nullptr, TRUE, &stream), S_OK);
     OrloPropset set = nullptr, read = nullptr;
@@ -273,7 +273,7 @@ TEST(CPropset, StoresValuesInTheRangeOfTheirTypes) {
     OrloPropsetClose(set);
 }
 
-TEST(CPropset, GivesTheThumbnailAsPixelsAndAsBitmap) {
+TEST(CPropset, ReturnsTheThumbnailAsPixelsAndBitmap) {
     const OrloPropset set = Opened(L"" TEST_DATA "/ole/bug55030--18fccf.ppt");
     uint32_t width = 0, height = 0;
     size_t size = 0;
@@ -304,7 +304,7 @@ TEST(CPropset, GivesTheThumbnailAsPixelsAndAsBitmap) {
     OrloPropsetClose(set);
 }
 
-TEST(CPropset, AnswersEveryWrongArgument) {
+TEST(CPropset, RejectsInvalidArguments) {
     OrloPropset set = nullptr, closed = nullptr, out = nullptr;
     OrloPropsetNew(&set);
     OrloPropsetNew(&closed);

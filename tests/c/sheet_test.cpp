@@ -36,7 +36,7 @@ void CALLBACK CancelSheet(HWND, UINT, UINT_PTR timer, DWORD) {
     ::PostMessageA(sheet, WM_COMMAND, IDCANCEL, 0);
 }
 
-TEST(CSheet, LeavesTheFrameworkOfAProgramAsItWas) {
+TEST(CSheet, DoesNotChangeTheFrameworkOfTheProgram) {
     GraphicKit kit;
     kit.Add({{kPropPenColor, 255}});
     HostFrame frame(kit.Drawing());

@@ -27,7 +27,7 @@ protected:
     }
 };
 
-TEST_F(Spoken, NamesStandForTheKeysOfItems) {
+TEST_F(Spoken, ItemsAreNamedWithoutTheirKeys) {
     const uint16_t locked = AddLayer("Walls", kLayerLocked | kLayerOff);
     AddLayer("Doors", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers), locked);
@@ -59,7 +59,7 @@ TEST_F(Spoken, NamesStandForTheKeysOfItems) {
     }
 }
 
-TEST_F(Spoken, AColorWithoutAnItemIsItsNumbers) {
+TEST_F(Spoken, ColorWithoutAnItemIsDescribedByItsComponents) {
     TableStruct* const colors = m_drawing.Table(kTableColors);
     const std::pair<DWORD, const char*> rows[] = {
         {0x00123456, "86, 52, 18"}, {kColorIndeterminate, "varied"}, {kColorNone, "varied"}};
@@ -71,7 +71,7 @@ TEST_F(Spoken, AColorWithoutAnItemIsItsNumbers) {
     EXPECT_EQ(Of(IDC_COLOR).Value(), "");
 }
 
-TEST_F(Spoken, TextOfTheItemsStaysAsItIs) {
+TEST_F(Spoken, TextOfItemsIsUnchanged) {
     AddLayer("Walls", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
     CString text;
@@ -111,7 +111,7 @@ private:
     HWINEVENTHOOK m_hook;
 };
 
-TEST_F(Spoken, ChangesByTypingAndByCodeAreEvents) {
+TEST_F(Spoken, ChangesByTypingAndByCodeRaiseEvents) {
     AddLayer("Walls", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
     Fill(IDC_LINE_STYLE_LIST, m_drawing.Table(kTableLineStyles));
@@ -132,7 +132,7 @@ TEST_F(Spoken, ChangesByTypingAndByCodeAreEvents) {
     list.DestroyWindow();
 }
 
-TEST_F(Spoken, ACheckListHasCheckButtons) {
+TEST_F(Spoken, CheckListHasCheckButtons) {
     CCheckListBox list;
     ASSERT_TRUE(
         list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));

@@ -39,7 +39,7 @@ protected:
     DrawnPixels m_pixels{120, 90};
 };
 
-TEST_F(CheckList, KeepsTheFlagAsItWasGiven) {
+TEST_F(CheckList, StoresTheFlagUnchanged) {
     EXPECT_EQ(m_list.AddString("off", 0), 0);
     EXPECT_EQ(m_list.AddString("seven", 7), 1);
     EXPECT_EQ(m_list.InsertString(0, "first", 1), 0);
@@ -59,7 +59,7 @@ TEST_F(CheckList, KeepsTheFlagAsItWasGiven) {
     EXPECT_EQ(m_list.InvalidateItem(2, 0), 1);
 }
 
-TEST_F(CheckList, AClickAnywhereOnAnItemTogglesAndSelectsIt) {
+TEST_F(CheckList, ClickAnywhereOnAnItemTogglesAndSelectsIt) {
     for (const char* name : {"a", "b", "c"})
         m_list.AddString(name, 0);
     const int height = m_list.ItemHeight();
@@ -107,7 +107,7 @@ TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
         EXPECT_EQ(m_list.IsItemChecked(i), 0) << i;
 }
 
-TEST_F(CheckList, TakesAWindowOverWithRowsOfItsOwn) {
+TEST_F(CheckList, SubclassesAWindowWithItsOwnRowHeight) {
     const HWND window = ::CreateWindowExA(0, "ListBox", "", WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 0, 0, 90,
                                           90, m_host.m_hWnd, reinterpret_cast<HMENU>(8), nullptr, nullptr);
     ::SendMessageA(window, LB_SETITEMHEIGHT, 0, 40);
@@ -131,7 +131,7 @@ TEST_F(CheckList, HasAGapBetweenTheEdgeOfTheSelectionAndTheText) {
     EXPECT_GE(8, text - edge);
 }
 
-TEST_F(CheckList, DrawsTheMarkInABoxOfTheWindowsColor) {
+TEST_F(CheckList, DrawsTheCheckMarkInABoxInTheWindowColor) {
     m_list.AddString("on", 1);
     m_list.AddString("off", 0);
     m_list.UpdateWindow(); // loads the bitmap

@@ -39,7 +39,7 @@ protected:
     CColorControl& m_control;
 };
 
-TEST_F(ColorControl, ListsColorsInTheirOrderAndLaterOnesOfAColorFirst) {
+TEST_F(ColorControl, ListsColorsInOrderAndLaterDuplicatesFirst) {
     Add("Red", RGB(255, 0, 0));
     Add("White", RGB(255, 255, 255));
     Add("Blue", RGB(0, 0, 255));
@@ -55,7 +55,7 @@ TEST_F(ColorControl, ListsColorsInTheirOrderAndLaterOnesOfAColorFirst) {
 }
 
 // Sorting once and inserting one by one result in the same list.
-TEST_F(ColorControl, SortingIsInsertingOneByOne) {
+TEST_F(ColorControl, SortingEqualsInsertingOneByOne) {
     std::mt19937 random(3);
     for (int i = 0; i < 400; ++i)
         Add("c" + std::to_string(i), random() & (i % 3 ? 0x070707 : 0xFFFFFF));
@@ -73,7 +73,7 @@ TEST_F(ColorControl, SortingIsInsertingOneByOne) {
     EXPECT_EQ(sorted, Items());
 }
 
-TEST_F(ColorControl, AnItemIsInsertedAheadOfTheExtraEntriesWhereItBelongs) {
+TEST_F(ColorControl, ItemsAreInsertedInOrderBeforeTheExtraEntries) {
     Add("Dark", RGB(10, 10, 10));
     Add("Light", RGB(200, 200, 200));
     FillColors();
@@ -120,7 +120,7 @@ public:
     }
 };
 
-TEST_F(ColorControl, ADerivedClassIsAskedForEachItem) {
+TEST_F(ColorControl, DerivedClassIsCalledForEachItem) {
     Add("hidden red", RGB(255, 0, 0));
     Add("blue", RGB(0, 0, 255));
     Add("grey", RGB(9, 9, 9));
@@ -175,7 +175,7 @@ TEST_F(Swatch, ColorFillsTheRowAndTheNameContrasts) {
     }
 }
 
-TEST_F(Swatch, NameStandsInTheMiddleAndBeginsAtTheLeftIfTooWide) {
+TEST_F(Swatch, NameIsCenteredOrLeftAlignedIfTooWide) {
     DrawOnly(RGB(250, 250, 0), "II");
     const RECT left = {0, 20, 40, 36}, right = {60, 20, 100, 36};
     EXPECT_EQ(m_pixels.Count(left, kBlack), 0);
@@ -195,7 +195,7 @@ TEST_F(Swatch, WhiteHasABlackFrame) {
     EXPECT_EQ(m_pixels.At(50, 28), kWhite);
 }
 
-TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
+TEST_F(Swatch, MarkerIsAFramedLabelOnWhite) {
     DrawOnly(kColorByLayer, "");
     char host[128] = "";
     ASSERT_LT(0, DrawCoreLoadString(kStringByLayer, host, sizeof host));
@@ -205,7 +205,7 @@ TEST_F(Swatch, AMarkerIsAFramedLabelOnWhite) {
     EXPECT_LT(5, m_pixels.Count(inside, kBlack)) << "the host's text";
 }
 
-TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
+TEST_F(Swatch, ClosedFieldShowsAColorThatIsNotListed) {
     FillColors(0x00123456);
     Draw(-1, kField);
     EXPECT_EQ(m_pixels.At(12, 22), RGB(0x56, 0x34, 0x12));
@@ -220,7 +220,7 @@ TEST_F(Swatch, TheClosedFieldShowsAColorThatIsInNoList) {
 }
 
 // A hard-coded white field would be visible.
-TEST_F(Swatch, ADarkSchemeHasDarkFields) {
+TEST_F(Swatch, DarkSchemeHasDarkFields) {
     const COLORREF yellow = RGB(255, 255, 0);
     const SchemeColors dark({{COLOR_WINDOW, kBlack}, {COLOR_WINDOWTEXT, yellow}});
     FillColors(kColorIndeterminate);
@@ -252,7 +252,7 @@ TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColor) {
     EXPECT_EQ(m_pixels.At(50, 28), kUntouched);
 }
 
-TEST_F(Swatch, LeavesTheDeviceContextAsItFoundIt) {
+TEST_F(Swatch, PreservesTheDeviceContext) {
     Add("Red", RGB(255, 0, 0));
     Add("White", kWhite);
     FillColors();

@@ -30,7 +30,7 @@ TEST(HsvValues, OfKnownColors) {
     }
 }
 
-TEST(HsvValues, ComeBackForEveryColor) {
+TEST(HsvValues, ConvertBackToEveryColor) {
     std::mt19937 random(7);
     for (int i = 0; i < 20000; ++i) {
         const DWORD color = random() & 0xFFFFFF;
@@ -42,7 +42,7 @@ TEST(HsvValues, ComeBackForEveryColor) {
     }
 }
 
-TEST(HsvValues, OutOfRangeGiveColorsInRange) {
+TEST(HsvValues, OutOfRangeAreClampedToColors) {
     const double wild[] = {-1e300, -1, -0.0, 0.5, 2, 1e300, HUGE_VAL, NAN};
     for (const double h : wild) {
         for (const double s : wild) {
@@ -55,7 +55,7 @@ TEST(HsvValues, OutOfRangeGiveColorsInRange) {
     }
 }
 
-TEST(ColorOrder, HoldsBothWays) {
+TEST(ColorOrder, IsAntisymmetric) {
     const struct {
         DWORD first, second;
         int order;

@@ -33,7 +33,7 @@ protected:
     }
 };
 
-TEST_F(Factory, TheIdentifierChoosesTheObject) {
+TEST_F(Factory, IdentifierDeterminesTheObject) {
     // Literal numbers, because hosts' templates and message handlers contain them.
     for (const int id : {32004, 32017, 32020, 32026})
         EXPECT_EQ(RUNTIME_CLASS(CLineStyleControlC), ClassOf(id)) << id;
@@ -58,7 +58,7 @@ TEST_F(Factory, TheIdentifierChoosesTheObject) {
     EXPECT_EQ(KindOf(32020), kControlLineStyleCombo) << "the kind, not the identifier";
 }
 
-TEST_F(Factory, OtherIdentifiersStayPlainControls) {
+TEST_F(Factory, OtherIdentifiersRemainPlainControls) {
     EXPECT_EQ(ClassOf(IDC_PLAIN_COMBO), nullptr);
     EXPECT_EQ(ClassOf(IDC_PLAIN_LIST), nullptr);
     const HWND combo = Control(IDC_PLAIN_COMBO), list = Control(IDC_PLAIN_LIST);
@@ -95,7 +95,7 @@ TEST(ControlLife, WithoutAnApplicationWindowNoNotificationIsSent) {
     EXPECT_TRUE(dialog.DestroyWindow());
 }
 
-TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
+TEST(ControlLife, ObjectsOfATemplateAreDeletedWithTheirWindows) {
     DrawCoreObjectCounts before = {}, after = {};
     {
         HostWindow host;
@@ -114,7 +114,7 @@ TEST(ControlLife, ObjectsOfATemplateGoWithTheirWindows) {
     EXPECT_EQ(before.vertices, after.vertices);
 }
 
-TEST(ControlLife, ObjectsOfAProgramStay) {
+TEST(ControlLife, ObjectsOfAProgramAreNotDeleted) {
     HostWindow host;
     CColorControl colors(0);
     ASSERT_TRUE(colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, CRect(0, 0, 100, 100),
@@ -134,7 +134,7 @@ TEST(ControlLife, ObjectsOfAProgramStay) {
     EXPECT_FALSE(colors.IsDialogCtrl()) << "in a control bar";
 }
 
-TEST(ControlLife, TheFrameworkMakesControlsByName) {
+TEST(ControlLife, FrameworkCreatesControlsByName) {
     for (CRuntimeClass* const made :
          {RUNTIME_CLASS(CColorControl), RUNTIME_CLASS(CLineStyleControlC), RUNTIME_CLASS(CLineStyleControlL)}) {
         CObject* const object = made->CreateObject();
@@ -161,7 +161,7 @@ protected:
     }
 };
 
-TEST(ControlLife, AWizardsPageHasThemToo) {
+TEST(ControlLife, WizardPagesHaveThemToo) {
     HostWindow host;
     const TestDrawing drawing;
     TableStruct* layers = drawing.Table(kTableLayers);

@@ -79,7 +79,7 @@ int CALLBACK CollectTrueType(const LOGFONTA* font, const TEXTMETRICA*, DWORD typ
     return 1;
 }
 
-TEST_F(Fonts, FacesAreTheTrueTypeFacesOfTheSystemSortedAndOnce) {
+TEST_F(Fonts, ListsTrueTypeFacesSortedWithoutDuplicates) {
     FillFaces(nullptr, 0);
     const std::vector<std::string> texts = Texts(m_faces);
     std::set<std::string> installed;
@@ -94,7 +94,7 @@ TEST_F(Fonts, FacesAreTheTrueTypeFacesOfTheSystemSortedAndOnce) {
     EXPECT_EQ(installed.count("System"), 0u) << "bitmap fonts are not offered";
 }
 
-TEST_F(Fonts, AFaceThatTheSystemDoesNotHaveJoinsTheList) {
+TEST_F(Fonts, MissingFaceIsAddedToTheList) {
     FillFaces(nullptr, 0);
     const int installed = m_faces.GetCount();
     CString shown;
@@ -114,7 +114,7 @@ TEST_F(Fonts, AFaceThatTheSystemDoesNotHaveJoinsTheList) {
     EXPECT_EQ(installed, m_faces.GetCount()) << "faces need no table";
 }
 
-TEST_F(Fonts, SizesInTheWorldAreNumbersOfTheDrawing) {
+TEST_F(Fonts, SizesInWorldSpaceAreInDrawingUnits) {
     TableSetStringVar(Units(), kUnitDrawing, "cm");
     FillSizes(5.0f);
     const double expected[] = {2.5, 3.5, 5};
@@ -174,7 +174,7 @@ TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
     EXPECT_NEAR(6.35, HeightOf(text), 1e-6) << "as high as its letters in points";
 }
 
-TEST_F(Fonts, TextThatIsNotAHeightLeavesTheValue) {
+TEST_F(Fonts, TextThatIsNotAHeightDoesNotChangeTheValue) {
     FillSizes(0.0f);
     for (const char* text : {"", "high", "5 mm x", "1e999"})
         EXPECT_EQ(HeightOf(text), 77.0) << text;
@@ -182,7 +182,7 @@ TEST_F(Fonts, TextThatIsNotAHeightLeavesTheValue) {
     EXPECT_EQ(HeightOf("5"), 77.0) << "a device has no lengths";
 }
 
-TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
+TEST_F(Fonts, HeightThatCannotBeFormattedIsNotShown) {
     ASSERT_TRUE(DrawingSetCoordSpace(m_drawing.Get(), 2)); // a device has no lengths
     FillSizes(5.0f);
     for (const std::string& text : Texts(m_sizes))
@@ -191,7 +191,7 @@ TEST_F(Fonts, AHeightWithoutATextIsNotShown) {
     EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(Fonts, ForgetTheDrawingOfAClosedTable) {
+TEST_F(Fonts, ReleaseTheDrawingOfAClosedTable) {
     FillSizes(5.0f);
     FillFrom(nullptr, m_sizes);
     m_drawing.Close();
@@ -204,7 +204,7 @@ TEST_F(Fonts, ForgetTheDrawingOfAClosedTable) {
     EXPECT_EQ(m_sizes.GetCount(), 0);
 }
 
-TEST_F(Fonts, TheIdentifierChoosesTheList) {
+TEST_F(Fonts, IdentifierDeterminesTheList) {
     CComboBox combo;
     const DWORD style = WS_CHILD | CBS_DROPDOWNLIST;
     ASSERT_TRUE(combo.CWnd::Create("ComboBox", "", style, CRect(0, 0, 100, 100), &m_host, IDC_FONT_STYLE));

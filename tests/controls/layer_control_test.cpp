@@ -41,7 +41,7 @@ protected:
     DrawnPixels m_pixels{150, 60};
 };
 
-TEST_F(Layers, ShowEyeBookAndNameInColumnsOfTheirOwn) {
+TEST_F(Layers, ShowEyeBookAndNameInColumns) {
     const struct {
         const char* name;
         uint32_t flags;
@@ -88,7 +88,7 @@ TEST_F(Layers, NamesHaveTheLayersColorWhereItCanBeSeen) {
     EXPECT_LT(1000, m_pixels.Count(kAll, ::GetSysColor(COLOR_HIGHLIGHT)));
 }
 
-TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
+TEST_F(Layers, NamesAreVerticallyCentered) {
     const uint16_t id = Add("HHH", RGB(0, 0, 200), kLayerOff);
     Fill(IDC_LAYER, m_table, id);
     const auto ink = [&](LONG top, LONG bottom) { return m_pixels.Count({32, top, 140, bottom}, RGB(0, 0, 200)); };
@@ -99,7 +99,7 @@ TEST_F(Layers, NamesStandInTheMiddleOfTheirRows) {
 }
 
 // A scheme with light text on a black window, as in high contrast.
-TEST_F(Layers, NothingVanishesOnADarkWindow) {
+TEST_F(Layers, EverythingIsVisibleOnADarkWindow) {
     const uint16_t black = Add("black", RGB(0, 0, 0), kLayerOff);
     Fill(IDC_LAYER, m_table, black);
     const SchemeColors dark({{COLOR_WINDOW, RGB(0, 0, 0)}, {COLOR_WINDOWTEXT, RGB(255, 255, 0)}});
@@ -107,7 +107,7 @@ TEST_F(Layers, NothingVanishesOnADarkWindow) {
     EXPECT_LT(10, m_pixels.Count({32, 8, 140, 24}, RGB(255, 255, 0)));
 }
 
-TEST_F(Layers, TheClosedFieldNeedsNoItem) {
+TEST_F(Layers, ClosedFieldNeedsNoItem) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), kLayerLocked);
     Fill(IDC_LAYER, m_table, id);
     Draw(-1);
@@ -124,7 +124,7 @@ TEST_F(Layers, TheClosedFieldNeedsNoItem) {
     EXPECT_EQ(InkFrom(0, 140), 0) << "a table without an owner";
 }
 
-TEST_F(Layers, AChangeOfFocusDrawsTheFocusAlone) {
+TEST_F(Layers, FocusChangeRedrawsOnlyTheFocus) {
     const uint16_t id = Add("Walls", RGB(200, 0, 0), 0);
     Fill(IDC_LAYER, m_table, id);
     Draw(Index(id), ODA_FOCUS, ODS_FOCUS);
@@ -134,7 +134,7 @@ TEST_F(Layers, AChangeOfFocusDrawsTheFocusAlone) {
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "a change of selection draws all";
 }
 
-TEST_F(Layers, ASubclassedWindowHasItsIcons) {
+TEST_F(Layers, SubclassedWindowHasIcons) {
     CWnd window;
     ASSERT_TRUE(window.CWnd::Create("ComboBox", "",
                                     WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS,

@@ -35,7 +35,7 @@ protected:
     }
 };
 
-TEST_F(OpenLists, AreDrawnWholeWhereverTheSelectionHasBeen) {
+TEST_F(OpenLists, AreDrawnCompletelyAfterSelectionChanges) {
     for (const int id : {IDC_LINE_STYLE_LIST, IDC_BRUSH_STYLE_LIST}) {
         ::SetFocus(Control(id));
         for (const WPARAM key : {VK_HOME, VK_DOWN, VK_DOWN, VK_UP, VK_END, VK_UP}) {
@@ -45,7 +45,7 @@ TEST_F(OpenLists, AreDrawnWholeWhereverTheSelectionHasBeen) {
     }
 }
 
-TEST_F(OpenLists, OfCombosAreDrawnWholeToo) {
+TEST_F(OpenLists, OfComboBoxesAreDrawnCompletely) {
     for (const int id :
          {IDC_COLOR, IDC_LINE_STYLE_COMBO, IDC_BRUSH_STYLE_COMBO, IDC_LAYER, IDC_FONT_FACE, IDC_STYLE_NAME}) {
         CComboControl& combo = Get<CComboControl>(id);
@@ -65,7 +65,7 @@ TEST_F(OpenLists, OfCombosAreDrawnWholeToo) {
 }
 
 // A list that the keyboard opens below the pointer.
-TEST_F(OpenLists, SelectWhereTheMouseMovesAndNotWhereItRests) {
+TEST_F(OpenLists, SelectUnderAMovingButNotAnIdlePointer) {
     POINT before;
     ::GetCursorPos(&before);
     for (const int id : {IDC_COLOR, IDC_LAYER}) {

@@ -139,7 +139,7 @@ protected:
 using AllKinds = ::testing::Types<LineCombo, LineList, BrushCombo, BrushList>;
 TYPED_TEST_SUITE(StyleControls, AllKinds);
 
-TYPED_TEST(StyleControls, AClosedFieldShowsStylesAndWhatTheHostNames) {
+TYPED_TEST(StyleControls, ClosedFieldShowsStylesAndHostNames) {
     const unsigned style = TypeParam::Add(this->m_table, "Own");
     const bool lines = std::is_base_of<Lines, TypeParam>::value;
     const struct {
@@ -191,7 +191,7 @@ TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeRemoved) {
     EXPECT_LT(100, this->m_pixels.Count(kAll, highlight)) << "the closed field is always drawn whole";
 }
 
-TYPED_TEST(StyleControls, ASubclassedWindowHasItsSampleWhenItIsFilled) {
+TYPED_TEST(StyleControls, SubclassedWindowHasASampleWhenFilled) {
     CWnd window;
     ASSERT_TRUE(window.CWnd::Create(TypeParam::kClass, "", TypeParam::kStyle, CRect(0, 0, 200, 100), &this->m_host, 2));
     window.UnsubclassWindow();
@@ -205,7 +205,7 @@ TYPED_TEST(StyleControls, ASubclassedWindowHasItsSampleWhenItIsFilled) {
     control.DestroyWindow();
 }
 
-TYPED_TEST(StyleControls, AnyWidthGivesASample) {
+TYPED_TEST(StyleControls, AnyWidthHasASample) {
     for (const int width : {0, 1, 19, 20, 3000}) {
         this->m_control.DestroyWindow();
         this->Make(width);
@@ -217,7 +217,7 @@ TYPED_TEST(StyleControls, AnyWidthGivesASample) {
     }
 }
 
-TYPED_TEST(StyleControls, TheDrawingMayCloseUnderTheControl) {
+TYPED_TEST(StyleControls, DrawingCanBeClosedWhileTheControlExists) {
     TypeParam::Add(this->m_table, "Own");
     this->Fill();
     this->m_drawing.Close();
@@ -229,7 +229,7 @@ TYPED_TEST(StyleControls, TheDrawingMayCloseUnderTheControl) {
     EXPECT_EQ(GraphicGetDrawing(this->m_control.Graphic()), nullptr) << "the sample has left the drawing";
 }
 
-TYPED_TEST(StyleControls, ManyPaintsKeepNothing) {
+TYPED_TEST(StyleControls, ManyPaintsLeakNothing) {
     TypeParam::Add(this->m_table, "Own");
     this->Fill();
     DrawCoreObjectCounts before = {}, after = {};
@@ -256,7 +256,7 @@ class LineStyles : public StyleControls<Kind> {};
 using LineTwins = ::testing::Types<LineCombo, LineList>;
 TYPED_TEST_SUITE(LineStyles, LineTwins);
 
-TYPED_TEST(LineStyles, OfferAllButTheStylesForConstruction) {
+TYPED_TEST(LineStyles, OfferAllButConstructionStyles) {
     for (const char* name : {"$CONSTRUCTION", "$AUXILIARY"})
         TypeParam::Add(this->m_table, name);
     const uint16_t dashed = TypeParam::Add(this->m_table, "Dashed");
@@ -303,7 +303,7 @@ TYPED_TEST(LineStyles, DashesShowAsGapsInTheSample) {
     EXPECT_EQ(this->m_pixels.At(50, kRow.top - 1), kUntouched);
 }
 
-TEST(LineStyleCombo, HasADefaultItemOnlyIfAsked) {
+TEST(LineStyleCombo, HasADefaultItemOnlyIfRequested) {
     HostWindow host;
     TestDrawing drawing;
     for (const int wanted : {0, 1}) {
@@ -332,7 +332,7 @@ TYPED_TEST(BrushStyles, BeginWithNoBrushAndOfferEveryStyle) {
     EXPECT_EQ(this->m_control.GetCurSel(), -1) << "the item for no brush is not found by its number";
 }
 
-TYPED_TEST(BrushStyles, AHatchIsScaledToTheSample) {
+TYPED_TEST(BrushStyles, HatchIsScaledToTheSample) {
     const double lines = TypeParam::kIsCombo ? 20.0 * 2.0 / 3.0 : 20.0; // across the sample
     this->ExpectScales({{"None", {}, 0},
                         {"One", {2}, 2 * lines},
@@ -342,7 +342,7 @@ TYPED_TEST(BrushStyles, AHatchIsScaledToTheSample) {
                         {"OnlyTooFine", {1e-9}, 0}});
 }
 
-TYPED_TEST(BrushStyles, TheSampleOfAComboTakesTheShapeOfItsCell) {
+TYPED_TEST(BrushStyles, SampleOfAComboBoxFitsItsCell) {
     TypeParam::Add(this->m_table, "Solid like", {});
     this->Fill();
     const struct {

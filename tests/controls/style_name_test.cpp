@@ -46,7 +46,7 @@ TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
     EXPECT_EQ(m_control.m_pTable, nullptr);
 }
 
-TEST_F(StyleNames, OwnDrawnItemsAreFramedNames) {
+TEST_F(StyleNames, OwnerDrawnItemsAreFramedNames) {
     CStyleNameControl control;
     ASSERT_TRUE(control.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, CRect(0, 0, 120, 100),
                                &m_host, 1));

@@ -81,7 +81,7 @@ TYPED_TEST(TableControl, SelectsNothingForIdentifiersWithoutEntries) {
     }
 }
 
-TYPED_TEST(TableControl, IsEmptiedWithoutATableOrARecord) {
+TYPED_TEST(TableControl, IsEmptiedByANullTableOrRecord) {
     const uint16_t id = TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->Fill(this->m_table, id);
     this->Fill(nullptr, id);
@@ -114,7 +114,7 @@ TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
 }
 
 // Rows, font, size and the notification, which the host handles at once.
-TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
+TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
     constexpr bool combo = TypeParam::kIsCombo;
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_host.answer = this->m_table;
@@ -157,7 +157,7 @@ TYPED_TEST(TableControl, TakesAWindowOverAsIfATemplateHadMadeIt) {
 }
 
 // Consecutive letters form a prefix; a selection by other means, or a pause, starts a new one.
-TYPED_TEST(TableControl, IsTypedIntoByTheNames) {
+TYPED_TEST(TableControl, SelectsByTypedNames) {
     for (const char* name : {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
         TableEntryAdd(this->m_table, name, nullptr);
     this->Fill(this->m_table, 0);
@@ -233,7 +233,7 @@ protected:
     }
 };
 
-TYPED_TEST(TableControl, ReadsItsItemsOnceForManyLetters) {
+TYPED_TEST(TableControl, CachesItemNamesWhileTyping) {
     Reading<TypeParam> control;
     ASSERT_TRUE(control.MakeIn(&this->m_host));
     for (const char* item : {"00000001\tGreen", "00000002\tGrey", "00000003\tRed"})
@@ -305,7 +305,7 @@ TEST_F(DropDown, IsAtMost320PixelsHighAt96DotsPerInch) {
 }
 
 // Independent of the parent, which is not involved.
-TEST_F(DropDown, FitsItsItemsWhenItOpensHoweverItDoes) {
+TEST_F(DropDown, FitsItsItemsHoweverItIsOpened) {
     m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
     m_control.ShowWindow(SW_SHOW);
     m_control.SetFocus();

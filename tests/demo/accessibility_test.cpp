@@ -72,7 +72,7 @@ const FieldCase kFields[] = {
 
 class ScreenReader : public Viewer {};
 
-TEST_F(ScreenReader, HearsANameOfEachFieldOfTheSheet) {
+TEST_F(ScreenReader, GetsANameForEachFieldOfTheSheet) {
     frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf");
     user.Key('A', UserInput::kControl);
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
@@ -88,7 +88,7 @@ TEST_F(ScreenReader, HearsANameOfEachFieldOfTheSheet) {
                   });
 }
 
-TEST_F(ScreenReader, HearsWhatPartsTheViewerHas) {
+TEST_F(ScreenReader, GetsThePartsOfTheViewer) {
     user.Key(VK_F4);
     EXPECT_EQ(AskOf(view()).name, "Drawing");
     EXPECT_EQ(AskOf(frame->Pane().m_hWnd).name, "Properties");

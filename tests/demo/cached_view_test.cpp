@@ -86,7 +86,7 @@ protected:
     CachedView picture{camera, kEveryPictureIsSlow};
 };
 
-TEST_F(MovingPicture, ShowsWhatWasThereAndDrawsTheEdges) {
+TEST_F(MovingPicture, ShiftsTheOldPictureAndDrawsTheEdges) {
     const Seen before = Shown();
     const CSize by(31, -17);
     picture.Pan(CSize(20, -10));
@@ -105,7 +105,7 @@ TEST_F(MovingPicture, ShowsWhatWasThereAndDrawsTheEdges) {
         }
 }
 
-TEST_F(MovingPicture, StretchesWhatWasThere) {
+TEST_F(MovingPicture, StretchesTheOldPicture) {
     for (const double factor : {2.0, 0.5, 0.8, 1.1, 40.0, 0.02}) {
         SCOPED_TRACE(factor);
         picture.Zoom(factor, CPoint(70, 150));
@@ -140,7 +140,7 @@ TEST_F(MovingPicture, EqualsAFreshDrawingAtRest) {
     }
 }
 
-TEST_F(MovingPicture, NeverShowsWhatHasChanged) {
+TEST_F(MovingPicture, NeverShowsAnOutdatedPicture) {
     const auto paint = [&](uint32_t color) {
         document->Change([&] {
             for (GraphicStruct* graphic : document->Selectable())

@@ -12,7 +12,7 @@ protected:
     Camera camera;
 };
 
-TEST_F(CameraTest, ZoomHoldsTheAnchor) {
+TEST_F(CameraTest, ZoomKeepsTheAnchorFixed) {
     const CPoint anchor(123, 456);
     const WorldPoint held = camera.ToWorld(anchor);
     for (const double factor : {1.25, 3.0, 0.1}) {
@@ -39,7 +39,7 @@ TEST_F(CameraTest, PixelsAndUnitsAreInverse) {
     }
 }
 
-TEST_F(CameraTest, CenterOnBringsAPointToTheMiddle) {
+TEST_F(CameraTest, CenterOnCentersAPoint) {
     camera.CenterOn(WorldPoint{1e4, -3e3});
     const CPoint middle = camera.ToPixels(WorldPoint{1e4, -3e3});
     EXPECT_NEAR(400, middle.x, 1);

@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndEndsWell) {
+TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndSucceeds) {
     StartOver(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf");
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);

@@ -72,7 +72,7 @@ protected:
     MessageBoxWatcher boxes;
 };
 
-TEST_F(Help, IsOfThePageInFrontByKeyAndByButton) {
+TEST_F(Help, IsForTheActivePageByKeyAndByButton) {
     user.InDialog(
         [&] { user.Key(VK_RETURN, UserInput::kAlt); },
         [&](HWND sheet) {
@@ -85,7 +85,7 @@ TEST_F(Help, IsOfThePageInFrontByKeyAndByButton) {
         });
 }
 
-TEST_F(Help, IsOfThePanesPageAndOfTheViewer) {
+TEST_F(Help, IsForThePageOfThePaneOrTheViewer) {
     user.Key(VK_F6);
     user.Key(VK_TAB, UserInput::kControl);
     EXPECT_EQ(Asked([&] { user.Key(VK_F1); }), "pen");

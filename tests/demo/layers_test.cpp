@@ -41,7 +41,7 @@ protected:
     }
 };
 
-TEST_F(Layers, AreLockedByKeysAndStaySeen) {
+TEST_F(Layers, AreLockedByKeysAndStayVisible) {
     const std::vector<uint32_t> seen = Seen();
     ASSERT_EQ(SelectAll(), 4);
     InDialog([&](HWND dialog) {
@@ -75,7 +75,7 @@ TEST_F(Layers, HaveTitlesThatFitTheirColumns) {
     });
 }
 
-TEST_F(Layers, AreSortedByTheirTitlesAndFoundByPartsOfTheirNames) {
+TEST_F(Layers, AreSortedByColumnAndFilteredByName) {
     const auto clickTitle = [&](HWND dialog, int column) {
         const HWND header = reinterpret_cast<HWND>(::SendDlgItemMessageA(dialog, IDC_LAYER_LIST, LVM_GETHEADER, 0, 0));
         CRect place;
@@ -144,7 +144,7 @@ TEST_F(Layers, ThousandsCanBeChangedAtOnce) {
     EXPECT_EQ(SelectAll(), 4);
 }
 
-TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
+TEST_F(Layers, AreHiddenForSeveralRowsAndRestoredByCancel) {
     const std::vector<uint32_t> seen = Seen();
     for (const int state : {IDC_LAYER_ON, IDC_LAYER_FROZEN}) {
         InDialog([&](HWND dialog) {
@@ -167,7 +167,7 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndCancelTakesItBack) {
     }
 }
 
-TEST_F(Layers, AClickOnAStateChangesItsRowAlone) {
+TEST_F(Layers, ClickOnAStateChangesOnlyItsRow) {
     InDialog([&](HWND dialog) {
         const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
         RECT cell = {LVIR_BOUNDS, 1, 0, 0}; // the same column in the second row

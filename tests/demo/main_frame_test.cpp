@@ -44,7 +44,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndUndoes) {
     EXPECT_TRUE(before == Properties());
 }
 
-TEST_F(Viewer, OneUndoTakesAWholeSheetBack) {
+TEST_F(Viewer, OneUndoRevertsAWholeSheet) {
     const DrawingState before = Properties();
     const std::vector<uint32_t> seen = Seen();
     user.InDialog(
@@ -113,13 +113,13 @@ TEST_F(Viewer, BrokenFileKeepsTheOldDrawing) {
     EXPECT_EQ(title, now);
 }
 
-TEST_F(Viewer, MissingFileIsSaidOnce) {
+TEST_F(Viewer, MissingFileIsReportedOnce) {
     MessageBoxWatcher boxes;
     EXPECT_FALSE(frame->Open("no such file.dxf"));
     EXPECT_NE(std::string::npos, boxes.OnlyText().find("no such file.dxf"));
 }
 
-TEST_F(Viewer, AllWarningsOfAFileCanBeRead) {
+TEST_F(Viewer, AllWarningsAreListed) {
     std::string content = "0\nSECTION\n2\nENTITIES\n";
     for (int i = 0; i < 12; ++i)
         content += "0\nODDITY" + std::to_string(i) + "\n8\n0\n";
@@ -136,7 +136,7 @@ TEST_F(Viewer, AllWarningsOfAFileCanBeRead) {
                   });
 }
 
-TEST_F(Viewer, OpeningAnotherReplacesDrawingAndSelection) {
+TEST_F(Viewer, OpeningAFileReplacesDrawingAndSelection) {
     user.Key('A', UserInput::kControl);
     ASSERT_TRUE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
     EXPECT_EQ(selection().Count(), 0);
@@ -175,7 +175,7 @@ TEST_F(Viewer, PropertiesNeedASelection) {
 }
 
 // The items of a submenu, and selecting one.
-TEST_F(Viewer, SelectionIsSummarizedAndNarrowedByKindsAndLayers) {
+TEST_F(Viewer, SelectionIsSummarizedAndFilteredByKindAndLayer) {
     const auto pane = [&](int place) {
         char text[256] = "";
         ::SendMessageA(::GetDlgItem(frame->m_hWnd, IDC_STATUS), SB_GETTEXTA, static_cast<WPARAM>(place),
@@ -236,7 +236,7 @@ HDROP Dropped(const std::vector<std::string>& files) {
     return static_cast<HDROP>(block);
 }
 
-TEST_F(Viewer, TheFirstOfDroppedFilesIsOpenedAndTheOthersAreKept) {
+TEST_F(Viewer, FirstDroppedFileIsOpenedAndOthersBecomeRecentFiles) {
     const std::string first = TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf";
     const auto drop = [&](const std::vector<std::string>& files) {
         frame->PostMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Dropped(files)));
@@ -290,7 +290,7 @@ TEST_F(Saving, MarkFollowsUndoAndRedo) {
     EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
 }
 
-TEST_F(Saving, SaysWhatOtherProgramsWillNotShow) {
+TEST_F(Saving, ReportsWhatOtherProgramsDoNotShow) {
     ASSERT_TRUE(frame->Save(file.Path()));
     EXPECT_EQ(StatusText(), " Saved " + document().Name());
     Widen(0.5); // the file's version has no group for it
@@ -299,7 +299,7 @@ TEST_F(Saving, SaysWhatOtherProgramsWillNotShow) {
                                 "; PenWidth of 1 entity is stored as extended data, which other programs do not show");
 }
 
-TEST_F(Saving, UnsavedChangesAreAskedFor) {
+TEST_F(Saving, PromptsForUnsavedChanges) {
     Widen(0.5);
     const std::string content = file.Read();
     const DrawingFile other(content.c_str());
@@ -319,7 +319,7 @@ TEST_F(Saving, UnsavedChangesAreAskedFor) {
     EXPECT_EQ(other.Read(), content);
 }
 
-TEST_F(Saving, TheButtonsSayWhatBecomesOfTheChanges) {
+TEST_F(Saving, ButtonsOfThePromptNameTheirActions) {
     Widen(0.5);
     user.InDialog([&] { ::SendMessageA(frame->m_hWnd, WM_CLOSE, 0, 0); },
                   [&](HWND box) {
@@ -332,7 +332,7 @@ TEST_F(Saving, TheButtonsSayWhatBecomesOfTheChanges) {
     Save();
 }
 
-TEST_F(Saving, AFileThatChangedMeanwhileIsAskedFor) {
+TEST_F(Saving, PromptsIfTheFileHasChanged) {
     Widen(0.5);
     const std::string foreign = "999\nby another program\n" + file.Read();
     file.Write(foreign);
@@ -348,7 +348,7 @@ TEST_F(Saving, AFileThatChangedMeanwhileIsAskedFor) {
     EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
 }
 
-TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
+TEST_F(Saving, SaveAsChangesTheFileUnlessItFails) {
     Widen(0.5);
     {
         const MessageBoxWatcher boxes;
@@ -366,7 +366,7 @@ TEST_F(Saving, AnotherNameIsTheDrawingsFromThenOnUnlessItCannotBeWritten) {
 }
 
 // The key is already in the queue when the operation checks for it.
-TEST_F(Saving, EscapeCancelsAndLeavesAllAsItWas) {
+TEST_F(Saving, EscapeCancelsWithoutAnyChange) {
     const MessageBoxWatcher boxes;
     const auto pressEscape = [&] { ::PostMessageA(view(), WM_KEYDOWN, VK_ESCAPE, 1); };
     user.Key('A', UserInput::kControl);
@@ -386,7 +386,7 @@ TEST_F(Saving, EscapeCancelsAndLeavesAllAsItWas) {
     EXPECT_TRUE(boxes.Boxes().empty());
 }
 
-TEST_F(Saving, RecentFilesAreOfferedAndForgottenWhenTheyHaveGone) {
+TEST_F(Saving, MissingRecentFilesAreRemoved) {
     std::string gone;
     {
         const DrawingFile other(file.Read().c_str());

@@ -42,7 +42,7 @@ protected:
     void ClickOnGreen() { user.Click(view(), Pixel(10, 35)); }
 };
 
-TEST_F(Pane, OneApplyByKeysIsOneStepOverAllPages) {
+TEST_F(Pane, ApplyByKeysIsOneStepForAllPages) {
     const DrawingState before = Properties();
     EXPECT_EQ(::GetFocus(), view()) << "the drawing keeps the keys";
     user.Key(VK_F6);
@@ -65,7 +65,7 @@ TEST_F(Pane, OneApplyByKeysIsOneStepOverAllPages) {
     EXPECT_EQ(WindowText(control(IDC_INFO)), "") << "the pane shows what undo has made";
 }
 
-TEST_F(Pane, TheNextSelectionAppliesWhatWasTyped) {
+TEST_F(Pane, SelectingAppliesTypedText) {
     ShowPen();
     TypeScale("2.5");
     ClickOnGreen();
@@ -81,7 +81,7 @@ TEST_F(Pane, TheNextSelectionAppliesWhatWasTyped) {
     EXPECT_EQ(ScaleOf(0), 2.5);
 }
 
-TEST_F(Pane, ThePageComesBackWhereThereWasNoSheet) {
+TEST_F(Pane, PageIsRestoredAfterAnEmptySelection) {
     ShowPen();
     user.Key(VK_ESCAPE); // nothing is selected
     user.Wait(0);
@@ -131,7 +131,7 @@ TEST_F(Pane, ResetUndoesToTheLastApply) {
     EXPECT_EQ(document().UndoSteps(), 1);
 }
 
-TEST_F(Pane, ItsEndAppliesAndTheDrawingFindsItsStep) {
+TEST_F(Pane, ClosingAppliesAsAnUndoStep) {
     ShowPen();
     TypeScale("2");
     user.Click(::GetDlgItem(sheet(), kPaneClose));
@@ -148,7 +148,7 @@ TEST_F(Pane, ItsEndAppliesAndTheDrawingFindsItsStep) {
 }
 
 // The modal sheet has its own undo step, whatever was edited in the pane.
-TEST_F(Pane, StandsBackForTheModalSheet) {
+TEST_F(Pane, CommitsItsStepBeforeTheModalSheet) {
     ShowPen();
     TypeScale("2");
     user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
@@ -175,7 +175,7 @@ TEST_F(Pane, StandsBackForTheModalSheet) {
     EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "5");
 }
 
-TEST_F(Pane, GoesWithItsDrawingAndComesBackOverTheNext) {
+TEST_F(Pane, ClosesWithItsDrawingAndReopensForTheNext) {
     user.Key('A', UserInput::kControl);
     ASSERT_TRUE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
     user.Wait(0);
@@ -233,7 +233,7 @@ TEST_F(Pane, ShowsTheValuesThatDiffer) {
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 5") << "the pointer has not moved since";
 }
 
-TEST_F(Pane, ItsPreviewKnowsTheColorOfTheLayer) {
+TEST_F(Pane, PreviewUsesTheColorOfTheLayer) {
     constexpr COLORREF kGreen = RGB(0, 255, 0);
     constexpr int kPreview = 3999;
     const auto layer = orlo::host::ReadProperty<uint16_t>(document().Selectable()[3], kPropLayer);

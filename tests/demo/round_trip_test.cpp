@@ -9,7 +9,7 @@
 
 namespace {
 
-TEST_F(Viewer, RealDrawingsComeBackFromAllPages) {
+TEST_F(Viewer, RealDrawingsAreRestoredAfterEditingAllPages) {
     EXPECT_TRUE(RoundTrip(*frame).Check({TEST_DATA "/dxf/acadsharp-sample-AC1032.dxf",
                                          TEST_DATA "/dxf/ezdxf-insert-nested-mirrored.dxf",
                                          TEST_DATA "/dxf/kabeja-hatch_1.dxf", TEST_DATA "/dxf/bad-empty.dxf"}));
@@ -27,7 +27,7 @@ TEST_F(Viewer, KeysReachOnlyTheWindowThatHadTheFocus) {
     EXPECT_THROW(homeless.Type("x"), std::runtime_error);
 }
 
-TEST_F(Viewer, EveryKindOfDifferenceIsSeen) {
+TEST_F(Viewer, EveryKindOfDifferenceIsDetected) {
     GraphicStruct* line = document().Selectable().front();
     const DrawingState before(document().Drawing());
     EXPECT_TRUE(before.DifferencesTo(DrawingState(document().Drawing()), 9).empty());

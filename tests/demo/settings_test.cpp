@@ -53,7 +53,7 @@ protected:
     }
 };
 
-TEST_F(Remembered, BackgroundWeightsPaneAndPlaceComeBack) {
+TEST_F(Remembered, BackgroundWeightsPaneAndPositionAreRestored) {
     Do(ID_VIEW_LIGHT_BACKGROUND);
     Do(ID_VIEW_LINE_WEIGHTS);
     user.Key(VK_TAB);
@@ -77,7 +77,7 @@ TEST_F(Remembered, BackgroundWeightsPaneAndPlaceComeBack) {
                   });
 }
 
-TEST_F(Remembered, TheSystemsSchemeDecidesUntilTheUserDoes) {
+TEST_F(Remembered, SystemColorModeIsUsedUntilTheUserSelectsOne) {
     EXPECT_EQ(frame->View().Background(), CDrawingView::kDarkBackground);
     constexpr const char* kScheme = R"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)";
     const auto setLight = [&](DWORD light) {
@@ -92,7 +92,7 @@ TEST_F(Remembered, TheSystemsSchemeDecidesUntilTheUserDoes) {
     ::RegDeleteKeyValueA(HKEY_CURRENT_USER, kScheme, "AppsUseLightTheme");
 }
 
-TEST_F(Remembered, ThePaneKeepsASmallestWidthAndScrollsToTheFocus) {
+TEST_F(Remembered, PaneHasAMinimumWidthAndScrollsToTheFocus) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
     const int fitting = Place(pane()).Width();
@@ -133,7 +133,7 @@ TEST_F(Remembered, AFittedDrawingIsFittedAgainUntilItIsMoved) {
     EXPECT_NEAR(frame->View().GetCamera().ToWorld(CPoint(10, 10)).x, corner.x, 1e-6);
 }
 
-TEST_F(Remembered, TheDecimalMarkIsTheSystemsOrTheUsers) {
+TEST_F(Remembered, DecimalMarkIsTheSystemsOrTheUsers) {
     const auto mark = [] {
         char text[4] = "";
         ::TableGetStringVar(::AppGetCurrentApp()->pVariables, kVarDecimalMark, text, sizeof text);
@@ -163,7 +163,7 @@ TEST_F(Remembered, TheDecimalMarkIsTheSystemsOrTheUsers) {
 }
 
 // Shortcuts of the main window work in the pane, except for keys that a field needs.
-TEST_F(Remembered, KeysOfTheWindowWorkFromThePane) {
+TEST_F(Remembered, WindowShortcutsWorkInThePane) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
@@ -199,7 +199,7 @@ LRESULT CALLBACK NoteMenuKey(HWND window, UINT message, WPARAM wParam, LPARAM lP
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
-TEST_F(Remembered, LettersOfTheMenuOpenItFromThePane) {
+TEST_F(Remembered, MenuMnemonicsWorkInThePane) {
     user.Click(view(), Pixel(26, 31)); // the text
     Do(ID_VIEW_PROPERTIES);
     user.Wait(0);
@@ -225,7 +225,7 @@ std::string StatusText(HWND frame, int pane) {
     return text;
 }
 
-TEST_F(Remembered, TheStatusBarSaysWhichTextIsNotALength) {
+TEST_F(Remembered, StatusBarReportsTextThatIsNotALength) {
     user.Key(VK_TAB);
     const auto play = [&](HWND over) {
         ASSERT_TRUE(ClickTab(user, over, 1));
@@ -250,7 +250,7 @@ TEST_F(Remembered, TheStatusBarSaysWhichTextIsNotALength) {
                   });
 }
 
-TEST_F(Remembered, TheStatusBarCutsNoShorterTextForALongerOne) {
+TEST_F(Remembered, StatusBarDoesNotTruncateShortTextsForLongOnes) {
     const HWND bar = ::GetDlgItem(frame->m_hWnd, IDC_STATUS);
     frame->MoveWindow(0, 0, 700, 500);
     user.Key('A', UserInput::kControl);

@@ -58,7 +58,7 @@ void ExpectMnemonicsOfTheirOwn(HWND window) {
     });
 }
 
-TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
+TEST_F(Styles, AreCreatedByTheWizardWithTheKeyboard) {
     user.InDialog([&] { user.Key('N', UserInput::kControl); },
                   [&](HWND wizard) {
                       ExpectMnemonicsOfTheirOwn(wizard);
@@ -83,7 +83,7 @@ TEST_F(Styles, AreMadeByTheWizardFromTheKeyboard) {
     EXPECT_EQ(styles().All().size(), 1u);
 }
 
-TEST_F(Styles, NeedANameOfTheirOwn) {
+TEST_F(Styles, NeedAUniqueName) {
     Make("Walls");
     user.InDialog(
         [&] { user.Key('N', UserInput::kControl); },
@@ -122,7 +122,7 @@ TEST_F(Styles, AreAppliedAsOneStep) {
     EXPECT_EQ(document().UndoSteps(), 1) << "the new style";
 }
 
-TEST_F(Styles, OfTheFileAreEditedAndAppliedToo) {
+TEST_F(Styles, OfTheFileCanBeEditedAndApplied) {
     SelectOnly({10, 5});
     Make("Red");
     ASSERT_TRUE(frame->Save(file.Path()));
@@ -177,7 +177,7 @@ TEST_F(Styles, CancelUndoesWrittenPages) {
     EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u) << "OK kept the other color";
 }
 
-TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {
+TEST_F(Styles, HaveNoPartInASheetForASelection) {
     Make("Red");
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND sheet) {
@@ -186,7 +186,7 @@ TEST_F(Styles, OverASelectionHaveNoPartInTheSheet) {
                   });
 }
 
-TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
+TEST_F(Styles, NewStyleIsShownInTheNextSheet) {
     Make("Red");
     InStyleSheets({[&](HWND sheet) {
                        TypeStyle(sheet, "Blue");
@@ -200,7 +200,7 @@ TEST_F(Styles, NewInTheSheetComesUpInTheNextOne) {
     EXPECT_EQ(styles().All().size(), 2u);
 }
 
-TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
+TEST_F(Styles, StyleSelectedInTheSheetBecomesCurrent) {
     Make("Red");
     Make("Blue");
     InStyleSheets({[&](HWND sheet) {
@@ -216,7 +216,7 @@ TEST_F(Styles, ChosenInTheSheetBecomesCurrent) {
     EXPECT_EQ(current(), "Blue") << "and the sheet stayed closed";
 }
 
-TEST_F(Styles, AreDeletedWhenAskedForAndNotInUse) {
+TEST_F(Styles, AreDeletedOnRequestIfUnused) {
     Make("Red");
     Make("Blue");
     const auto erase = [&](const char* name, int answer) {

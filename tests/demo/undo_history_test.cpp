@@ -77,7 +77,7 @@ TEST_F(History, LayersAreUndoneInTheOrderOfTheChanges) {
     EXPECT_EQ(document().RedoSteps(), 0);
 }
 
-TEST_F(History, AChangeOfLayersEndsWhatCouldBeRedone) {
+TEST_F(History, LayerChangesDiscardStepsToRedo) {
     SetWidth(0.1);
     Undo();
     Lock();
@@ -92,7 +92,7 @@ TEST_F(History, AChangeOfLayersEndsWhatCouldBeRedone) {
     EXPECT_EQ(document().RedoSteps(), 0) << "not the width, which was undone before";
 }
 
-TEST_F(History, StepsThatTheDatabaseHasDroppedTakeOlderOnesWithThem) {
+TEST_F(History, StepsDroppedByTheDatabaseRemoveOlderOnes) {
     Lock();
     SetWidth(0.1);
     ::DrawingSetUndoLimit(document().Drawing(), 1);
@@ -104,7 +104,7 @@ TEST_F(History, StepsThatTheDatabaseHasDroppedTakeOlderOnesWithThem) {
     EXPECT_TRUE(IsLocked());
 }
 
-TEST_F(History, StylesComeBackWithTheGraphicsThatUseThem) {
+TEST_F(History, UndoRestoresStylesWithTheirGraphics) {
     MakeStyle("Walls");
     user.Key('A', UserInput::kControl);
     user.Key('E', UserInput::kControl);
@@ -121,7 +121,7 @@ TEST_F(History, StylesComeBackWithTheGraphicsThatUseThem) {
     }
 }
 
-TEST_F(History, AnEditOfAStyleIsOneStepAndACanceledOneIsNone) {
+TEST_F(History, StyleEditIsOneStepUnlessCanceled) {
     MakeStyle("Walls");
     const auto edit = [&](const char* text, UINT end) {
         user.InDialog([&] { user.Key(VK_RETURN, UserInput::kControl); },

@@ -33,7 +33,7 @@ TEST_P(SelectByWindow, Selects) {
 INSTANTIATE_TEST_SUITE_P(Drawn, SelectByWindow, ::testing::ValuesIn(kWindows),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(Viewer, ClicksSelectAddAndTakeAway) {
+TEST_F(Viewer, ClicksSelectAddAndRemove) {
     const CPoint red = Pixel(10, 5), green = Pixel(10, 35), nothing = Pixel(20, 20);
     user.Click(view(), red);
     EXPECT_EQ(selection().Count(), 1);
@@ -59,7 +59,7 @@ TEST_F(Viewer, WindowWithControlTogglesItsContents) {
     EXPECT_TRUE(selection().Contains(document().Selectable()[1]));
 }
 
-TEST_F(Viewer, TabWalksRoundBothWays) {
+TEST_F(Viewer, TabCyclesInBothDirections) {
     const std::vector<GraphicStruct*> all = document().Selectable();
     ASSERT_EQ(all.size(), 4u);
     for (const size_t place : {0, 1, 2, 3, 0}) {
@@ -72,7 +72,7 @@ TEST_F(Viewer, TabWalksRoundBothWays) {
     EXPECT_EQ(selection().Count(), 0);
 }
 
-TEST_F(Viewer, TabBringsWhatItSelectsIntoSight) {
+TEST_F(Viewer, TabScrollsTheSelectionIntoView) {
     user.Wheel(view(), Pixel(35, 40), 8);
     user.Key(VK_TAB); // the red line, far outside the view
     EXPECT_TRUE(frame->View().GetCamera().Visible().Contains(WorldBox{9, 4, 11, 6}));
@@ -96,7 +96,7 @@ TEST_F(Viewer, RubberBandLeavesNoTraces) {
     EXPECT_EQ(before, Seen());
 }
 
-TEST_F(Viewer, PaperAndLineWeightsAreAMatterOfChoice) {
+TEST_F(Viewer, BackgroundAndLineWeightsCanBeSelected) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], 0.5); });
     const auto choose = [&](UINT command) {
         ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0);
@@ -113,7 +113,7 @@ TEST_F(Viewer, PaperAndLineWeightsAreAMatterOfChoice) {
     EXPECT_NE(dark.front(), light.front());
 }
 
-TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
+TEST_F(Viewer, MovedPictureEqualsARedrawnOne) {
     user.Key('A', UserInput::kControl);
     user.Wheel(view(), Pixel(20, 20), 3);
     for (const UINT key : {VK_LEFT, VK_UP, VK_UP, VK_RIGHT, VK_RIGHT, VK_DOWN}) {
@@ -126,7 +126,7 @@ TEST_F(Viewer, MovedPictureIsTheSameAsADrawnOne) {
 }
 
 // Too much to draw for each frame: the picture is moved, and redrawn when the movement ends.
-TEST_F(Viewer, ALargeDrawingIsExactAtRest) {
+TEST_F(Viewer, LargeDrawingIsExactAtRest) {
     constexpr int kSide = 400;
     std::string lines = "0\nSECTION\n2\nENTITIES\n";
     for (int i = 0; i < kSide * kSide; ++i) {

@@ -34,7 +34,7 @@ TEST(Graphics, OfAStyleTreeHaveCopiesInTheSameTree) {
     EXPECT_TRUE(balance.IsEven());
 }
 
-TEST(Graphics, AreMadeByType) {
+TEST(Graphics, AreCreatedByType) {
     Balance balance;
     for (const int type : {2, 6, 0x0B, 0x11}) {
         GraphicStruct* graphic = GraphicNewEx(type, 0, 1);
@@ -75,13 +75,13 @@ TEST(Graphics, OwnTheirParts) {
     EXPECT_TRUE(balance.IsEven());
 }
 
-TEST(Graphics, OfAPolylineWithPartsAreNoGroup) {
+TEST(Graphics, PolylineWithPartsIsNotAGroup) {
     const Loose shape(MakeSquare(0, 0, 1));
     GraphicAdd(shape, MakeSquare(1, 1, 1));
     EXPECT_FALSE(GraphicGetIsGroup(shape));
 }
 
-TEST(Graphics, AreWalkedByKind) {
+TEST(Graphics, AreIteratedByKind) {
     OwnDrawing drawing;
     GraphicStruct* line = drawing.Add(MakeLines({{0, 0}, {1, 1}}));
     GraphicStruct* circle = drawing.Add(GraphicNewEx(kGraphicPenBrush, 0, 1));
@@ -102,7 +102,7 @@ TEST(Graphics, AreWalkedByKind) {
     EXPECT_EQ(GraphicFirst(nullptr, &root, 1, 0), nullptr);
 }
 
-TEST(Graphics, TakeCopiesOfVerticesWithTheirFlags) {
+TEST(Graphics, CopyVerticesWithTheirFlags) {
     VertexStruct* vertex = VertexNewFromEx(nullptr);
     EXPECT_EQ(vertex->wFlags & 1, 1) << "a new one is drawn";
     VertexSet(vertex, 3, 4, 5);
@@ -119,7 +119,7 @@ TEST(Graphics, TakeCopiesOfVerticesWithTheirFlags) {
     EXPECT_EQ(vertex, nullptr);
 }
 
-TEST(Vertices, AreWalkedInOrderAndCanBeMoved) {
+TEST(Vertices, AreIteratedInOrderAndCanBeMoved) {
     GraphicStruct* square = MakeSquare(10, 0, 5);
     int cookie = 77, count = 0;
     for (VertexStruct* v = GraphicVertexFirst(square, &cookie, 0, 0xFFFF); v;
@@ -151,7 +151,7 @@ TEST(Extents, FollowTheGraphicAndItsParts) {
     EXPECT_NEAR(BoxOf(circle).right, 1, 1e-12);
 }
 
-TEST(Selections, BorrowTheirMembers) {
+TEST(Selections, DoNotOwnTheirMembers) {
     Balance balance;
     OwnDrawing drawing;
     std::vector<GraphicStruct*> lines;
@@ -207,7 +207,7 @@ TEST(Selections, AreCopiedAsAGroupOfCopies) {
     EXPECT_TRUE(balance.IsEven());
 }
 
-TEST(RegenMethods, AreTheHostPrograms) {
+TEST(RegenMethods, CallTheHostProgram) {
     struct Calls {
         std::vector<GraphicStruct*> rebuilt;
         void* sheet = nullptr;
@@ -234,7 +234,7 @@ TEST(RegenMethods, AreTheHostPrograms) {
     EXPECT_EQ(methods, nullptr);
 }
 
-TEST(Strings, AreTheHostsTexts) {
+TEST(Strings, AreThoseOfTheHost) {
     char text[64];
     for (const unsigned int id : {0x704Au, 0x704Bu, 0x704Cu, 0x704Du, 0x704Eu, 0x704Fu, 0x7050u, 0x7051u, 0x7052u,
                                   0x7053u, 0x7054u, 0x7058u, 0x7059u, 0x705Au, 0x705Cu})
@@ -247,7 +247,7 @@ TEST(Strings, AreTheHostsTexts) {
 }
 
 // A half circle to the right of its chord, and a segment of growing width: the data after a vertex is copied with it.
-TEST(Copies, HaveTheArcsAndWidthsOfTheOriginal) {
+TEST(Copies, KeepArcsAndWidths) {
     const std::filesystem::path path = std::filesystem::temp_directory_path() / "orlo_copies.dxf";
     std::ofstream(path) << "0\nSECTION\n2\nENTITIES\n0\nLWPOLYLINE\n8\n0\n90\n3\n70\n0\n"
                            "10\n20\n20\n20\n42\n1\n10\n20\n20\n60\n40\n0\n41\n20\n10\n80\n20\n60\n"

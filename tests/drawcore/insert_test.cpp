@@ -34,7 +34,7 @@ protected:
     Picture picture{drawing};
 };
 
-TEST_F(Inserts, ScaleTurnAndMirror) {
+TEST_F(Inserts, ScaleRotateAndMirror) {
     const uint16_t flag = FlagBlock("FLAG");
     drawing.Add(Insert(flag, 10, 10, 20, 20));             // small square at the lower right
     drawing.Add(Insert(flag, 90, 10, -20, 20));            // mirrored: to the left
@@ -53,7 +53,7 @@ TEST_F(Inserts, ScaleTurnAndMirror) {
     EXPECT_NEAR(BoxOf(drawing.Root()).right, 90, 1e-6);
 }
 
-TEST_F(Inserts, GiveTheirColorStyleAndLayerToWhatLeavesThemOpen) {
+TEST_F(Inserts, PassColorStyleAndLayerToPartsByBlock) {
     const uint16_t green = TableEntryAdd(drawing.Table(kTableLayers), "Green", nullptr);
     LayerSet(drawing, green, kGreen, 0, 0);
     const uint16_t byBlock = FlagBlock("BYBLOCK", kColorByBlock), byLayer = FlagBlock("BYLAYER", kColorByLayer);
@@ -94,7 +94,7 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
     EXPECT_EQ(picture.Covered(), 0) << "frozen hides it all";
 }
 
-TEST_F(Inserts, OfABlockThatIsGoneShowNothing) {
+TEST_F(Inserts, OfADeletedBlockShowNothing) {
     const uint16_t flag = FlagBlock("FLAG");
     TableStruct* blocks = drawing.Table(kTableBlocks);
     drawing.Add(Insert(flag, 10, 10, 20, 20));
@@ -128,7 +128,7 @@ TEST_F(Inserts, FollowTheirBlock) {
 }
 
 // Members that are in drawing coordinates, such as attributes, and the elements of an array.
-TEST_F(Inserts, TakeTheirMembersAlong) {
+TEST_F(Inserts, MoveTheirMembers) {
     for (const double flat : {1.0, 0.0}) {
         const Loose insert(Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20));
         GraphicAdd(insert, MakeSquare(20, 30, 4));
@@ -151,7 +151,7 @@ TEST_F(Inserts, TakeTheirMembersAlong) {
     }
 }
 
-TEST_F(Inserts, OfThemselvesEnd) {
+TEST_F(Inserts, RecursionEnds) {
     GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicAdd(content, MakeSquare(0, 0, 1));
     const uint16_t self = BlocksAddBlock(drawing.Table(kTableBlocks), "SELF", content);
@@ -162,7 +162,7 @@ TEST_F(Inserts, OfThemselvesEnd) {
 }
 
 // Thirty levels of two insertions each: a billion squares.
-TEST_F(Inserts, ThatMultiplyAreLimited) {
+TEST_F(Inserts, NestedMultiplicationIsLimited) {
     uint16_t block = FlagBlock("LEVEL");
     for (int level = 0; level < 30; ++level) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
@@ -176,7 +176,7 @@ TEST_F(Inserts, ThatMultiplyAreLimited) {
     EXPECT_NEAR(BoxOf(bomb).right, 40, 1e-9);
 }
 
-TEST_F(Inserts, InsideEachOtherBeyondAllDepthShowNothingThere) {
+TEST_F(Inserts, NestingTooDeepShowsNothing) {
     uint16_t block = FlagBlock("BOTTOM");
     for (int level = 0; level < 20000; ++level) {
         GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
@@ -188,7 +188,7 @@ TEST_F(Inserts, InsideEachOtherBeyondAllDepthShowNothingThere) {
     EXPECT_EQ(picture.Covered(), 0);
 }
 
-TEST(Matrices, TurnTheAxesIntoEachOther) {
+TEST(Matrices, RotateTheAxesIntoEachOther) {
     const double quarter = 1.5707963267948966;
     const struct {
         MatrixStruct* (*make)(const MatrixStruct*, double, int);

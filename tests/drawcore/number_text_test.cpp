@@ -116,7 +116,7 @@ TEST(PlainNumber, IsWrittenWithSignificantDigits) {
     }
 }
 
-TEST(PlainNumber, StaysInTheBufferForAnyValue) {
+TEST(PlainNumber, NeverExceedsTheBuffer) {
     std::mt19937_64 random(1);
     for (int i = 0; i < 20000; ++i) {
         const uint64_t bits = random();

@@ -27,7 +27,7 @@ protected:
     Picture picture{drawing};
 };
 
-TEST_F(Paint, AThinLineCoversItsPixelsBothEndsIncluded) {
+TEST_F(Paint, ThinLineCoversItsPixelsIncludingBothEnds) {
     Line(10, 20, 30, 20);
     Line(50, 10, 50, 40);
     Draw();
@@ -56,7 +56,7 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     EXPECT_EQ(picture.Covered(50, 60, 50, 100), 6);
 }
 
-TEST_F(Paint, AWideOutlineIsClosedWhereItBegins) {
+TEST_F(Paint, WideOutlineIsClosed) {
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 60));
     SetInteger(square, kPropScaleSystem, 0);
     SetReal(square, kPropPenWidth, 10);
@@ -103,7 +103,7 @@ TEST_F(Paint, ColorsComeFromGraphicLayerAndBackground) {
     EXPECT_EQ(RGB(GetGValue(blue), GetGValue(blue), 255), blue);
 }
 
-TEST_F(Paint, ColorsThatLightPaperSwallowsAreDarker) {
+TEST_F(Paint, LightColorsAreDarkenedOnALightBackground) {
     constexpr COLORREF kYellow = RGB(255, 255, 0), kCyan = RGB(0, 255, 255);
     GraphicStruct* sample = Line(10, 10, 90, 10);
     SetInteger(sample, kPropPenColor, kYellow);
@@ -126,7 +126,7 @@ TEST_F(Paint, ColorsThatLightPaperSwallowsAreDarker) {
     }
 }
 
-TEST_F(Paint, LayersHide) {
+TEST_F(Paint, HiddenLayersAreNotDrawn) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);
         LayerSet(drawing, layer, kBlue, flag, 0);
@@ -193,7 +193,7 @@ TEST_F(Dashes, AreFittedSoThatBothEndsAreDrawn) {
         EXPECT_NEAR(runs[i], i % 2 ? 4 : 8, 1) << i;
 }
 
-TEST_F(Dashes, ShowDotsAndLeaveShortAndFinePatternsOut) {
+TEST_F(Dashes, ShowDotsAndOmitShortAndFinePatterns) {
     GraphicStruct* dots = Line(10, 80, 90, 80);
     SetInteger(dots, kPropPenStyle, Style({0, -5}));
     GraphicStruct* shorter = Line(10, 50, 20, 50);
@@ -221,7 +221,7 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
     EXPECT_EQ(picture.Covered(0, 75, 100, 85), 81);
 }
 
-TEST_F(Dashes, CostNothingFarOutsideOfTheView) {
+TEST_F(Dashes, AreNotComputedFarOutsideTheView) {
     GraphicStruct* line = Line(-1e9, 50, 1e9, 50);
     SetInteger(line, kPropPenStyle, Style({5, -5}));
     SetInteger(line, kPropPenAlignment, 0);
@@ -308,7 +308,7 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
     EXPECT_EQ(blue, 4);
 }
 
-TEST_F(Paint, ALineOfManyPiecesIsAsGoodAsOneOfFew) {
+TEST_F(Paint, LineOfManyPiecesEqualsOneOfFew) {
     const Loose circle(GraphicNewEx(kGraphicPenBrush, 0, 1)); // unit circle
     picture.Draw(circle);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), kFitWhole);
@@ -346,7 +346,7 @@ TEST_F(Paint, SurvivesDistantCoordinates) {
 }
 
 // At this size, a unit of the font is larger than a pixel.
-TEST_F(Paint, ALargeLetterIsMovedByTheSamePixelsAsItsPlace) {
+TEST_F(Paint, LargeLettersMoveWithTheirPosition) {
     const auto leftEdge = [&](double x) {
         GraphicStruct* text = drawing.Add(MakeText("l", {x, -300}, 900));
         Draw();
@@ -363,7 +363,7 @@ TEST_F(Paint, ALargeLetterIsMovedByTheSamePixelsAsItsPlace) {
     EXPECT_LT(leftEdge(-60), 60) << "it is in the picture";
 }
 
-TEST_F(Paint, LeavesTheDeviceContextAsItWas) {
+TEST_F(Paint, PreservesTheDeviceContext) {
     SetInteger(Line(0, 0, 100, 100), kPropPenStyle,
                LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", std::vector<double>{5, -5}.data(), 2));
     GraphicStruct* square = drawing.Add(MakeSquare(20, 20, 40));
@@ -401,7 +401,7 @@ TEST_F(Paint, StaysInTheRectangle) {
     EXPECT_EQ(picture.Covered(), picture.Bits().Count(half, kRed));
 }
 
-TEST_F(Paint, ExtentsAreFittedCentredWithTheirShape) {
+TEST_F(Paint, ExtentsAreFittedCenteredWithTheirAspectRatio) {
     const RECT wide = {0, 0, 101, 51};
     ViewportSetRect(picture.Viewport(), &wide);
     const Loose square(MakeSquare(1000, 1000, 2));

@@ -89,7 +89,7 @@ TEST_F(Pick, FindsTextsByTheirBoxAndInsertionsAsAWhole) {
     EXPECT_EQ(At(40, 40), nullptr);
 }
 
-TEST_F(Pick, PassesOverHiddenAndLockedLayers) {
+TEST_F(Pick, SkipsHiddenAndLockedLayers) {
     for (const uint32_t flag : {kLayerOff, kLayerFrozen, kLayerLocked}) {
         GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
         const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), std::to_string(flag).c_str(), nullptr);

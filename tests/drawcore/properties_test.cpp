@@ -49,7 +49,7 @@ protected:
     const PropertyTable* table;
 };
 
-TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
+TEST_P(OfKind, HasOnlyItsProperties) {
     std::set<std::string> all = kShape;
     all.insert(kText.begin(), kText.end());
     for (const std::string& name : all) {
@@ -71,7 +71,7 @@ TEST_P(OfKind, HasItsPropertiesAndNoOthers) {
 }
 
 // Types of a value: each integer property as each integer type, reals as float and double, texts as text.
-TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
+TEST_P(OfKind, ConvertsEachValueBetweenVariantTypes) {
     const std::set<std::string> reals = {kPropBrushAngle, kPropBrushScale, kPropPenScale, kPropPenWidth, kPropTextSize};
     const std::set<std::string> texts = {kPropInfo, kPropTextFont};
     for (const std::string& name : GetParam().properties) {
@@ -116,7 +116,7 @@ TEST_P(OfKind, GivesAndTakesEachValueInTheFormsOfItsType) {
     }
 }
 
-TEST_P(OfKind, MarksItselfChanged) {
+TEST_P(OfKind, SetsItsDirtyFlag) {
     GraphicSetDirty(graphic, 0);
     EXPECT_FALSE(SetInteger(graphic, kPropPenColor, 0x12345678));
     EXPECT_FALSE(GraphicIsDirty(graphic));
@@ -167,7 +167,7 @@ TEST_F(ShapeProperties, RejectValuesOutOfRange) {
     }
 }
 
-TEST_F(ShapeProperties, KeepToTheLayersOfTheirDrawing) {
+TEST_F(ShapeProperties, AcceptOnlyLayersOfTheirDrawing) {
     OwnDrawing drawing;
     GraphicAttach(graphic, drawing);
     EXPECT_FALSE(SetInteger(graphic, kPropLayer, 2));
@@ -176,7 +176,7 @@ TEST_F(ShapeProperties, KeepToTheLayersOfTheirDrawing) {
     GraphicAttach(graphic, nullptr);
 }
 
-TEST_F(ShapeProperties, GiveWholeNumbersOnlyWhereTheyFit) {
+TEST_F(ShapeProperties, ConvertIntegersOnlyIfTheyFit) {
     SetInteger(graphic, kPropPenColor, 0xFFFFFFFD);
     int32_t number;
     const char* name = kPropPenColor;
@@ -218,7 +218,7 @@ TEST_F(ShapeProperties, FreeTheTextThatAVariableContained) {
 }
 
 // A host program's own property table, with one function that throws.
-TEST_F(ShapeProperties, CanBeReplacedByTheHostPrograms) {
+TEST_F(ShapeProperties, CanBeReplacedByTheHostProgram) {
     static const PropertyTable kTable = {
         nullptr, [](GraphicStruct*, const char* const*, int, int, int32_t* number) { return *number = 5; },
         [](GraphicStruct*, int32_t, int, void* value) { return *static_cast<int32_t*>(value) = 77; },

@@ -170,7 +170,7 @@ TEST_F(Places, ResultsEqualASearchAfterAChangeOfAll) {
     ExpectTheSame();
 }
 
-TEST_F(Places, ADrawingInTurnsIsTheSameAsOneInOneGo) {
+TEST_F(Places, DrawingInTimeSlicesEqualsDrawingAtOnce) {
     for (GraphicStruct* graphic : all)
         if (Number(4) == 0) Widen(graphic);
     for (const double factor : {1.0, 1.5, 0.1}) {

@@ -33,7 +33,7 @@ protected:
     TableStruct* table = DrawingAddTable(drawing, "Things");
 };
 
-TEST_F(Tables, KeepEntriesInOrderUnderIdentifiersThatAreNotGivenAgain) {
+TEST_F(Tables, KeepEntriesInOrderAndDoNotReuseIdentifiers) {
     int data[3];
     const uint16_t a = TableEntryAdd(table, "a", &data[0]), b = TableEntryAdd(table, "b", &data[1]);
     EXPECT_EQ(TableEntryGetData(table, b), &data[1]);
@@ -47,7 +47,7 @@ TEST_F(Tables, KeepEntriesInOrderUnderIdentifiersThatAreNotGivenAgain) {
     EXPECT_EQ(TableGetOwner(table), static_cast<DrawingStruct*>(drawing));
 }
 
-TEST_F(Tables, FindNamesWithoutRegardToCaseAndKeepTheSpelling) {
+TEST_F(Tables, FindNamesIgnoringCaseAndKeepTheSpelling) {
     const uint16_t id = TableEntryAdd(table, "W\xE4nde AUSSEN", nullptr);
     EXPECT_EQ(TableEntryGetIDFirst(table, nullptr, "w\xE4nde aussen"), id);
     EXPECT_EQ(TableEntryGetIDFirst(table, nullptr, "W\xC4nde aussen"), 0) << "only A to Z are folded";
@@ -61,7 +61,7 @@ TEST_F(Tables, FindNamesWithoutRegardToCaseAndKeepTheSpelling) {
     EXPECT_EQ(TableEntryGetIDFirst(table, nullptr, "W\xE4nde AUSSEN"), 0);
 }
 
-TEST_F(Tables, CopyNamesCutToTheBuffer) {
+TEST_F(Tables, TruncateNamesToTheBuffer) {
     const uint16_t id = TableEntryAdd(table, "abcdef", nullptr);
     char buffer[] = "........";
     EXPECT_TRUE(TableEntryGetName(table, id, buffer, 4));
@@ -71,7 +71,7 @@ TEST_F(Tables, CopyNamesCutToTheBuffer) {
     EXPECT_FALSE(TableEntryGetName(table, id, nullptr, 8));
 }
 
-TEST_F(Tables, TakeMoreEntriesThanIdentifiersOnlyAfterRemovals) {
+TEST_F(Tables, ReuseIdentifiersOnlyWhenTheyRunOut) {
     for (int i = 0; i < 0xFFF0; ++i)
         ASSERT_NE(TableEntryAdd(table, std::to_string(i).c_str(), nullptr), 0) << i;
     EXPECT_EQ(TableEntryAdd(table, "one more", nullptr), 0) << "what is above are markers";
@@ -101,7 +101,7 @@ TEST_F(Tables, KeepTypedVariables) {
     EXPECT_FALSE(TableGetStringVar(table, 3, text, sizeof text)) << "replaced";
 }
 
-TEST_F(Tables, TakeDataOfTheirKind) {
+TEST_F(Tables, AcceptDataOfTheirKind) {
     const COLORREF teal = RGB(0, 128, 128);
     TableStruct* colors = drawing.Table(kTableColors);
     const uint16_t id = TableEntryAdd(colors, "Teal", const_cast<COLORREF*>(&teal));
@@ -124,7 +124,7 @@ TEST_F(Tables, TakeDataOfTheirKind) {
     EXPECT_TRUE(balance.IsEven());
 }
 
-TEST_F(Tables, HoldTheNumberedColorsByName) {
+TEST_F(Tables, ContainTheNumberedColors) {
     TableStruct* colors = drawing.Table(kTableColors);
     const struct {
         const char* name;
@@ -141,7 +141,7 @@ TEST_F(Tables, HoldTheNumberedColorsByName) {
     EXPECT_EQ(Walk(colors).size(), 255u);
 }
 
-TEST_F(Tables, GiveAtMostEightItemsOfAPattern) {
+TEST_F(Tables, ReturnAtMostEightItemsOfAPattern) {
     TableStruct* styles = drawing.Table(kTableLineStyles);
     const double items[] = {1, -2, 3, -4, 5, -6, 7, -8, 9, -10};
     const uint16_t id = LineStyleAdd(styles, "Long", "", items, 10);
@@ -157,7 +157,7 @@ TEST_F(Tables, GiveAtMostEightItemsOfAPattern) {
     EXPECT_EQ(LineStyleAdd(styles, "Bad", "", bad, 2), 0);
 }
 
-TEST_F(Tables, HoldLayers) {
+TEST_F(Tables, StoreLayers) {
     const uint16_t id = TableEntryAdd(drawing.Table(kTableLayers), "Walls", nullptr);
     EXPECT_TRUE(LayerSet(drawing, id, RGB(9, 8, 7), kLayerLocked, 1));
     EXPECT_EQ(LayerGetColor(drawing, id), static_cast<COLORREF>(RGB(9, 8, 7)));
@@ -173,7 +173,7 @@ TEST_F(Tables, HoldLayers) {
     EXPECT_FALSE(LayerGetVisible(drawing, 999));
 }
 
-TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
+TEST_F(Tables, BrushStylesReturnTheirKindAndLines) {
     TableStruct* styles = drawing.Table(kTableBrushStyles);
     const auto id = [&](const char* name) { return TableEntryGetIDFirst(styles, nullptr, name); };
     EXPECT_EQ(BrushStyleGetFlags(styles, id("Solid")), kBrushVector);
@@ -210,7 +210,7 @@ TEST_F(Tables, BrushStylesTellTheirKindAndTheirLines) {
 }
 
 // All functions are safe with a table or drawing that no longer exists.
-TEST_F(Tables, AnswerLikeEmptyOnesWhenGone) {
+TEST_F(Tables, BehaveLikeEmptyOnesAfterDeletion) {
     TableStruct* styles = drawing.Table(kTableLineStyles);
     TableStruct* units = drawing.Table(kTableUnits);
     DrawingStruct* gone = drawing;

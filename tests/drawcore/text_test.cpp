@@ -51,7 +51,7 @@ TEST_F(Texts, GrowWithTheirSizeAndStretchToTheirWidth) {
     EXPECT_FALSE(SetReal(text, kPropTextSize, 0));
 }
 
-TEST_F(Texts, AreDrawnAsLongAsTheyMeasure) {
+TEST_F(Texts, AreDrawnWithTheirMeasuredLength) {
     // With many narrow letters, rounding each to whole pixels would change some lengths by half.
     const char* const kString = "HHHHHHHHHHHHHHHHHHHHHHHHHHHHHH";
     for (const double width : {40.0, 55.0, 70.0, 90.0}) {
@@ -88,7 +88,7 @@ int CALLBACK Found(const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM) {
 }
 
 // A face that the Text page can select: an installed one rather than a substituted name.
-TEST_F(Texts, TellTheFaceThatTheyAreDrawnIn) {
+TEST_F(Texts, ReturnTheFaceThatTheyAreDrawnIn) {
     GraphicStruct* text = drawing.Add(GraphicNewEx(kGraphicText, 0, 1));
     char current[64] = "";
     EXPECT_TRUE(TableGetStringVar(drawing.Table(kTableUnits), kUnitFontName, current, sizeof current));
@@ -119,7 +119,7 @@ TEST_F(Texts, ShowTheirEffects) {
     EXPECT_NE(covered(1), upright) << "italic";
 }
 
-TEST_F(Texts, TurnAndKeepInsideTheirExtents) {
+TEST_F(Texts, RotateWithinTheirExtents) {
     for (int step = 0; step < 8; ++step) {
         GraphicStruct* text = Text("Turn", 50, 50, 10, step * 0.7853981634);
         Draw();
@@ -148,7 +148,7 @@ TEST_F(Texts, AreMirroredWithTheirInsertion) {
     }
 }
 
-TEST_F(Texts, BreakIntoLines) {
+TEST_F(Texts, AreDividedIntoLines) {
     GraphicStruct* text = Text("H\nH\nH", 50, 80, 10);
     Draw();
     EXPECT_GT(picture.Covered(40, 80, 60, 90), 0);

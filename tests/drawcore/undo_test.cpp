@@ -93,7 +93,7 @@ TEST_F(Undo, RevertsMovedVerticesAndIgnoresThoseOnlyRead) {
     EXPECT_EQ(right(0), 1);
 }
 
-TEST_F(Undo, GoesBackStepByStep) {
+TEST_F(Undo, RevertsStepByStep) {
     for (const double width : {2.0, 3.0, 4.0}) {
         DrawingBeginUndo(drawing);
         SetReal(lines[0], kPropPenWidth, width);
@@ -172,7 +172,7 @@ TEST_F(Undo, CancelRevertsOnlyTheOpenStep) {
     EXPECT_EQ(DrawingCancelUndo(drawing), 0) << "none is open";
 }
 
-TEST_F(Undo, LetsTheOldestStepsGoForWantOfRoomAndSaysSo) {
+TEST_F(Undo, DropsAndCountsTheOldestStepsAtTheMemoryLimit) {
     const auto step = [&](double width) {
         DrawingBeginUndo(drawing);
         for (GraphicStruct* line : lines)
@@ -206,7 +206,7 @@ size_t HeapBytes() {
 }
 
 // A million graphics with ten edits must need at most a few hundred megabytes.
-TEST_F(Undo, KeepsOnlyWhatHasChanged) {
+TEST_F(Undo, StoresOnlyWhatHasChanged) {
     constexpr int kGraphics = 10000, kSteps = 10;
     for (int i = 0; i < kGraphics; ++i)
         lines.push_back(drawing.Add(MakeSquare(i, 0, 1)));
@@ -266,7 +266,7 @@ TEST_F(Undo, RevertsAllAttributesOfAText) {
     EXPECT_EQ(GetWhole(text, kPropTextStyle) + GetWhole(text, kPropTextFormat), 0u);
 }
 
-TEST_F(Undo, KeepsNoStepInWhichNothingBecameDifferent) {
+TEST_F(Undo, DiscardsStepsWithoutChanges) {
     DrawingBeginUndo(drawing);
     SetReal(lines[0], kPropPenWidth, 5);
     SetReal(lines[0], kPropPenWidth, 1);
@@ -275,7 +275,7 @@ TEST_F(Undo, KeepsNoStepInWhichNothingBecameDifferent) {
     EXPECT_EQ(DrawingCountUndo(drawing), 0);
 }
 
-TEST_F(Undo, LeavesOutPreviewsAndOutlivesGraphicsThatGo) {
+TEST_F(Undo, IgnoresPreviewsAndHandlesDeletedGraphics) {
     DrawingBeginUndo(drawing);
     GraphicStruct* preview = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicAttach(preview, drawing);

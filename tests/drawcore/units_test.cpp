@@ -88,7 +88,7 @@ protected:
     TableStruct* units = drawing.Table(kTableUnits);
 };
 
-TEST_F(Lengths, AreReadWithAllTheirUnits) {
+TEST_F(Lengths, AreParsedWithAllUnits) {
     for (const LengthRow& row : kLengths) {
         double value = 999;
         EXPECT_TRUE(DrawingStdTextToNumeric(drawing, row.text, &value, 0)) << row.text;
@@ -174,7 +174,7 @@ const FormRow kForms[] = {{1, 4, 18.5, "1.85e+01"},
                           {5, 3, 0.01, "0.01"},
                           {5, 4, 144, "144"}};
 
-TEST_F(Lengths, AreWrittenInTheFormOfTheDrawing) {
+TEST_F(Lengths, AreWrittenInTheFormatOfTheDrawing) {
     for (const FormRow& row : kForms) {
         TableSetIntVar(units, kUnitLinearSystem, row.system);
         TableSetIntVar(units, kUnitLinearDigits, row.digits);
@@ -200,7 +200,7 @@ TEST_F(Lengths, AreWrittenInTheFormOfTheDrawing) {
     }
 }
 
-TEST_F(Lengths, OfEveryFormComeBackFromTheirText) {
+TEST_F(Lengths, InEveryFormatAreParsedBack) {
     std::mt19937_64 random(11);
     std::uniform_real_distribution<double> exponent(-8, 12), mantissa(-10, 10);
     for (int i = 0; i < 20000; ++i) {
@@ -245,7 +245,7 @@ TEST_F(Lengths, ReadAndWriteTheDecimalMarkOfTheApplication) {
 }
 
 // A formatted value is parsed back within the digits shown, and then formatted the same.
-TEST_F(Lengths, ComeBackFromTheirText) {
+TEST_F(Lengths, AreParsedBack) {
     std::mt19937_64 random(7);
     std::uniform_real_distribution<double> exponent(-12, 18), mantissa(-10, 10);
     const char* const kUnitNames[] = {"mm", "cm", "m", "in", "ft", "mil", "pt"};
@@ -263,7 +263,7 @@ TEST_F(Lengths, ComeBackFromTheirText) {
     }
 }
 
-TEST_F(Lengths, OnPaperAreMillimetersWithTextInAnyUnit) {
+TEST_F(Lengths, OnPaperAreMillimetersAndTextInAnyUnit) {
     TableSetStringVar(units, kUnitPenWidth, "in");
     double value = 0;
     EXPECT_TRUE(UnitsTextToNumericEx(units, kUnitPenWidth, 0, "0.01", &value));
@@ -361,7 +361,7 @@ const char* const kNoAngles[] = {"",        " ",      "-",       "d",        "'"
 
 class Angles : public Lengths {};
 
-TEST_F(Angles, AreReadWithAllTheirUnits) {
+TEST_F(Angles, AreParsedWithAllUnits) {
     for (const AngleRow& row : kAngles) {
         double value = 999;
         EXPECT_TRUE(DrawingStdTextToAngle(drawing, row.text, &value, 0)) << row.text;
@@ -388,7 +388,7 @@ TEST_F(Angles, AreRejectedIfAnyPartIsInvalid) {
     }
 }
 
-TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
+TEST_F(Angles, AreWrittenInTheFormatOfTheDrawing) {
     const struct {
         int system, digits;
         double degrees;
@@ -443,7 +443,7 @@ TEST_F(Angles, AreWrittenInTheFormOfTheDrawing) {
     EXPECT_STREQ(text, "kept");
 }
 
-TEST_F(Angles, ComeBackFromTheirText) {
+TEST_F(Angles, AreParsedBack) {
     std::mt19937_64 random(5);
     std::uniform_real_distribution<double> exponent(-10, 4), mantissa(-10, 10);
     for (int i = 0; i < 20000; ++i) {
@@ -476,7 +476,7 @@ TEST_F(Lengths, OfAUnitAndTheScaleOfADrawing) {
     EXPECT_STREQ(text, "1/4\" = 1'");
 }
 
-TEST_F(Lengths, MakeScales) {
+TEST_F(Lengths, FormScales) {
     const struct {
         const char* text;
         double scale;

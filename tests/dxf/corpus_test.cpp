@@ -55,7 +55,7 @@ void ExpectExtents(const drawcore::Extents& box, const json& expected, bool exac
 
 class Manifest : public testing::TestWithParam<Drawing> {};
 
-TEST_P(Manifest, IsMet) {
+TEST_P(Manifest, MatchesTheReader) {
     const json& expected = GetParam().expected;
     const std::string bytes = ReadBytes(kDrawings + expected["file"].get<std::string>());
     ASSERT_EQ(bytes.size(), expected["size"]);

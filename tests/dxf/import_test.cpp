@@ -108,7 +108,7 @@ std::string Drawing2007(const std::string& entities, const std::string& blocks =
            Drawing(entities, blocks);
 }
 
-TEST(Import, OpensWhatTheReaderReadsOrNothing) {
+TEST(Import, OpensWhatTheReaderReadsOrFails) {
     WIN32_FIND_DATAA found;
     const HANDLE search = ::FindFirstFileA((kDrawings + "*.dxf").c_str(), &found);
     ASSERT_NE(search, INVALID_HANDLE_VALUE);
@@ -205,7 +205,7 @@ TEST(Import, LengthsAndAnglesAreWrittenAsInTheFile) {
     EXPECT_EQ(texts("9|$LUNITS|70|77|9|$LUPREC|70|-1|9|$AUNITS|70|-3"), "18.5 45") << "no such forms";
 }
 
-TEST(Import, GraphicsLookAsInTheFile) {
+TEST(Import, GraphicsHaveTheAppearanceOfTheFile) {
     struct Row {
         const char* entity;
         const char* property;
@@ -252,7 +252,7 @@ TEST(Import, GraphicsLookAsInTheFile) {
     }
 }
 
-TEST(Import, EverythingLiesInItsPlace) {
+TEST(Import, ExtentsMatchTheFile) {
     for (const ExtentsRow& row : kExtentsRows) {
         const OwnedDrawing drawing = OpenText(Drawing(row.entities, kExtentsBlocks));
         const drawcore::Extents& box = BoxOf(drawing);
@@ -306,7 +306,7 @@ TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
     EXPECT_NEAR(BoxOf(drawing).low.y, -2.5, 0.02) << "the half circle, seen at an angle";
 }
 
-TEST(Import, SplinesAreListedAsTheyAreDrawn) {
+TEST(Import, SplinesHaveTheListedExtents) {
     const std::string fit = Drawing("0|SPLINE|70|8|71|3|74|4|11|0|21|0|11|10|21|10|11|12|21|-8|11|30|21|0");
     const drawcore::Extents listed = dxf::ExtentsOf(dxf::Read(fit, {}));
     const OwnedDrawing drawing = OpenText(fit);
@@ -344,7 +344,7 @@ TEST(Import, AttributesBelongToTheirInsertion) {
     EXPECT_EQ(GraphicGetKind(members[2]), uint32_t{kKindText}); // the tag of the attribute
 }
 
-TEST(Import, SaysWhatItLeavesOut) {
+TEST(Import, ReportsOmittedEntities) {
     Heard heard;
     const OwnedDrawing drawing = OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), heard);
     EXPECT_EQ(Members(drawing).size(), 0u);

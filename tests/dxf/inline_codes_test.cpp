@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(InlineCodes, GivePlainText) {
+TEST(InlineCodes, AreResolvedToPlainText) {
     struct Row {
         const char* stored;
         const char* plain;
@@ -34,7 +34,7 @@ TEST(InlineCodes, GivePlainText) {
         EXPECT_EQ(dxf::ReadInlineCodes(row.stored, 1).Plain(), row.plain) << row.stored;
 }
 
-TEST(InlineCodes, FormatHoldsWithinItsGroup) {
+TEST(InlineCodes, FormatAppliesWithinItsGroup) {
     const auto text = dxf::ReadInlineCodes("a{\\fTimes|b1|i1;\\LB{\\H0.5x;\\C3;c}}d", 2);
     ASSERT_EQ(text.runs.size(), 4u);
     EXPECT_EQ(text.runs[0].format.font, "");
@@ -46,7 +46,7 @@ TEST(InlineCodes, FormatHoldsWithinItsGroup) {
     EXPECT_FALSE(text.runs[3].format.underlined);
 }
 
-TEST(InlineCodes, HeightsAreSharesOfTheText) {
+TEST(InlineCodes, HeightsAreRelativeToTheText) {
     const auto text = dxf::ReadInlineCodes("\\H5;a\\H0.5x;b\\H-1;c\\Hx;d", 2);
     ASSERT_EQ(text.runs.size(), 2u);
     EXPECT_EQ(text.runs[0].format.scale, 2.5);
@@ -58,7 +58,7 @@ TEST(InlineCodes, PrevailingFormatIsThatOfMostText) {
     EXPECT_EQ(dxf::ReadInlineCodes("", 1).Prevailing().font, "");
 }
 
-TEST(InlineCodes, DeepGroupsStayBounded) {
+TEST(InlineCodes, NestingIsLimited) {
     std::string stored = "\\fArial;";
     for (int i = 0; i < 100000; ++i)
         stored += "{";

@@ -13,7 +13,7 @@ using nlohmann::json;
 
 const std::string kFolder = ORLO_SOURCE_DIR "/tests/data/dxf/";
 
-TEST(List, HasAnObjectAFile) {
+TEST(List, HasOneObjectPerFile) {
     std::ostringstream out;
     EXPECT_FALSE(ListDrawings({kFolder + "made-gbk-R2004.dxf", kFolder + "bad-group-code.dxf",
                                kFolder + "bad-empty.dxf", kFolder + "bad-insert-unknown-block.dxf"},
@@ -37,7 +37,7 @@ TEST(List, HasAnObjectAFile) {
     EXPECT_EQ(list[3]["warnings"][0]["text"], "block 'NO_SUCH_BLOCK' is not shown: the block does not exist");
 }
 
-TEST(List, OfSoundDrawingsIsASuccess) {
+TEST(List, OfIntactDrawingsSucceeds) {
     std::ostringstream out;
     EXPECT_TRUE(ListDrawings({kFolder + "made-escapes-R12.dxf"}, out));
     EXPECT_TRUE(ListDrawings({}, out));

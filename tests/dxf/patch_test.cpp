@@ -110,7 +110,7 @@ const Row kRows[] = {
 
 class Patch : public testing::TestWithParam<Row> {};
 
-TEST_P(Patch, ChangesTheseGroupsAlone) {
+TEST_P(Patch, ChangesOnlyTheseGroups) {
     const Row& row = GetParam();
     const std::string text = Drawing2004(row.before);
     const dxf::Document document = dxf::Read(text, {});
@@ -128,7 +128,7 @@ TEST_P(Patch, ChangesTheseGroupsAlone) {
 INSTANTIATE_TEST_SUITE_P(Records, Patch, testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
 
 // Groups that another program has changed since take precedence; otherwise the stored value is exact.
-TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
+TEST(Patches, ChangedGroupsOverrideExtendedValues) {
     const std::string own = "1001|ORLO|1000|PenWidth|1002|{|1040|0.0101|1040|0.0|1040|25.0|1002|}";
     for (const int weight : {25, 50}) {
         const dxf::Document read =
@@ -139,7 +139,7 @@ TEST(Patches, OwnValuesYieldToGroupsThatHaveChanged) {
 }
 
 // Insertion at the first byte of a file.
-TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
+TEST(Patches, AddedTablePrecedesExistingContents) {
     const std::string text = Section("ENTITIES", "0|LINE|8|0|10|0|20|0|11|1|21|0") + Tags("0|EOF");
     const dxf::Document document = dxf::Read(text, {});
     dxf::DrawingPatch patch(text, document.Tables());
@@ -150,7 +150,7 @@ TEST(Patches, ATableThatIsNeededComesBeforeAllThatTheFileHas) {
     EXPECT_TRUE(dxf::AppearanceOf(read, read.entities.at(0)) == appearance);
 }
 
-TEST(Patches, RejectsWhatItCannotWrite) {
+TEST(Patches, RejectValuesThatCannotBeWritten) {
     std::string text = Drawing2004("0|TEXT|8|0|10|0|20|0|40|1|1|\xE4%%u");
     text.replace(text.find("AC1018"), 6, "AC1021"); // with UTF-8 texts
     const dxf::Document document = dxf::Read(text, {});

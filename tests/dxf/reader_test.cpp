@@ -19,7 +19,7 @@ const T& ShapeOf(const Document& document, size_t at = 0) {
     return std::get<T>(document.entities.at(at).shape);
 }
 
-TEST(Structure, DamagedFilesAreRejectedWithTheirLine) {
+TEST(Structure, DamagedFilesAreRejectedWithTheLine) {
     struct Row {
         std::string bytes;
         const char* message;
@@ -106,7 +106,7 @@ TEST(Numbers, AreReadAsWritersWriteThem) {
     }
 }
 
-TEST(Names, AreEqualInAnyCaseAndMadeWhereMentioned) {
+TEST(Names, AreComparedIgnoringCaseAndCreatedOnReference) {
     const std::string tables =
         Section("TABLES", "0|TABLE|2|LAYER|70|1|0|LAYER|2|Walls|70|4|62|-3|6|Dashed|420|255|370|50|290|0|"
                           "0|LAYER|2|walls|62|9|0|ENDTAB");
@@ -128,7 +128,7 @@ TEST(Names, AreEqualInAnyCaseAndMadeWhereMentioned) {
     EXPECT_EQ(std::count_if(document.layers.begin(), document.layers.end(), [](auto& l) { return l.declared; }), 2);
 }
 
-TEST(TextStyles, KnowTheirTrueTypeFace) {
+TEST(TextStyles, HaveTheirTrueTypeFace) {
     const Document document =
         Read(Section("TABLES", "0|STYLE|2|Notes|3|arial.ttf|40|2.5|41|0.8|50|15|71|2|1001|ACAD|1000|Arial|"
                                "1071|50331682|0|STYLE|2||3|ltypeshp.shx|70|1") +
@@ -143,7 +143,7 @@ TEST(TextStyles, KnowTheirTrueTypeFace) {
               1);
 }
 
-TEST(Entities, HaveTheirCommonAttributes) {
+TEST(Entities, HaveCommonAttributes) {
     const Document document =
         ReadEntities("0|CIRCLE|62|5|370|25|420|16711680|48|0.5|67|1|60|1|210|0|220|0|230|-1|10|1|20|2|30|3|40|4|"
                      "102|{ACAD_REACTORS|330|1F|40|99|102|}|1001|X|1040|7");
@@ -167,7 +167,7 @@ TEST(Entities, OfOtherTypesAreCountedAndNamed) {
     EXPECT_EQ(document.warnings[1].line, 11u);
 }
 
-TEST(Polylines, OldAndLight) {
+TEST(Polylines, OfBothKindsAreRead) {
     const Document document =
         ReadEntities("0|POLYLINE|70|129|40|0.5|41|0.25|30|7|0|VERTEX|10|1|20|2|42|1|0|VERTEX|10|3|40|0|41|0|0|SEQEND|"
                      "0|LWPOLYLINE|90|2147483647|70|1|43|0.3|38|9|10|1|20|2|10|3|20|4|40|1|41|2|42|-1");
@@ -188,13 +188,13 @@ TEST(Polylines, OldAndLight) {
     EXPECT_EQ(document.entityCounts.at("SEQEND"), 1u);
 }
 
-TEST(Polylines, FitCurvesLeaveTheirFrameOut) {
+TEST(Polylines, FitCurvesOmitTheirControlPoints) {
     const Document document =
         ReadEntities("0|POLYLINE|70|4|0|VERTEX|70|16|10|9|0|VERTEX|70|8|10|1|0|VERTEX|70|8|10|2|0|SEQEND");
     EXPECT_EQ(ShapeOf<Polyline>(document).vertices.size(), 2u);
 }
 
-TEST(Polylines, MeshesAndFacesAreBounded) {
+TEST(Polylines, MeshesAndFacesAreLimited) {
     const Document document =
         ReadEntities("0|POLYLINE|70|16|71|1000000|72|1000000|0|VERTEX|10|1|0|SEQEND|"
                      "0|POLYLINE|70|64|0|VERTEX|70|192|10|1|0|VERTEX|70|192|10|2|0|VERTEX|70|128|71|1|72|-2|"
@@ -230,7 +230,7 @@ TEST(Inserts, HaveTheirAttributesAndArray) {
     EXPECT_EQ(ShapeOf<Boxed<Insert>>(document, 1)->columns, 32767u);
 }
 
-TEST(Texts, CharactersMayLieOnTheBorderOfTwoPieces) {
+TEST(Texts, CharactersMaySpanTwoPieces) {
     const Document document =
         Read(Section("HEADER", "9|$ACADVER|1|AC1021") +
                  Drawing("0|MTEXT|3|Stra\xC3|3|\x9F|1|e|50|15|11|0|21|2|31|0|71|5|101|Embedded Object|1|other"),
@@ -266,7 +266,7 @@ TEST(Hatches, HaveLoopsAndPatternLines) {
     EXPECT_EQ(hatch.lines[0].dashes, (std::vector<double>{0.5, -0.25}));
 }
 
-TEST(Splines, WhatDoesNotFitIsLeftOut) {
+TEST(Splines, InconsistentDataIsOmitted) {
     const Document document =
         ReadEntities("0|SPLINE|71|3|40|0|40|1|10|1|20|1|0|SPLINE|71|2000000000|10|1|11|1|21|1|11|2|21|2");
     ASSERT_EQ(document.entities.size(), 1u); // the second one by fit points
@@ -274,7 +274,7 @@ TEST(Splines, WhatDoesNotFitIsLeftOut) {
     EXPECT_EQ(document.warnings.size(), 1u);
 }
 
-TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
+TEST(References, DanglingAndCircularOnesAreRemoved) {
     const Document document = Read(Drawing("0|INSERT|2|missing|0|INSERT|2|A|0|INSERT|2|SELF",
                                            "0|BLOCK|2|A|0|INSERT|2|B|0|ENDBLK|0|BLOCK|2|B|0|INSERT|2|A|0|LINE|0|ENDBLK|"
                                            "0|BLOCK|2|SELF|0|INSERT|2|SELF|0|ENDBLK"),
@@ -289,13 +289,13 @@ TEST(References, ThoseThatLeadNowhereOrAroundAreCut) {
                    "block 'missing' is not shown: the block does not exist\n");
 }
 
-TEST(References, OtherFilesAreNamed) {
+TEST(References, ExternalReferencesAreReported) {
     const Document document = Read(Drawing("", "0|BLOCK|2|site|70|4|1|site.dwg|0|ENDBLK"), {});
     ASSERT_EQ(document.warnings.size(), 1u);
     EXPECT_EQ(document.warnings[0].text, "block 'site' is an external reference, which is not supported");
 }
 
-TEST(References, LongChainsAndManyPartsAreCut) {
+TEST(References, LongChainsAndTooManyPartsAreRemoved) {
     std::string chain = "0|BLOCK|2|0|0|LINE|0|ENDBLK";
     for (int i = 1; i < 20000; ++i)
         chain += "|0|BLOCK|2|" + std::to_string(i) + "|0|INSERT|2|" + std::to_string(i - 1) + "|0|ENDBLK";
@@ -308,7 +308,7 @@ TEST(References, LongChainsAndManyPartsAreCut) {
     EXPECT_EQ(array.warnings.at(0).text, "insertions not shown because the drawing would have too many parts: 1");
 }
 
-TEST(Findings, AreBounded) {
+TEST(Findings, AreLimited) {
     std::string many;
     for (int i = 0; i < 1000; ++i)
         many += "0|LINE|10|nan|";

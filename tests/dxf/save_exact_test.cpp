@@ -66,7 +66,7 @@ std::string LayerNamed(const std::string& name, const std::string& groups = "") 
     return "0|LAYER|2|" + name + "|70|0|62|7|6|Continuous|" + groups;
 }
 
-TEST_F(SaveExact, HoldsMillimetersFarFromTheOrigin) {
+TEST_F(SaveExact, KeepsMillimetersFarFromTheOrigin) {
     const std::string block = "0|BLOCK|8|0|2|B|70|0|10|0|20|0|30|0|0|LINE|8|0|10|0|20|0|11|1|21|1|0|ENDBLK";
     for (const char* entity :
          {"0|LINE|8|0|10|3500000.25|20|5800000.5|30|0|11|3500010.25|21|5800000.5|31|0",
@@ -134,7 +134,7 @@ TEST_F(SaveExact, WritesNamesInTheBytesOfTheirTable) {
     EXPECT_EQ(Saved(), Replaced(text, "LINE\n8\n0\n", "LINE\n8\nW\xC4NDE\n"));
 }
 
-TEST_F(SaveExact, TakesAnglesModuloATurn) {
+TEST_F(SaveExact, TreatsFullTurnsAsEqual) {
     const std::string block = "0|BLOCK|8|0|2|B|70|0|10|0|20|0|30|0|0|LINE|8|0|10|0|20|0|11|1|21|1|0|ENDBLK";
     const std::string text =
         DrawingOf("AC1015", LayerTable(LayerNamed("0")),
@@ -149,7 +149,7 @@ TEST_F(SaveExact, TakesAnglesModuloATurn) {
 }
 
 // A part of a text keeps its own color unless the user has set one.
-TEST_F(SaveExact, GivesAllOfATextTheColorThatWasChosen) {
+TEST_F(SaveExact, SetsTheColorOfAllPartsOfAText) {
     const std::string text =
         DrawingOf("AC1015", LayerTable(LayerNamed("0")), "0|MTEXT|8|0|10|0|20|0|40|2|1|{\\C1;most of it}{\\C3;x}");
     const OwnedDrawing drawing = OpenText(text);
@@ -161,7 +161,7 @@ TEST_F(SaveExact, GivesAllOfATextTheColorThatWasChosen) {
     EXPECT_NE(Saved().find("{most of it}{x}"), std::string::npos) << Saved();
 }
 
-TEST_F(SaveExact, AddsAndRemovesLayersThatNothingIsOn) {
+TEST_F(SaveExact, AddsAndRemovesUnusedLayers) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         DrawingStruct* const d = drawing.get();
         TableStruct* layers = DrawingGetTable(d, kTableLayers);
@@ -181,7 +181,7 @@ TEST_F(SaveExact, AddsAndRemovesLayersThatNothingIsOn) {
     });
 }
 
-TEST_F(SaveExact, NamesEntitiesOnADeletedLayer) {
+TEST_F(SaveExact, ReportsEntitiesOnADeletedLayer) {
     const OwnedDrawing drawing =
         OpenText(DrawingOf("AC1015", LayerTable(LayerNamed("0") + LayerNamed("A")),
                            "0|RAY|5|2F|8|A|10|0|20|0|11|1|21|1|0|LINE|8|0|10|0|20|0|11|1|21|1"));
@@ -192,7 +192,7 @@ TEST_F(SaveExact, NamesEntitiesOnADeletedLayer) {
     EXPECT_EQ(message, "layer \"A\": cannot be deleted because RAY 2F (line 59) is on it");
 }
 
-TEST_F(SaveExact, HoldsTheStyleTreeOfABlock) {
+TEST_F(SaveExact, SavesTheStyleTreeOfABlock) {
     for (const char* name : {"acadsharp-sample-AC1032.dxf", "ezdxf-ASCII_R12.dxf", "dxf-blocks2.dxf"}) {
         const OwnedDrawing drawing = Open(kDrawings + name);
         TableStruct* blocks = BlocksFromDrawing(drawing.get());
@@ -216,7 +216,7 @@ struct Heard {
     }
 };
 
-TEST_F(SaveExact, SavesTheRestAndListsWhatItLeft) {
+TEST_F(SaveExact, SavesTheRestAndListsOmissions) {
     const std::string text =
         DrawingOf("AC1015", LayerTable(LayerNamed("0")),
                   "0|LWPOLYLINE|5|2F|8|0|90|2|70|0|10|0|20|0|10|1|20|0|0|LINE|5|30|8|0|10|0|20|0|11|1|21|1");
@@ -247,7 +247,7 @@ TEST_F(SaveExact, SavesTheRestAndListsWhatItLeft) {
     EXPECT_EQ(PlacesOf(First(Open(path))), PlacesOf(polyline));
 }
 
-TEST_F(SaveExact, SaysWhatOtherProgramsWillNotShow) {
+TEST_F(SaveExact, ReportsWhatOtherProgramsDoNotShow) {
     const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
     WriteProperty(First(drawing), kPropInfo, std::string("x"));
     Heard heard;
@@ -258,7 +258,7 @@ TEST_F(SaveExact, SaysWhatOtherProgramsWillNotShow) {
 }
 
 // An entity with a reference that cannot be removed is kept.
-TEST_F(SaveExact, NamesWhatRefersToAnEntityThatWasRemoved) {
+TEST_F(SaveExact, ReportsReferencesToARemovedEntity) {
     const std::string text =
         DrawingOf("AC1015", LayerTable(LayerNamed("0")),
                   "0|LINE|5|2F|8|0|10|0|20|0|11|1|21|1|0|VIEWPORT|5|31|67|1|8|0|340|02f|0|LINE|5|30|8|0|10|0|"
@@ -408,7 +408,7 @@ std::map<std::string, std::string> Records(const std::string& bytes) {
     return records;
 }
 
-TEST_F(SaveExact, ReadsBackRandomEditsBitByBit) {
+TEST_F(SaveExact, ReadsBackRandomEditsBitForBit) {
     std::mt19937 random(20261126);
     int saved = 0, refused = 0;
     for (const char* name :

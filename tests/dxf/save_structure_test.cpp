@@ -33,7 +33,7 @@ void Remove(GraphicStruct* set, GraphicStruct* member) {
     GraphicDispose(&member);
 }
 
-TEST_F(SaveStructure, TakesOutWhatWasRemoved) {
+TEST_F(SaveStructure, RemovesDeletedGraphics) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
         for (const int kept : {2, 1}) { // keeps every other graphic, then none
@@ -52,7 +52,7 @@ TEST_F(SaveStructure, TakesOutWhatWasRemoved) {
     });
 }
 
-TEST_F(SaveStructure, KeepsTheOrderOfGraphicsRemovedAndAddedAgain) {
+TEST_F(SaveStructure, KeepsTheOrderOfReaddedGraphics) {
     const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
     GraphicStruct* root = DrawingGetRoot(drawing.get());
     GraphicStruct* first = *Members(root).begin();
@@ -154,7 +154,7 @@ uint16_t AddBlock(DrawingStruct* drawing, const char* name) {
     return id;
 }
 
-TEST_F(SaveStructure, HoldsBlocksThatTheProgramHasMade) {
+TEST_F(SaveStructure, SavesBlocksAddedByTheProgram) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
         const std::vector<double> before = BoxesOf(root);
@@ -200,7 +200,7 @@ std::vector<uint32_t> LayersOf(DrawingStruct* drawing) {
     return states;
 }
 
-TEST_F(SaveStructure, HoldsTheStatesOfLayers) {
+TEST_F(SaveStructure, SavesTheStatesOfLayers) {
     ForDrawings([&](const fs::path& original, const OwnedDrawing& drawing) {
         DrawingStruct* const d = drawing.get();
         const uint16_t layer = TableEntryFirst(DrawingGetTable(d, kTableLayers), nullptr);
@@ -229,7 +229,7 @@ TEST_F(SaveStructure, HoldsTheStatesOfLayers) {
     });
 }
 
-TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
+TEST_F(SaveStructure, ReportsTheBlockThatCannotBeSaved) {
     const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
     TableStruct* blocks = BlocksFromDrawing(drawing.get());
     GraphicStruct* content = BlockGetGraphic(blocks, AddBlock(drawing.get(), "Part"));
@@ -244,7 +244,7 @@ TEST_F(SaveStructure, NamesTheBlockThatItCannotHold) {
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 }
 
-TEST_F(SaveStructure, SaysWhetherSomethingIsUnsaved) {
+TEST_F(SaveStructure, ReportsUnsavedChanges) {
     const OwnedDrawing drawing = Open(kDrawings + "acadsharp-sample-AC1032.dxf");
     DrawingStruct* const d = drawing.get();
     GraphicStruct* root = DrawingGetRoot(d);

@@ -56,7 +56,7 @@ void ExpectSet(GraphicStruct* graphic, const PropertyInfo& property) {
                   NewWhole(graphic, property));
 }
 
-TEST_F(Save, WithoutAChangeIsTheSameFile) {
+TEST_F(Save, WithoutChangesKeepsTheFile) {
     ForDrawings([&](const fs::path& original, const OwnedDrawing& drawing) {
         EXPECT_EQ(Write(drawing), kSaveDone) << message;
         EXPECT_TRUE(IsWritten(original));
@@ -70,7 +70,7 @@ TEST_F(Save, WithoutAChangeIsTheSameFile) {
     });
 }
 
-TEST_F(Save, HoldsAllPropertiesTogether) {
+TEST_F(Save, StoresAllPropertiesTogether) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         for (const PropertyInfo& property : kPropertyList)
             ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) { Set(g, property); });
@@ -84,7 +84,7 @@ TEST_F(Save, HoldsAllPropertiesTogether) {
     });
 }
 
-TEST_F(Save, HoldsEachPropertyOfSomeGraphicsAndOfBlocks) {
+TEST_F(Save, StoresEachPropertyOfGraphicsAndBlocks) {
     for (const PropertyInfo& property : kPropertyList) {
         SCOPED_TRACE(property.name);
         const OwnedDrawing drawing = Open(kDrawings + "acadsharp-sample-AC1032.dxf");
@@ -109,7 +109,7 @@ TEST_F(Save, HoldsEachPropertyOfSomeGraphicsAndOfBlocks) {
     }
 }
 
-TEST_F(Save, HoldsThePlacesOfInsertionsWithTheirAttributes) {
+TEST_F(Save, StoresPlacementsOfInsertionsWithTheirAttributes) {
     struct Row {
         const char* file;
         Way way;
@@ -134,7 +134,7 @@ TEST_F(Save, HoldsThePlacesOfInsertionsWithTheirAttributes) {
     }
 }
 
-TEST_F(Save, AsksBeforeOverwritingAChangedFile) {
+TEST_F(Save, DetectsAChangedFile) {
     fs::copy_file(kDrawings + "made-gbk-R2004.dxf", path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);
     const std::string other = ReadBytes(path) + "from another program";
@@ -145,7 +145,7 @@ TEST_F(Save, AsksBeforeOverwritingAChangedFile) {
     EXPECT_TRUE(IsWritten(kDrawings + "made-gbk-R2004.dxf"));
 }
 
-TEST_F(Save, LooksAgainRightBeforeItReplacesTheFile) {
+TEST_F(Save, ChecksTheFileAgainBeforeReplacingIt) {
     fs::copy_file(kDrawings + "made-gbk-R2004.dxf", path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);
     const auto change = [](void* context, int permille) {
@@ -160,7 +160,7 @@ TEST_F(Save, LooksAgainRightBeforeItReplacesTheFile) {
 }
 
 // Distinguished from a changed file, because overwriting would not help.
-TEST_F(Save, TellsAFileThatAnotherProgramHoldsFromOneThatItHasChanged) {
+TEST_F(Save, DistinguishesAnOpenFileFromAChangedOne) {
     const fs::path original = kDrawings + "made-gbk-R2004.dxf";
     fs::copy_file(original, path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);
@@ -219,7 +219,7 @@ TEST_F(Save, CanBeCanceledWithEachReport) {
     EXPECT_EQ(Write(drawing), kSaveDone) << "as if not canceled: " << message;
 }
 
-TEST_F(Save, LeavesTheFileAloneWhereItFails) {
+TEST_F(Save, KeepsTheFileOnFailure) {
     const fs::path original = kDrawings + "made-gbk-R2004.dxf";
     fs::copy_file(original, path, fs::copy_options::overwrite_existing);
     const OwnedDrawing drawing = Open(path);

@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(TextDecoder, FollowsCodePageAndVersion) {
+TEST(TextDecoder, DecodesByCodePageAndVersion) {
     struct Row {
         const char* version;
         const char* codePage; // null if the file does not name one

@@ -18,7 +18,7 @@ protected:
     }
 };
 
-TEST_F(ButtonExchange, StatesGoBothWays) {
+TEST_F(ButtonExchange, ExchangesStatesInBothDirections) {
     for (int state = 0; state <= 2; ++state) {
         int value = state;
         EXPECT_EQ(DDX_Check(1, &m_load, IDC_THREE_STATE, value), 1);
@@ -37,7 +37,7 @@ TEST_F(ButtonExchange, StatesGoBothWays) {
     }
 }
 
-TEST_F(ButtonExchange, AnInvalidStateIsSetToOff) {
+TEST_F(ButtonExchange, InvalidStateIsSetToOff) {
     for (const int wrong : {3, -1, 0xFFFF}) {
         SetState(IDC_THREE_STATE, BST_CHECKED);
         int value = wrong;
@@ -56,7 +56,7 @@ struct RadioRow {
     const char* states;
 };
 
-TEST_F(ButtonExchange, ARadioGroupEndsAtTheNextAndSkipsOtherControls) {
+TEST_F(ButtonExchange, RadioGroupEndsAtTheNextAndSkipsOtherControls) {
     const RadioRow rows[] = {{0, 0, "X..X"}, {1, 1, ".X.X"}, {2, 2, "..XX"}, {-1, 0xFFFF, "...X"}};
     SetState(IDC_BEHIND_RADIOS, BST_CHECKED);
     for (const RadioRow& row : rows) {

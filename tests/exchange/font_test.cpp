@@ -26,7 +26,7 @@ protected:
     TestDrawing m_drawing;
 };
 
-TEST_F(FontExchange, TheStyleComboShowsTheTwoLowestBits) {
+TEST_F(FontExchange, StyleComboBoxShowsTheTwoLowestBits) {
     const struct {
         unsigned short mask, values;
         int shown;
@@ -47,7 +47,7 @@ TEST_F(FontExchange, TheStyleComboShowsTheTwoLowestBits) {
     EXPECT_EQ(style[1], 0x1146);
 }
 
-TEST_F(FontExchange, UntouchedEffectsChangeNothing) {
+TEST_F(FontExchange, UneditedEffectsChangeNothing) {
     for (const unsigned short mask : {0, 0x114C, 0x0108, 0xFFFF}) {
         for (const unsigned short values : {0, 0x114C, 0x1040, 0xFFFF}) {
             unsigned short style[] = {mask, values};
@@ -65,7 +65,7 @@ TEST_F(FontExchange, UntouchedEffectsChangeNothing) {
     }
 }
 
-TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
+TEST_F(FontExchange, SetEffectIsNoLongerIndeterminate) {
     for (size_t i = 0; i < 5; ++i) {
         const unsigned short bit = kEffectBits[i], rest = 0xFFFF & ~bit;
         for (const bool on : {true, false}) {
@@ -88,7 +88,7 @@ TEST_F(FontExchange, AnEffectThatIsSetIsNoLongerIndeterminate) {
     }
 }
 
-TEST_F(FontExchange, AHeightIsShownAndReadBack) {
+TEST_F(FontExchange, HeightIsShownAndReadBack) {
     FillSizes();
     for (const double height : {2.5, 0.125, 100.0, 2.5}) {
         double size = height;

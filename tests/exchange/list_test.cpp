@@ -20,7 +20,7 @@ protected:
 
 using TextFunction = int (*)(int, CDataExchange*, int, CString&);
 
-TEST_F(ListExchange, LoadingATextSelectsOrKeeps) {
+TEST_F(ListExchange, LoadingATextSelectsItOrKeepsTheSelection) {
     const struct {
         TextFunction function;
         int control;
@@ -42,7 +42,7 @@ TEST_F(ListExchange, LoadingATextSelectsOrKeeps) {
     }
 }
 
-TEST_F(ListExchange, AComboShowsATextThatIsInNoList) {
+TEST_F(ListExchange, ComboBoxShowsATextThatIsNotListed) {
     CString text("Dash");
     DDX_CBString(1, &m_load, IDC_COMBO, text);
     EXPECT_EQ(Text(IDC_COMBO), "Dash");
@@ -54,7 +54,7 @@ TEST_F(ListExchange, AComboShowsATextThatIsInNoList) {
     EXPECT_EQ(std::string(text), "") << "a list without a selection";
 }
 
-TEST_F(ListExchange, ATextThatIsInNoListTakesTheChoiceAway) {
+TEST_F(ListExchange, UnlistedTextClearsTheSelection) {
     Send(IDC_DROP_LIST, CB_ADDSTRING, 0, "Solid");
     for (const int combo : {IDC_COMBO, IDC_DROP_LIST}) {
         Send(combo, CB_SETCURSEL, 0);
@@ -66,7 +66,7 @@ TEST_F(ListExchange, ATextThatIsInNoListTakesTheChoiceAway) {
     EXPECT_EQ(Text(IDC_COMBO), "Wavy");
 }
 
-TEST_F(ListExchange, IndicesGoBothWays) {
+TEST_F(ListExchange, ExchangesIndicesInBothDirections) {
     for (const int index : {2, 0, -1}) {
         int value = index;
         DDX_LBIndex(1, &m_load, IDC_LIST, value);
@@ -79,7 +79,7 @@ TEST_F(ListExchange, IndicesGoBothWays) {
     }
 }
 
-TEST_F(ListExchange, AControlObjectIsAttachedOnce) {
+TEST_F(ListExchange, ControlObjectIsAttachedOnce) {
     CEdit edit, second;
     EXPECT_EQ(DDX_Control(1, &m_load, IDC_EDIT, edit), 1);
     EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
@@ -95,7 +95,7 @@ TEST_F(ListExchange, AControlObjectIsAttachedOnce) {
     edit.UnsubclassWindow();
 }
 
-TEST_F(ListExchange, AScrollBarKeepsItsPosition) {
+TEST_F(ListExchange, ScrollBarKeepsItsPosition) {
     ::SetScrollRange(Control(IDC_SCROLL), SB_CTL, 0, 50, FALSE);
     int position = 42;
     DDX_Scroll(1, &m_load, IDC_SCROLL, position);

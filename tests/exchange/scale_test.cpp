@@ -23,7 +23,7 @@ protected:
     TableStruct* m_units;
 };
 
-TEST_F(ScaleExchange, AScaleInNoListIsInsertedInFallingOrder) {
+TEST_F(ScaleExchange, UnlistedScaleIsInsertedInDescendingOrder) {
     const double big = UnitsGetScaleValue(m_units, "1 : 2"), middle = UnitsGetScaleValue(m_units, "1 : 50"),
                  small = UnitsGetScaleValue(m_units, "1 : 100");
     ASSERT_NE(middle, 0.0);
@@ -45,7 +45,7 @@ TEST_F(ScaleExchange, AScaleInNoListIsInsertedInFallingOrder) {
     EXPECT_EQ(Count(), 3) << "once";
 }
 
-TEST_F(ScaleExchange, ATypedScaleTakesOverTheTextOfAnEqualItem) {
+TEST_F(ScaleExchange, TypedScaleIsReplacedByTheTextOfAnEqualItem) {
     Fill({"1 : 1"});
     SetText(IDC_COMBO, "2 : 2");
     CString text;

@@ -69,7 +69,7 @@ TEST_F(TableExchange, LinesOfAStringAreItems) {
 
 // ---- Identifiers
 
-TEST_F(TableExchange, ListKeysAreFoundInAnyCase) {
+TEST_F(TableExchange, ListKeysAreFoundIgnoringCase) {
     Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCD\tBlue");
     Send(IDC_LIST, LB_ADDSTRING, 0, "0000ABCE\tGreen");
     unsigned int value = 0xABCE;
@@ -87,7 +87,7 @@ TEST_F(TableExchange, ListKeysAreFoundInAnyCase) {
 }
 
 // The search starts after the first item and reaches it last.
-TEST_F(TableExchange, OfEqualListKeysTheFirstItemIsFoundLast) {
+TEST_F(TableExchange, FirstOfEqualListKeysIsFoundLast) {
     for (const char* item : {"0000ABCD\tBlue", "0000ABCD\tAzure", "0000ABCD\tNavy"})
         Send(IDC_LIST, LB_ADDSTRING, 0, item);
     unsigned int value = 0xABCD;
@@ -95,7 +95,7 @@ TEST_F(TableExchange, OfEqualListKeysTheFirstItemIsFoundLast) {
     EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 1);
 }
 
-TEST_F(TableExchange, WithoutASelectionTheVariableStays) {
+TEST_F(TableExchange, WithoutASelectionTheVariableIsUnchanged) {
     unsigned int value = kIndeterminateId;
     unsigned long color = kIndeterminateId;
     EXPECT_EQ(DDX_LBTableIndex(1, &m_save, IDC_LIST, value), 1);
@@ -105,7 +105,7 @@ TEST_F(TableExchange, WithoutASelectionTheVariableStays) {
     EXPECT_EQ(color, kIndeterminateId);
 }
 
-TEST_F(TableExchange, ComboKeysGoBothWays) {
+TEST_F(TableExchange, ExchangesComboKeysInBothDirections) {
     Send(IDC_COMBO, CB_ADDSTRING, 0, "0000001F\tA name that is longer than eight characters");
     Send(IDC_COMBO, CB_ADDSTRING, 0, "00000020\tB");
     for (const unsigned int id : {0x20u, 0x1Fu}) {
@@ -120,7 +120,7 @@ TEST_F(TableExchange, ComboKeysGoBothWays) {
     EXPECT_EQ(Text(IDC_COMBO), "00000021\t") << "the key is what the combo shows";
 }
 
-TEST_F(TableExchange, ColorsAreWhole32BitKeys) {
+TEST_F(TableExchange, ColorsAre32BitKeys) {
     for (const char* item : {"000000FF\tRed", "FFFFFFFD\tBy layer", "000000FF\tRed again", "FFFFFFFB\tLast"})
         Send(IDC_DROP_LIST, CB_ADDSTRING, 0, item);
     const struct {

@@ -67,7 +67,7 @@ TEST_F(TextExchange, IntegersAreParsedOrRejected) {
     ExpectRefused<unsigned long>(AFX_IDP_PARSE_UINT, {"x"});
 }
 
-TEST_F(TextExchange, WholeNumbersAreShownInTheirRange) {
+TEST_F(TextExchange, IntegersAreShownInTheirRange) {
     EXPECT_EQ(Shown<unsigned char>(255), "255");
     EXPECT_EQ(Shown<unsigned short>(65535), "65535");
     EXPECT_EQ(Shown<int>(-2147483647 - 1), "-2147483648");
@@ -76,7 +76,7 @@ TEST_F(TextExchange, WholeNumbersAreShownInTheirRange) {
     EXPECT_EQ(Shown<unsigned long>(4294967295u), "4294967295");
 }
 
-TEST_F(TextExchange, AFailureReturnsToTheFieldWithItsTextSelected) {
+TEST_F(TextExchange, FailureSelectsTheTextOfTheField) {
     m_dialog.ShowWindow(SW_SHOW);
     ::SetFocus(Control(IDC_LIST));
     SetText(IDC_EDIT, "twelve");
@@ -87,7 +87,7 @@ TEST_F(TextExchange, AFailureReturnsToTheFieldWithItsTextSelected) {
     EXPECT_EQ(MAKELRESULT(0, 6), Send(IDC_EDIT, EM_GETSEL));
 }
 
-TEST_F(TextExchange, ALongTextGoesThroughWhole) {
+TEST_F(TextExchange, LongTextIsNotTruncated) {
     const std::string text(10000, 'x');
     SetText(IDC_EDIT, text.c_str());
     CString value;
@@ -133,7 +133,7 @@ TEST_F(TextExchange, SixDigitsAreShownAndTheNearestFloatIsSaved) {
 }
 
 // A displayed number is parsed back within the digits shown, and then displayed the same.
-TEST_F(TextExchange, ShownNumbersReadBack) {
+TEST_F(TextExchange, ShownNumbersAreReadBack) {
     std::mt19937 random(1);
     std::uniform_real_distribution<double> mantissa(-10.0, 10.0), exponent(-30.0, 30.0);
     for (int i = 0; i < 300; ++i) {
@@ -146,7 +146,7 @@ TEST_F(TextExchange, ShownNumbersReadBack) {
     }
 }
 
-TEST_F(TextExchange, TheIndeterminateMarkerSurvivesAnUntouchedField) {
+TEST_F(TextExchange, IndeterminateMarkerSurvivesAnUneditedField) {
     double value = HUGE_VAL;
     EXPECT_EQ(Shown(value), "*****");
     for (const int bReport : {0, 1}) {
@@ -161,7 +161,7 @@ TEST_F(TextExchange, TheIndeterminateMarkerSurvivesAnUntouchedField) {
 
 // ---- Blank fields
 
-TEST_F(TextExchange, ABlankFieldIsZero) {
+TEST_F(TextExchange, BlankFieldIsZero) {
     SetText(IDC_EDIT, " \t ");
     double real = 5.0;
     unsigned int whole = 5;
@@ -181,7 +181,7 @@ TEST_F(TextExchange, ABlankFieldIsZero) {
     EXPECT_EQ(whole, 4u);
 }
 
-TEST_F(TextExchange, ADisabledFieldIsShownEmpty) {
+TEST_F(TextExchange, DisabledFieldIsShownEmpty) {
     double real = 5.0;
     unsigned int whole = 5;
     SetText(IDC_DISABLED_EDIT, "old");

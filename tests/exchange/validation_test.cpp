@@ -63,7 +63,7 @@ TEST_F(Limits, AreInclusiveAndCheckedWhenSaving) {
     ExpectFails("3", Of(DDV_MaxChars, CString("abcd"), 3));
 }
 
-TEST_F(Limits, AreToldInStringsThatTheFrameworkFinds) {
+TEST_F(Limits, AreReportedWithStringsOfTheFramework) {
     EXPECT_EQ(Prompt(IDS_ENTER_SCALE), "Please enter a valid scale (i.e., '1 in = 1 ft' or '1 : 1').");
     EXPECT_EQ(Prompt(IDS_PROPERTIES), "Properties");
 }

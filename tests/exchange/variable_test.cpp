@@ -88,7 +88,7 @@ TEST_F(VariableExchange, TextsKeepTheirLength) {
     EXPECT_EQ(Text(IDC_EDIT), "other");
 }
 
-TEST_F(VariableExchange, DeviceInchesGoThroughMillimeters) {
+TEST_F(VariableExchange, DeviceInchesAreConvertedToMillimeters) {
     TableStruct* const units = m_drawing.Get()->pUnits;
     const auto exchange = [&](int bReport, CDataExchange& dx, double min, double max) {
         return DDX_TextVarDeviceInches(bReport, &dx, IDC_EDIT, units, m_table, kVariable, min, max,
@@ -123,7 +123,7 @@ TEST_F(VariableExchange, DeviceInchesGoThroughMillimeters) {
     EXPECT_EQ(DDX_TextVarDeviceInches(0, &m_load, IDC_EDIT, nullptr, m_table, kVariable, 0, 0, 0), 0);
 }
 
-TEST_F(VariableExchange, BoxesAndButtonsFollowWholeNumbers) {
+TEST_F(VariableExchange, BoxesAndButtonsExchangeIntegers) {
     TableSetIntVar(m_table, kVariable, 2);
     DDX_CheckVarInt(1, &m_load, IDC_THREE_STATE, m_table, kLong);
     EXPECT_EQ(Send(IDC_THREE_STATE, BM_GETCHECK), 2);
@@ -140,7 +140,7 @@ TEST_F(VariableExchange, BoxesAndButtonsFollowWholeNumbers) {
     EXPECT_EQ(Checked(), 0) << "no such variable";
 }
 
-TEST_F(VariableExchange, AMapDefinesTheButtonsValues) {
+TEST_F(VariableExchange, MapDefinesTheButtonsValues) {
     int map[] = {-1, 1, 0, 1};
     const struct {
         int value, button, saved;
@@ -166,7 +166,7 @@ TEST_F(VariableExchange, AMapDefinesTheButtonsValues) {
     EXPECT_EQ(value, 7);
 }
 
-TEST_F(VariableExchange, AnIndexHasABaseAndLimits) {
+TEST_F(VariableExchange, IndexHasABaseAndLimits) {
     for (const char* item : {"one", "two", "three", "four", "five", "six"})
         Send(IDC_DROP_LIST, CB_ADDSTRING, 0, item);
     const struct { int selected, stored; } kRows[] = {{0, 1}, {1, 2}, {2, 3}, {3, 2}, {5, 2}, {-1, 2}};

@@ -61,7 +61,7 @@ bool EndsAt(int stops, int signal, const fs::path& path, const std::string& byte
 
 class Ended : public testing::TestWithParam<int> {};
 
-TEST_P(Ended, AtAnyCallLeavesTheOldFileOrTheNewOne) {
+TEST_P(Ended, AtAnyCallKeepsTheOldOrTheNewFile) {
     if (!MayTrace()) GTEST_SKIP() << "this system lets no process trace another";
     const fs::path folder = fs::temp_directory_path() / ("killed-" + std::to_string(::getpid()));
     const fs::path path = folder / "plan.dxf";

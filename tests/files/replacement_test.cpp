@@ -57,7 +57,7 @@ protected:
     const fs::path path = folder / "plan.dxf";
 };
 
-TEST_F(Replacement, TakesThePlaceOfAFileOrMakesANewOne) {
+TEST_F(Replacement, ReplacesAFileOrCreatesOne) {
     const std::string large(3500000, 'n');
     for (const std::string& bytes : {large, std::string(), std::string("a\r\n\0b", 5)}) {
         Replace(path, bytes);
@@ -71,7 +71,7 @@ TEST_F(Replacement, TakesThePlaceOfAFileOrMakesANewOne) {
     EXPECT_EQ(Count(), 2) << "and nothing beside them";
 }
 
-TEST_F(Replacement, LeavesTheOldFileUntilThen) {
+TEST_F(Replacement, KeepsTheOldFileUntilCommit) {
     {
         files::FileReplacement first(path), second(path);
         first.Write("first");
@@ -172,7 +172,7 @@ TEST_F(Replacement, KeepsPermissionsOwnerAndExtendedAttributes) {
 }
 
 // Other users cannot read the new contents before the file has the permissions of the old one.
-TEST_F(Replacement, IsPrivateUntilItTakesThePlaceOfAFile) {
+TEST_F(Replacement, IsPrivateUntilItReplacesAFile) {
     const files::FileReplacement replacement(path);
     struct stat is;
     ASSERT_EQ(::stat(replacement.Path().c_str(), &is), 0);

@@ -95,7 +95,7 @@ TEST(DialogMeasure, HasDefaultsForWhatIsMissing) {
 }
 
 // A template of a few words at the end of its mapping is not read beyond it.
-TEST(DialogMeasure, SurvivesATemplateThatBreaksOff) {
+TEST(DialogMeasure, AcceptsATruncatedTemplate) {
     void* pages = ::VirtualAlloc(nullptr, 0x2000, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
     DWORD before;
     ::VirtualProtect(static_cast<char*>(pages) + 0x1000, 0x1000, PAGE_NOACCESS, &before);

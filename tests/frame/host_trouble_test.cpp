@@ -30,7 +30,7 @@ struct BadDrawing : ExchangePage {
     int drawn = 0;
 };
 
-TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
+TEST(HostTrouble, ExceptionWhileDrawingIsReportedOnce) {
     for (const auto& failure : kFailures) {
         GraphicKit kit;
         TestSheet sheet(kit);
@@ -49,7 +49,7 @@ TEST(HostTrouble, DrawingThatThrowsIsReportedOnce) {
 }
 
 // A page that cannot be loaded does not open, and can be tried again.
-TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
+TEST(HostTrouble, UnreadablePageIsReportedAndThePreviousOneStays) {
     for (const auto& failure : kFailures) {
         GraphicKit kit;
         kit.Add({{"Width", 1.0}}).onGet = failure.fail;
@@ -71,7 +71,7 @@ TEST(HostTrouble, APageThatCannotBeReadIsReportedAndLeavesTheOneBefore) {
     }
 }
 
-TEST(HostTrouble, ASheetWhoseFirstPageCannotBeReadOpensOnTheNext) {
+TEST(HostTrouble, SheetOpensOnTheNextPageIfTheFirstIsUnreadable) {
     GraphicKit kit;
     kit.Add({{kPropInfo, "wall"}}).onGet = ThrowStandard;
     TestSheet sheet(kit);
@@ -94,7 +94,7 @@ struct PreviewOfAnother : ExchangePage {
 };
 
 // The reference database rejects a graphic that is already a member.
-TEST(HostTrouble, ARejectedPreviewGraphicMeansNoPreview) {
+TEST(HostTrouble, RejectedPreviewGraphicMeansNoPreview) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});
     const long blocks = kit.Blocks();

@@ -21,7 +21,7 @@ protected:
     WidthPage width;
 };
 
-TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {
+TEST_F(Keyboard, PageWithoutFieldsLeavesTheFocusToTheTabs) {
     sheet.Run([&](SheetDriver& user) {
         user.Focus(kEdit);
         const HWND field = user.Control(kEdit);
@@ -40,7 +40,7 @@ TEST_F(Keyboard, APageWithoutFieldsLeavesTheFocusToTheTabs) {
     });
 }
 
-TEST_F(Keyboard, TheTabsShowTheActivePageAfterAFailedValidation) {
+TEST_F(Keyboard, TabsShowTheActivePageAfterAFailedValidation) {
     for (const UINT key : {VK_LEFT, VK_RIGHT}) {
         MessageBoxWatcher boxes;
         sheet.Run([&](SheetDriver& user) {
@@ -82,7 +82,7 @@ UINT TypeOf(HWND button) {
     return static_cast<UINT>(::GetWindowLongPtrA(button, GWL_STYLE)) & BS_TYPEMASK;
 }
 
-TEST_F(Keyboard, OkIsTheDefaultAgainWhenAPushButtonIsLeftForATab) {
+TEST_F(Keyboard, OkIsTheDefaultAgainAfterAPushButton) {
     sheet.Run([&](SheetDriver& user) {
         const HWND ok = ::GetDlgItem(user.Sheet(), IDOK), push = user.Control(kButton);
         user.Focus(kEdit);
@@ -97,7 +97,7 @@ TEST_F(Keyboard, OkIsTheDefaultAgainWhenAPushButtonIsLeftForATab) {
     });
 }
 
-TEST(FittedControls, AreThoseOfAPageThatWishesIt) {
+TEST(FittedControls, AreThoseOfAPageThatRequestsIt) {
     for (const bool wished : {false, true}) {
         SCOPED_TRACE(wished);
         GraphicKit kit;

@@ -75,7 +75,7 @@ protected:
     HostFrame frame{kit.Drawing()};
 };
 
-TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
+TEST_F(LibraryLife, CanBeLoadedAHundredTimesAtDifferentAddresses) {
     void* taken = nullptr; // every second time the address of the previous copy
     for (int i = 1; i <= 100 && !HasFailure(); ++i) {
         SCOPED_TRACE(i);
@@ -101,7 +101,7 @@ TEST_F(LibraryLife, ComesAndGoesAHundredTimesAlsoElsewhere) {
     ::FreeLibrary(fresh);
 }
 
-TEST_F(LibraryLife, TwoCopiesWorkSideBySideAndOutliveEachOther) {
+TEST_F(LibraryLife, TwoCopiesWorkIndependently) {
     char own[MAX_PATH];
     ::GetModuleFileNameA(nullptr, own, MAX_PATH);
     const std::string path = own, folder = path.substr(0, path.rfind('\\') + 1);
@@ -123,7 +123,7 @@ TEST_F(LibraryLife, TwoCopiesWorkSideBySideAndOutliveEachOther) {
 }
 
 // Resources in colliding_host.rc with the library's numbers belong to the host.
-TEST_F(LibraryLife, FindsItsOwnResourcesBesideTheHosts) {
+TEST_F(LibraryLife, FindsItsOwnResources) {
     const Copy copy("orlo.dll");
     copy.Run(kit, [&](SheetDriver& user) {
         char caption[64];

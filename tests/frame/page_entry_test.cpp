@@ -59,7 +59,7 @@ struct PageEntry : ::testing::Test {
     ThrowingPage* other;
 };
 
-TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
+TEST_F(PageEntry, PageThatThrowsIsReportedAndThePreviousOneStays) {
     MessageBoxWatcher boxes;
     EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
         for (const bool visited : {false, true}) {
@@ -86,7 +86,7 @@ TEST_F(PageEntry, APageThatThrowsIsReportedAndLeavesTheOneBefore) {
     EXPECT_EQ(kit[0].Number("Width"), 5) << "typed into the page that was seen";
 }
 
-TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
+TEST_F(PageEntry, PageThatThrowsWhenLeftIsReportedAndStays) {
     sheet.Add([](CDataExchange*) {}); // a page to activate
     MessageBoxWatcher boxes;
     sheet.Run([&](SheetDriver& user) {
@@ -106,7 +106,7 @@ TEST_F(PageEntry, APageThatThrowsWhenItIsLeftIsReportedAndStays) {
     });
 }
 
-TEST_F(PageEntry, AfterTheRemovalOfAPageTheNextOneThatOpensIsShown) {
+TEST_F(PageEntry, RemovingAPageShowsTheNextUsableOne) {
     sheet.Add([](CDataExchange*) {});
     MessageBoxWatcher boxes;
     sheet.Run([&](SheetDriver&) {
@@ -121,7 +121,7 @@ TEST_F(PageEntry, AfterTheRemovalOfAPageTheNextOneThatOpensIsShown) {
 }
 
 // Each memory allocation fails once, in the library and in the framework, until changing pages makes no more of them.
-TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
+TEST(PageEntryMemory, OutOfMemoryKeepsThePreviousPageOrCompletesTheNewOne) {
     for (const char* module : {"orlo.dll", "afx.dll"}) {
         bool failed = true;
         for (int nth = 1; failed; ++nth) {
@@ -152,7 +152,7 @@ TEST(PageEntryMemory, WithoutMemoryThePageBeforeStaysOrTheNewOneIsComplete) {
     }
 }
 
-TEST(PageEntryMemory, TheStatusTableOutlivesAFailedActivation) {
+TEST(PageEntryMemory, StatusTableOutlivesAFailedActivation) {
     GraphicKit kit;
     kit.Add({{"Width", 1.0}});
     TestSheet sheet(kit);

@@ -22,7 +22,7 @@ struct PageLife : ::testing::Test {
     ExchangePage* page;
 };
 
-TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
+TEST_F(PageLife, LoadingLeavesThePageCleanAndUpdatesThePreviewOnce) {
     sheet.Run([&](SheetDriver& user) {
         EXPECT_EQ(page->IsModified(), 0);
         EXPECT_EQ(page->GetControlStatus(kEdit), 0);
@@ -31,7 +31,7 @@ TEST_F(PageLife, LoadingLeavesThePageCleanAndFeedsThePreviewOnce) {
     });
 }
 
-TEST_F(PageLife, NotificationsMarkByTheTables) {
+TEST_F(PageLife, NotificationsMarkControlsByTheirTables) {
     const struct {
         int id, code;
         bool change; // marks the control as dirty
@@ -56,7 +56,7 @@ TEST_F(PageLife, NotificationsMarkByTheTables) {
 }
 
 // The end of an edit informs the sheet but does not update the preview, which was updated after each change.
-TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
+TEST_F(PageLife, EndOfAnEditUpdatesNoPreview) {
     sheet.Run([&](SheetDriver& user) {
         Send(user, kEdit, EN_KILLFOCUS); // not dirty: no effect
         EXPECT_EQ(page->IsModified(), 0);
@@ -69,7 +69,7 @@ TEST_F(PageLife, TheEndOfAnEditRenewsNoPreview) {
     });
 }
 
-TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
+TEST_F(PageLife, RadioButtonsAreTrackedAsTheFirstOfTheirGroup) {
     sheet.Run([&](SheetDriver& user) {
         user.Click(kRadio + 1);
         EXPECT_EQ(page->GetControlStatus(kRadio), 1);
@@ -79,7 +79,7 @@ TEST_F(PageLife, RadioButtonsCountUnderTheFirstOfTheirGroup) {
     });
 }
 
-TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
+TEST_F(PageLife, IgnoredControlsAndUnrequestedRefreshesChangeNothing) {
     page->IgnoreApply(kOtherEdit);
     sheet.Run([&](SheetDriver& user) {
         user.Type(kOtherEdit, "x");
@@ -93,7 +93,7 @@ TEST_F(PageLife, IgnoredControlsAndUnaskedRefreshesChangeNothing) {
     });
 }
 
-TEST_F(PageLife, LeavingWritesAndComingBackIsCleanWithTheControlsAsTheyWere) {
+TEST_F(PageLife, LeavingWritesAndReturningIsClean) {
     sheet.Run([&](SheetDriver& user) {
         user.Type(kEdit, "5");
         EXPECT_EQ(kit[0].Number("Width"), 1);

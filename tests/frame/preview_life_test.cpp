@@ -60,7 +60,7 @@ protected:
     HostFrame frame{drawing.Get()};
 };
 
-TEST_F(PreviewLife, TheBlockGoesWithTheLastOfTheSheetsThatShowIt) {
+TEST_F(PreviewLife, BlockIsRemovedWithTheLastSheet) {
     AddInsertion();
     const Sheet outer = NewSheet();
     SheetDriver().Run(*outer, [&](SheetDriver& user) {
@@ -77,7 +77,7 @@ TEST_F(PreviewLife, TheBlockGoesWithTheLastOfTheSheetsThatShowIt) {
     });
 }
 
-TEST_F(PreviewLife, TheBlockIsRemovedFromItsDrawingWhicheverIsCurrent) {
+TEST_F(PreviewLife, BlockIsRemovedFromItsOwnDrawing) {
     AddInsertion();
     Sheet sheet = NewSheet();
     SheetDriver().Run(*sheet, [](SheetDriver& user) { user.SelectPage(1); });
@@ -92,7 +92,7 @@ TEST_F(PreviewLife, TheBlockIsRemovedFromItsDrawingWhicheverIsCurrent) {
 }
 
 // Also on another page than the edited one: the pen is visible in all previews.
-TEST_F(PreviewLife, ACanceledEditIsNotInThePreviewOfTheNextRun) {
+TEST_F(PreviewLife, CanceledEditIsNotInThePreviewOfTheNextRun) {
     Add(kGraphicPenBrush);
     const Sheet sheet = NewSheet();
     const auto scaleOfPreview = [&] { return *orlo::host::ReadProperty<double>(PreviewOf(*sheet), kPropPenScale); };
@@ -110,7 +110,7 @@ TEST_F(PreviewLife, ACanceledEditIsNotInThePreviewOfTheNextRun) {
 }
 
 // Otherwise OK would end the second run with the style selected in the first one, without saving.
-TEST_F(PreviewLife, ASheetThatRunsAgainHasNoEndCodeYet) {
+TEST_F(PreviewLife, SheetThatRunsAgainHasNoEndCode) {
     TableStruct* styles = drawing.Table(kTableBlocks);
     const auto addStyle = [&](const char* name) {
         GraphicStruct* group = ::GraphicNewEx(kGraphicVertices, 0, 1);

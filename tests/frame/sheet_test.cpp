@@ -67,7 +67,7 @@ public:
     NamedPage() : COrloPropertyPage("NAMED_PAGE", 0) {}
 };
 
-TEST(FindPage, NumbersFindNumbersAndNamesFindEqualNames) {
+TEST(FindPage, FindsByNumberOrName) {
     GraphicKit kit;
     TestSheet sheet(kit);
     auto* named = new NamedPage;
@@ -95,7 +95,7 @@ TEST(SheetResult, OkIsOneAndEscapeCancels) {
     EXPECT_EQ(kit[0].writes.size(), 1u);
 }
 
-TEST(SheetMoves, CloseTheActivePagesDropDownLists) {
+TEST(SheetMoves, CloseDropDownListsOfTheActivePage) {
     GraphicKit kit;
     TestSheet sheet(kit);
     sheet.Add([](CDataExchange*) {});

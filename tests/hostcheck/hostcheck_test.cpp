@@ -94,7 +94,7 @@ TEST(HostcheckProgram, ReportsEachFaultAndEachRequirementCanFail) {
         EXPECT_EQ(failed.count(requirement), 1u) << "no fault violates: " << requirement;
 }
 
-TEST(HostcheckProgram, ReportsWhyNothingCanBeChecked) {
+TEST(HostcheckProgram, ReportsWhyADatabaseCannotBeChecked) {
     struct Row {
         const char* arguments;
         const char* message;

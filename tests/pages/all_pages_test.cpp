@@ -51,7 +51,7 @@ protected:
     HostFrame frame;
 };
 
-TEST_F(AllPages, EverySelectionGetsThePagesThatItDeserves) {
+TEST_F(AllPages, EverySelectionGetsItsPages) {
     const std::pair<int, Titles> rows[] = {
         {0, {"General"}},
         {kShapes, {"General", "Pen", "Brush"}},
@@ -69,7 +69,7 @@ TEST_F(AllPages, EverySelectionGetsThePagesThatItDeserves) {
 }
 
 // Every page is activated and left by its tab, then OK.
-TEST_F(AllPages, UntouchedPagesWriteNothing) {
+TEST_F(AllPages, UneditedPagesWriteNothing) {
     kinds.Select(kEverything);
     const DrawingState before = State();
     for (const bool ok : {true, false}) {
@@ -131,7 +131,7 @@ TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
     });
 }
 
-TEST_F(AllPages, AnInvalidValueKeepsPageFocusAndText) {
+TEST_F(AllPages, InvalidValueKeepsPageFocusAndText) {
     struct {
         int page, control;
         const char* text;

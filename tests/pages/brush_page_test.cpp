@@ -77,7 +77,7 @@ TEST_F(BrushPage, OneEditOverDifferingBrushesChangesOneProperty) {
          {kPropBrushColor, [](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); }, int{kDarkest}}});
 }
 
-TEST_F(BrushPage, TheStyleDecidesWhichControlsMakeSense) {
+TEST_F(BrushPage, StyleDeterminesEnabledControls) {
     const struct {
         int style;
         bool color, hatch, mode;
@@ -161,7 +161,7 @@ TEST_F(BrushPage, UneditedNumbersAreNotValidated) {
     }
 }
 
-TEST_F(BrushPage, AnAngleThatCannotBeWrittenLeavesItsFieldBlank) {
+TEST_F(BrushPage, AngleThatCannotBeFormattedIsBlank) {
     Add("Cross", kRed, 1, -HUGE_VAL, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
         EXPECT_EQ(user.Text(IDC_BRUSH_ANGLE), "");
@@ -174,7 +174,7 @@ TEST_F(BrushPage, AnAngleThatCannotBeWrittenLeavesItsFieldBlank) {
     });
 }
 
-TEST_F(BrushPage, ArrowsUpAndDownAgainLeaveTheAngleAsItWas) {
+TEST_F(BrushPage, ArrowsUpAndDownRestoreTheAngle) {
     constexpr double kOdd = 0.123456789012345;
     Add("Cross", kRed, 2, kOdd, 0, 0);
     RunOk([](SheetDriver& user) {
@@ -244,7 +244,7 @@ TEST_F(BrushPage, ArrowsTurnTheAngleByOneUnit) {
     });
 }
 
-TEST_F(BrushPage, ThePreviewFollowsTheControlsAtAScaleOfItsOwn) {
+TEST_F(BrushPage, ThePreviewFollowsTheControlsAtItsOwnScale) {
     Add("Cross", kRed, 1000, 0, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
         EXPECT_NEAR(std::sqrt(2.0) / 20, Previewed(page, kPropBrushScale), 1e-6) << "two families of spacing 1";

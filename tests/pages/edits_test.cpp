@@ -304,7 +304,7 @@ void Edits::Continue(SheetDriver& user, CGraphicPropertyPage& page, Ending endin
 }
 
 // Types in some fields and undoes or retypes part of them; changes and restores some lists and buttons.
-TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
+TEST_F(Edits, StoreTheHostsValueOrKeepEveryBit) {
     constexpr unsigned int kPages[] = {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE, IDD_INSERT_PAGE};
     for (int n = 0; n < static_cast<int>(std::size(kPages) * std::size(kEndings)); ++n) {
         const unsigned int id = kPages[static_cast<size_t>(n) % std::size(kPages)];
@@ -369,7 +369,7 @@ TEST_F(Edits, StoreWhatTheHostReadsOrLeaveTheLastBit) {
 }
 
 // Opens and closes lists without a selection, which are those for differing values.
-TEST_F(Edits, AListThatWasOpenedAndClosedChoosesNothing) {
+TEST_F(Edits, OpeningAndClosingAListSelectsNothing) {
     for (const unsigned int id : {IDD_GENERAL_PAGE, IDD_PEN_PAGE, IDD_BRUSH_PAGE, IDD_TEXT_PAGE})
         for (const bool walk : {false, true}) {
             MakeSelection(id);

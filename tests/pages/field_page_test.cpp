@@ -186,7 +186,7 @@ TEST_P(FieldPageKinds, WithoutThePropertyTheFieldIsDisabledAndEmpty) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_P(FieldPageKinds, AReadOnlyRowTakesNoEdit) {
+TEST_P(FieldPageKinds, ReadOnlyRowCannotBeEdited) {
     table.rows[0].readOnly = true;
     Add(GetParam().value);
     RunOk([&](SheetDriver& user) {
@@ -231,7 +231,7 @@ INSTANTIATE_TEST_SUITE_P(All, FieldPageKinds, ::testing::ValuesIn(kKinds),
 
 // ---- What is refused while editing
 
-TEST_F(FieldPage, AnInvalidFieldKeepsThePageAndWritesNothing) {
+TEST_F(FieldPage, InvalidFieldKeepsThePageAndWritesNothing) {
     struct {
         FieldKind kind;
         double min, max;
@@ -272,7 +272,7 @@ TEST_F(FieldPage, AnInvalidFieldKeepsThePageAndWritesNothing) {
     }
 }
 
-TEST_F(FieldPage, ALimitIsShownAsItIsTyped) {
+TEST_F(FieldPage, LimitsAreShownInTheFormatOfInput) {
     Add(1);
     FieldRow row = Row(FieldKind::Angle);
     row.max = std::acos(-1.0);
@@ -286,7 +286,7 @@ TEST_F(FieldPage, ALimitIsShownAsItIsTyped) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_F(FieldPage, ARowChecksItsValue) {
+TEST_F(FieldPage, RowValidatesItsValue) {
     Add(2);
     FieldRow row = Row(FieldKind::Integer);
     row.check = [](const FieldValue& value) {
@@ -303,7 +303,7 @@ TEST_F(FieldPage, ARowChecksItsValue) {
     EXPECT_EQ(kit[0].Number(kProperty), 4);
 }
 
-TEST_F(FieldPage, WhatTheHostRefusesIsCounted) {
+TEST_F(FieldPage, RejectedValuesAreCounted) {
     Add(2);
     Add(2);
     kit[1].refused = kProperty;
@@ -313,21 +313,21 @@ TEST_F(FieldPage, WhatTheHostRefusesIsCounted) {
     EXPECT_EQ(boxes.OnlyText(), "1 of 2 graphics could not be changed.");
 }
 
-TEST_F(FieldPage, AListShowsChoicesWithoutTheirMnemonics) {
+TEST_F(FieldPage, ListShowsChoicesWithoutMnemonics) {
     Add(1);
     SetRow(Row(FieldKind::Choice));
     table.rows[0].choices = {"&None", "Fire && smoke", "L&ow", "High"};
     RunOk([&](SheetDriver& user) { EXPECT_EQ(Shown(user, kField), "Fire & smoke"); });
 }
 
-TEST_F(FieldPage, AFaceThatTheSystemLacksIsShown) {
+TEST_F(FieldPage, MissingFaceIsShown) {
     Add("Not Installed");
     SetRow(Row(FieldKind::FontFace));
     RunOk([&](SheetDriver& user) { EXPECT_EQ(Shown(user, kField), "Not Installed"); });
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_F(FieldPage, ATextThatIsRestoredIsNoEdit) {
+TEST_F(FieldPage, RestoredTextIsNotAnEdit) {
     kit.Add({{kProperty, 1.23456789012345}, {kOther, "stays"}});
     SetRow(Row(FieldKind::Number));
     RunOk([&](SheetDriver& user) {
@@ -340,7 +340,7 @@ TEST_F(FieldPage, ATextThatIsRestoredIsNoEdit) {
 
 // ---- Buttons, help, preview, filter
 
-TEST_F(FieldPage, AButtonReloadsWhatIsNotEdited) {
+TEST_F(FieldPage, ButtonReloadsUneditedFields) {
     Add(1);
     table.rows = {Row(FieldKind::Integer), Row(FieldKind::Text, "&Other:", kOther), Row(FieldKind::Button, "...", "")};
     table.rows[2].press = [&] {
@@ -358,7 +358,7 @@ TEST_F(FieldPage, AButtonReloadsWhatIsNotEdited) {
     EXPECT_EQ(kit.Writes(), 1);
 }
 
-TEST_F(FieldPage, TheFocusTellsTheHelpOfTheField) {
+TEST_F(FieldPage, FocusReportsTheHelpOfTheField) {
     Add(1);
     SetRow(Row(FieldKind::Integer));
     table.rows[0].help = "How many";
@@ -374,7 +374,7 @@ TEST_F(FieldPage, TheFocusTellsTheHelpOfTheField) {
               (std::vector<std::string>{"How many", "", "How many"}));
 }
 
-TEST_F(FieldPage, ThePreviewFollowsTheRowsThatShow) {
+TEST_F(FieldPage, ThePreviewFollowsItsRows) {
     table.rows = {Row(FieldKind::Color, "&Color:", kPropPenColor), Row(FieldKind::Number, "&Value:", kPropPenWidth)};
     table.rows[0].inPreview = true;
     GraphicStruct* const added = ::GraphicAdd(::DrawingGetRoot(kit.Drawing()), ::GraphicNewEx(kGraphicPenBrush, 0, 1));
@@ -390,7 +390,7 @@ TEST_F(FieldPage, ThePreviewFollowsTheRowsThatShow) {
     });
 }
 
-TEST_F(FieldPage, IsThereOnlyForGraphicsThatItAccepts) {
+TEST_F(FieldPage, IsAddedOnlyForAcceptedGraphics) {
     kit.Add({{kProperty, 1}, {kOther, ""}}, kGraphicText);
     kit.Add({{kProperty, 2}, {kOther, ""}}, kGraphicInsert);
     SetRow(Row(FieldKind::Integer));
@@ -444,7 +444,7 @@ void ExpectNoOverlap(HWND page) {
     }
 }
 
-TEST_F(FieldPage, EveryKindHasItsPlace) {
+TEST_F(FieldPage, EveryKindIsLaidOutWithoutOverlap) {
     Add(1);
     table.rows.clear();
     for (auto kind = FieldKind::Text; kind <= kLastFieldKind;
@@ -469,7 +469,7 @@ TEST_F(FieldPage, ThirtyRowsFitWithoutScrolling) {
     });
 }
 
-TEST_F(FieldPage, ASmallOneLeavesTheOtherPagesTheirSize) {
+TEST_F(FieldPage, SmallPageDoesNotShrinkTheOthers) {
     Add(1);
     SetRow(Row(FieldKind::Text));
     TestSheet sheet(kit);
@@ -509,7 +509,7 @@ TEST_F(FieldPage, TwoHundredRowsScrollToTheFocus) {
     EXPECT_EQ(kit[0].Text("P199"), "edited");
 }
 
-TEST_F(FieldPage, TheTabKeyVisitsTheFieldsInTheOrderOfTheRows) {
+TEST_F(FieldPage, TabKeyFollowsTheOrderOfTheRows) {
     std::map<std::string, KitValue> values;
     for (int i = 0; i < 24; ++i)
         values["P" + std::to_string(i)] = "x";
@@ -524,7 +524,7 @@ TEST_F(FieldPage, TheTabKeyVisitsTheFieldsInTheOrderOfTheRows) {
     });
 }
 
-TEST_F(FieldPage, ALaterMnemonicGivesWay) {
+TEST_F(FieldPage, LaterDuplicateMnemonicIsRemoved) {
     kit.Add({{"A", "a"}, {"B", "b"}, {"C", "c"}});
     table.rows = {Row(FieldKind::Text, "&Name:", "A"), Row(FieldKind::Text, "&number && more:", "B"),
                   Row(FieldKind::Text, "Nu&mber:", "C")};
@@ -553,7 +553,7 @@ TEST_F(FieldPage, EveryFieldHasAName) {
     });
 }
 
-TEST_F(FieldPage, FollowsTheDirectionOfTheOwner) {
+TEST_F(FieldPage, HasTheReadingDirectionOfTheOwner) {
     Add(1);
     SetRow(Row(FieldKind::Text));
     ::PropPageInit();
@@ -580,7 +580,7 @@ struct WrongTable {
     const char* message;
 };
 
-TEST_F(FieldPage, AWrongTableIsRefusedByItsRow) {
+TEST_F(FieldPage, InvalidTableIsRejectedWithItsRow) {
     const WrongTable cases[] = {
         {"no rows", [](FieldTable& t) { t.rows.clear(); }, "the table does not have 1 to 1000 rows"},
         {"too many", [](FieldTable& t) { t.rows.resize(1001); }, "the table does not have 1 to 1000 rows"},

@@ -48,7 +48,7 @@ TEST_F(GeneralPage, KeepsUneditedDifferingValues) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
-TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
+TEST_F(GeneralPage, OneEditChangesOnePropertyOfAll) {
     Add(walls, "a");
     Add(doors, "b");
     ExpectEachChangesOneProperty({{kPropInfo, [](SheetDriver& user) { user.Type(IDC_INFO, "both"); }, "both"},
@@ -61,7 +61,7 @@ TEST_F(GeneralPage, OneEditReachesAllAndNothingElse) {
 }
 
 // Loading again, as Apply does, results in the same display.
-TEST_F(GeneralPage, TextsThatDifferShowAsSuchAtEveryLoad) {
+TEST_F(GeneralPage, DifferingTextsAreShownAtEveryLoad) {
     Add(walls, "a");
     Add(walls, "b");
     EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
@@ -78,7 +78,7 @@ TEST_F(GeneralPage, TextsThatDifferShowAsSuchAtEveryLoad) {
     EXPECT_EQ(kit[1].Text(kPropInfo), "<Indeterminate>x");
 }
 
-TEST_F(GeneralPage, ATextMayBeginWithTheByteOfTheMarker) {
+TEST_F(GeneralPage, TextMayBeginWithTheByteOfTheMarker) {
     for (int i = 0; i < 2; ++i)
         Add(walls, "\xFF\xF1");
     RunOk([&](SheetDriver& user) {
@@ -193,7 +193,7 @@ TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {
     EXPECT_NE(*orlo::host::Members(copy).begin(), nullptr);
 }
 
-TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
+TEST_F(StylePart, UnlistedNameKeepsThePage) {
     EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
                   user.Type(IDC_STYLE_NAME, "Girder");
                   user.Focus(IDC_INFO);
@@ -217,7 +217,7 @@ TEST_F(StylePart, AnUnlistedNameFallsBackAndHoldsThePage) {
               }));
 }
 
-TEST_F(StylePart, ButtonsFollowEverySelection) {
+TEST_F(StylePart, ButtonsAreUpdatedByEverySelection) {
     EXPECT_EQ(IDCANCEL, RunOver(column, [](SheetDriver& user) {
                   List(user, "Standard");
                   EXPECT_FALSE(IsEnabled(user, IDC_STYLE_DELETE)) << "the application's own";
@@ -240,7 +240,7 @@ TEST_F(StylePart, ButtonsFollowEverySelection) {
               }));
 }
 
-TEST_F(StylePart, AnotherProgramInFrontChoosesNothing) {
+TEST_F(StylePart, LosingActivationSelectsNothing) {
     EXPECT_EQ(RunOver(column,
                       [](SheetDriver& user) {
                           user.Type(IDC_STYLE_NAME, "Beam");

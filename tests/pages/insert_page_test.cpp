@@ -101,7 +101,7 @@ protected:
     std::vector<GraphicStruct*> insertions;
 };
 
-TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
+TEST_F(InsertPage, ShowsEqualPartsAndAsterisksForDifferingOnes) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
         std::string texts;
@@ -111,7 +111,7 @@ TEST_F(InsertPage, ShowsEqualInsertionsAndStarsForWhatDiffers) {
     });
 }
 
-TEST_F(InsertPage, AnUneditedPageWritesNothing) {
+TEST_F(InsertPage, UneditedPageWritesNothing) {
     // Digits that no field shows, a scale out of range, a collapsed axis, and a position out of range of a float: each
     // alone, then all together.
     const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
@@ -174,7 +174,7 @@ TEST_F(InsertPage, OneEditChangesOnePartOfEach) {
 }
 
 // A field whose original text was restored, by undo or by typing, is not edited.
-TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
+TEST_F(InsertPage, RestoredTextWritesNothing) {
     Add({{1234567.891, 2, 0}, {1.0 / 3, 2, 1}, {0, 0, 30 * kDegree}});
     Add({{1234567.891, 5, 0}, {1.0 / 3, 3, 1}, {0, 0, 60 * kDegree}});
     const Vertices before = All();
@@ -208,7 +208,7 @@ TEST_F(InsertPage, AFieldThatShowsItsFirstTextAgainWritesNothing) {
 }
 
 // Otherwise "12d" would be reported while "12d30" is being typed.
-TEST_F(InsertPage, ARotationThatGoesOnAfterItsNumberIsReportedWhenItsFieldIsLeft) {
+TEST_F(InsertPage, RotationWithUnitsIsValidatedWhenItsFieldIsLeft) {
     AddDiffering();
     const Vertices before = All();
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
@@ -232,7 +232,7 @@ TEST_F(InsertPage, ARotationThatGoesOnAfterItsNumberIsReportedWhenItsFieldIsLeft
 }
 
 // An existing preview block is used, and is removed with the page.
-TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
+TEST_F(InsertPage, CancelChangesNoInsertionsUndoStepsOrBlocks) {
     AddDiffering();
     const uint16_t own = ::BlocksAddBlock(blocks, kPreviewBlock, ::GraphicNewEx(kGraphicVertices, 0, 1));
     Run([&](SheetDriver&, CGraphicPropertyPage& page) {
@@ -259,7 +259,7 @@ TEST_F(InsertPage, CancelLeavesInsertionsUndoAndBlocksAsTheyWere) {
 
 // The message appears while the user types, unless the text may become a number; OK then keeps page, text and focus
 // until the value is valid.
-TEST_F(InsertPage, ReportsABadNumberAtOnceAndKeepsThePage) {
+TEST_F(InsertPage, ReportsAnInvalidNumberImmediatelyAndKeepsThePage) {
     AddDiffering();
     const Vertices before = All();
     const struct {
@@ -329,7 +329,7 @@ TEST_F(InsertPage, ThePreviewFollowsTyping) {
     });
 }
 
-TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeTurnedMovedAndRepaired) {
+TEST_F(InsertPage, InsertionsWithCollapsedAxesCanBeRotatedMovedAndRescaled) {
     Add({{0, 0, 0}, {2, 2, 0}, {0, 0, 30 * kDegree}});
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(user.Text(IDC_SCALE_Z), "0");

@@ -54,7 +54,7 @@ protected:
 };
 
 // Any orthogonal axes, including mirrored ones: parts and vertices are restored from each other.
-TEST_F(InsertPartsTest, RandomTransformationsComeBack) {
+TEST_F(InsertPartsTest, RandomTransformationsAreRestored) {
     std::mt19937_64 random(17);
     std::uniform_real_distribution<double> angle(-kPi, kPi), exponent(-3, 3), place(-100, 100);
     for (int i = 0; i < 20000; ++i) {
@@ -115,7 +115,7 @@ TEST_F(InsertPartsTest, KnownAxesHaveKnownParts) {
 
 // One or more axes may have no length: the others determine the rotation, and rotating back and forth does not change
 // it.
-TEST_F(InsertPartsTest, CollapsedAxesLeaveTheOthersAsTheyAre) {
+TEST_F(InsertPartsTest, CollapsedAxesDoNotAffectTheOthers) {
     std::mt19937_64 random(23);
     std::uniform_real_distribution<double> angle(-kPi, kPi);
     for (int missing = 0; missing < 8; ++missing)
@@ -136,7 +136,7 @@ TEST_F(InsertPartsTest, CollapsedAxesLeaveTheOthersAsTheyAre) {
         }
 }
 
-TEST_F(InsertPartsTest, AShearedInsertionIsMovedWithItsShearAndTurnedWithoutIt) {
+TEST_F(InsertPartsTest, ShearIsKeptByMovingAndLostByRotating) {
     SetAxes({2, 0, 0}, {1, 1, 0}, {0, 0, 1});
     InsertParts from;
     ASSERT_TRUE(ReadInsertParts(m_graphic, from));

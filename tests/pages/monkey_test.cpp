@@ -102,7 +102,7 @@ void ExpectValid(const DrawingState& state, int step) {
             << step << ": " << line;
 }
 
-TEST(Monkey, FindsNoWayToBreakTheSheet) {
+TEST(Monkey, CannotBreakTheSheet) {
     EveryKind kinds;
     HostFrame frame(kinds.Drawing());
     kinds.Select(kEverything);

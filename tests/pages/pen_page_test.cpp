@@ -83,7 +83,7 @@ TEST_F(PenPage, OneEditOverDifferingPensChangesOneProperty) {
          {kPropPenAlignment, [](SheetDriver& user) { user.Click(IDC_PEN_ALIGNMENT); }, 0}});
 }
 
-TEST_F(PenPage, TheWidthIsExpressedAnewWhenTheScaleSystemChanges) {
+TEST_F(PenPage, WidthIsConvertedWhenTheScaleSystemChanges) {
     AddEqual();
     RunOk([&](SheetDriver& user) {
         user.Type(IDC_PEN_WIDTH, "7 mm");
@@ -146,7 +146,7 @@ TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
 }
 
 // The next keystroke is meant for the field, not for the list of colors.
-TEST_F(PenPage, AnInvalidWidthGetsTheFocus) {
+TEST_F(PenPage, InvalidWidthGetsTheFocus) {
     for (const char* typed : {"abc", "100,5"}) {
         AddEqual();
         RunOk([&](SheetDriver& user) {
@@ -205,14 +205,14 @@ TEST_F(PenPage, RejectsInvalidWidthsAndWritesNothing) {
     }
 }
 
-TEST_F(PenPage, ALongWidthIsStoredAsTyped) {
+TEST_F(PenPage, LongWidthIsStoredAsTyped) {
     AddEqual();
     RunOk([](SheetDriver& user) { user.Type(IDC_PEN_WIDTH, "0000.0625000000000000 in"); });
     EXPECT_NEAR(0.0625, kit[0].Number(kPropPenWidth), 1e-9);
 }
 
 // The host does not know the unit, so a width on paper has no text.
-TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
+TEST_F(PenPage, WidthThatCannotBeFormattedIsBlank) {
     AddEqual();
     ::TableSetStringVar(kit.Drawing()->pUnits, kUnitPenWidth, "furlong");
     MessageBoxWatcher boxes;
@@ -240,7 +240,7 @@ TEST_F(PenPage, AWidthThatCannotBeWrittenLeavesItsFieldBlank) {
     EXPECT_EQ(-HUGE_VAL, kit[0].Number(kPropPenWidth));
 }
 
-TEST_F(PenPage, AStoredScaleOfZeroStaysUntilItIsReplaced) {
+TEST_F(PenPage, StoredScaleOfZeroStaysUntilEdited) {
     Add(1, 0, 0.0, dashed, 2, 1);
     RunOk([&](SheetDriver& user) { EXPECT_EQ(user.Text(IDC_PEN_SCALE), "1.17549e-38"); });
     EXPECT_EQ(kit.Writes(), 0);
@@ -249,7 +249,7 @@ TEST_F(PenPage, AStoredScaleOfZeroStaysUntilItIsReplaced) {
 }
 
 // The first click sets the opposite of the last determinate state; the indeterminate state never returns.
-TEST_F(PenPage, AnIndeterminateAlignmentTogglesFromItsFirstClick) {
+TEST_F(PenPage, IndeterminateAlignmentTogglesFromItsFirstClick) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
         int before = BST_INDETERMINATE;

@@ -48,7 +48,7 @@ void ExpectSpoken(HWND control) {
         EXPECT_FALSE(ShowsKey(spoken.Name(item))) << id << ": " << spoken.Name(item);
 }
 
-TEST(SpokenPages, NameEveryFieldAndItemInWords) {
+TEST(SpokenPages, NameEveryFieldAndItem) {
     EveryKind kinds;
     HostFrame frame(kinds.Drawing());
     kinds.Select(kEverything);
@@ -75,7 +75,7 @@ TEST(SpokenPages, NameEveryFieldAndItemInWords) {
     EXPECT_LT(30, fields);
 }
 
-TEST(SpokenPages, SeveralValuesAreSaidToVary) {
+TEST(SpokenPages, MultipleValuesAreReportedAsVaried) {
     EveryKind kinds;
     HostFrame frame(kinds.Drawing());
     kinds.Select(kShapes);

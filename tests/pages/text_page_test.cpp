@@ -86,7 +86,7 @@ TEST_F(TextPage, DifferingTextsShowNothingAndSurviveOk) {
 }
 
 // With two texts whose styles differ in every bit, one effect after the other is set; all other bits must not change.
-TEST_F(TextPage, AnEffectChangesItsBitAlone) {
+TEST_F(TextPage, EffectChangesOnlyItsBit) {
     KitGraphic& a = Add(kSans, 2, 0, kRed, 0);
     KitGraphic& b = Add(kSans, 2, 0, kRed, 0);
     for (int i = 0; i < 5; ++i) {
@@ -107,7 +107,7 @@ TEST_F(TextPage, AnEffectChangesItsBitAlone) {
     }
 }
 
-TEST_F(TextPage, TheFontStyleChangesItsTwoBitsAlone) {
+TEST_F(TextPage, FontStyleChangesOnlyItsTwoBits) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(Count(user, IDC_FONT_STYLE), 4);
@@ -126,7 +126,7 @@ TEST_F(TextPage, OneEditOverDifferingTextsChangesOneProperty) {
          {kPropTextFormat, [](SheetDriver& user) { user.Click(IDC_JUSTIFY_CENTER); }, 1}});
 }
 
-TEST_F(TextPage, AThirdStateOfAnEffectInWhichTextsAgreeIsOff) {
+TEST_F(TextPage, IndeterminateStateOfAnEqualEffectIsOff) {
     KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
     RunOk([&](SheetDriver& user) {
         user.Click(IDC_HIDDEN); // from checked to indeterminate
@@ -135,7 +135,7 @@ TEST_F(TextPage, AThirdStateOfAnEffectInWhichTextsAgreeIsOff) {
     EXPECT_EQ(text.Number(kPropTextStyle), 0);
 }
 
-TEST_F(TextPage, AChangeOfFontKeepsTheHeight) {
+TEST_F(TextPage, ChangingTheFontKeepsTheHeight) {
     KitGraphic& text = Add(kSans, 4.25, 0, kRed, 0);
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(Count(user, IDC_FONT_SIZE), 4) << "three configured, and the text's own";
@@ -178,7 +178,7 @@ TEST_F(TextPage, ChangingTheFontDoesNotEditTheHeight) {
 }
 
 // A text that is not a height, one that is longer than the field, and a blank field in a space without lengths.
-TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
+TEST_F(TextPage, HeightIsStoredAsTypedOrNotAtAll) {
     const struct {
         int space;
         const char* typed; // null for nothing
@@ -200,7 +200,7 @@ TEST_F(TextPage, AHeightIsStoredAsTypedOrNotAtAll) {
 }
 
 // Opens and closes each list without selecting: with F4 and Return, and by stepping through it and Escape.
-TEST_F(TextPage, AListThatWasOpenedAndClosedChoosesNothing) {
+TEST_F(TextPage, OpeningAndClosingAListSelectsNothing) {
     AddDiffering();
     kit.Add({{kPropTextFont, "No Such Font"}, {kPropTextSize, 1.0 / 3}}, kGraphicText);
     RunOk([&](SheetDriver& user) {
@@ -225,7 +225,7 @@ TEST_F(TextPage, AListThatWasOpenedAndClosedChoosesNothing) {
     EXPECT_EQ(kit[1].Text(kPropTextFont), kSerif);
 }
 
-TEST_F(TextPage, AMissingFontStaysWhenOtherPropertiesChange) {
+TEST_F(TextPage, MissingFontIsKeptWhenOtherPropertiesChange) {
     for (int i = 0; i < 2; ++i)
         Add("No Such Font", 2.123456789, 0, kRed, 0);
     RunOk([&](SheetDriver& user) {
@@ -279,7 +279,7 @@ TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
     ::TableSetStringVar(settings, kVarDecimalMark, ".");
 }
 
-TEST_F(TextPage, TextsThatOfferNothingLeaveTheDefaults) {
+TEST_F(TextPage, TextsWithoutPropertiesKeepTheDefaults) {
     kit.Add({}, kGraphicText);
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(user.Text(IDC_FONT_SIZE).find("8"), 0u) << user.Text(IDC_FONT_SIZE);

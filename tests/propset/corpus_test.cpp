@@ -57,7 +57,7 @@ class Corpus : public ::testing::TestWithParam<CorpusStream> {};
 INSTANTIATE_TEST_SUITE_P(Streams, Corpus, ::testing::ValuesIn(AllCorpusStreams()),
                          [](const auto& stream) { return CorpusTestName(stream.param.path); });
 
-TEST_P(Corpus, ReadsBackEqualWhatItWrites) {
+TEST_P(Corpus, ReadsBackWhatItWrites) {
     const std::optional<SetImage> image = Read(GetParam().Content());
     if (!image) return;
     const std::optional<orlo::Bytes> written = orlo::WriteSetImage(*image);
@@ -86,7 +86,7 @@ TEST_P(Corpus, HasTheExpectedFindings) {
 }
 
 // The classes have the same bytes for every value with a stored form; other properties have no value.
-TEST_P(Corpus, GivesTheClassesTheSameBytes) {
+TEST_P(Corpus, ClassesHaveTheSameBytes) {
     const std::vector<uint8_t> bytes = GetParam().Content();
     MemoryStream stream(bytes);
     CPropertySet set;
@@ -128,7 +128,7 @@ TEST_P(Corpus, GivesTheClassesTheSameBytes) {
 
 // A million entries of a table, or of the list of sections, that all point to the same place: linear work ends at once,
 // quadratic work would exceed the time limit.
-TEST(HostileImage, OfManyEntriesForOnePlace) {
+TEST(HostileImage, WithManyEntriesForOneOffset) {
     constexpr uint32_t kMany = 1000000;
     constexpr size_t kEntry = 8, kListEntry = 20, kHeader = 28;
     const auto put = [](orlo::Bytes& bytes, size_t at, uint32_t number) { std::memcpy(&bytes[at], &number, 4); };

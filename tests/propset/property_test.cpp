@@ -89,7 +89,7 @@ TEST_P(StoredValue, KeepsItsStoredFormAndPointsIntoIt) {
     }
 }
 
-TEST_P(StoredValue, GoesToTheStreamPaddedAndComesBack) {
+TEST_P(StoredValue, IsWrittenPaddedAndReadBack) {
     const Row& row = GetParam();
     Bytes input = row.input;
     CProperty written(5, input.data(), row.type);
@@ -175,7 +175,7 @@ const TextRow kTextRows[] = {
     {"NoForm", "1", VT_DISPATCH, {}},
 };
 
-TEST(TextValue, IsParsedUnderItsType) {
+TEST(TextValue, IsParsedByItsType) {
     for (const TextRow& row : kTextRows) {
         SCOPED_TRACE(row.name);
         CProperty property;
@@ -246,14 +246,14 @@ TEST(Property, RejectsTypesWithoutAStoredForm) {
     }
 }
 
-TEST(Property, TakesItsOwnValueAsSource) {
+TEST(Property, AcceptsItsOwnValueAsSource) {
     char text[] = "some text that is on the heap";
     CProperty property(1, text, VT_LPSTR);
     EXPECT_EQ(property.Set(property.Get()), 1);
     EXPECT_STREQ(static_cast<char*>(property.Get()), text);
 }
 
-TEST(Property, IsNotWalkedBeyondItsBlockUnderAnotherType) {
+TEST(Property, IsNotReadBeyondItsBlockAfterATypeChange) {
     short number = -1;
     CProperty property(1, &number, VT_I2);
     for (const DWORD type : {DWORD{VT_R8}, DWORD{VT_LPSTR}, DWORD{VT_LPWSTR}, DWORD{VT_BLOB}}) {
@@ -269,7 +269,7 @@ TEST(Property, IsNotWalkedBeyondItsBlockUnderAnotherType) {
     EXPECT_EQ(property.WriteToStream(&stream), 0);
 }
 
-TEST(Property, KeepsWhatCameOfACutValue) {
+TEST(Property, KeepsTheBytesOfATruncatedValue) {
     MemoryStream stream(LittleEndian(VT_LPSTR) + "08000000"_hex + "616263"_hex);
     CProperty property;
     EXPECT_EQ(property.ReadFromStream(&stream), 0);
@@ -278,7 +278,7 @@ TEST(Property, KeepsWhatCameOfACutValue) {
     EXPECT_EQ(size, 8u);
 }
 
-TEST(Property, AllocatesNothingForALengthOutOfProportion) {
+TEST(Property, AllocatesNothingForAnImplausibleLength) {
     for (const Bytes& hostile :
          {LittleEndian(VT_LPSTR) + "ffffffff61"_hex, LittleEndian(VT_LPWSTR) + "ffffffff61"_hex,
           LittleEndian(VT_BLOB) + "00000070"_hex, LittleEndian(VT_VECTOR | VT_R8) + "ffffffff"_hex,

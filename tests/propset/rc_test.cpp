@@ -227,7 +227,7 @@ std::shared_ptr<CPropertySet> SetOfOddNames() {
 }
 
 // Also sections of real files: texts padded after their NULs, several sections, dictionaries, thumbnails.
-TEST_F(CompiledScript, OfEverySetReadsBackAsTheSet) {
+TEST_F(CompiledScript, OfEverySetEqualsTheSet) {
     std::vector<std::function<void(CRCFile&)>> writers;
     std::vector<std::string> names;
     std::vector<Bytes> images;

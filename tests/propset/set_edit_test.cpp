@@ -36,7 +36,7 @@ Bytes OddSet() {
     return bytes;
 }
 
-TEST(SetEdit, UntouchedSectionsKeepNamesAndTypesThatNoReaderKnows) {
+TEST(SetEdit, OtherSectionsKeepUnknownNamesAndTypes) {
     const Bytes before = OddSet();
     orlo::SetImage set = Read(before);
     const size_t size = set.sections.at(1).size;
@@ -55,7 +55,7 @@ TEST(SetEdit, UntouchedSectionsKeepNamesAndTypesThatNoReaderKnows) {
     EXPECT_EQ(FindName(named.sections.at(1), ""), nullptr);
 }
 
-TEST(SetEdit, ConvertsAllOfASectionOrNothing) {
+TEST(SetEdit, ConvertsASectionCompletelyOrNotAtAll) {
     orlo::SetImage set;
     orlo::ImageSection& section = SectionFor(set, orlo::kSummaryFormat, 1252);
     StoreValue(section, 2, VT_LPSTR, TextBytes("Caf\xC3\xA9", 1252));

@@ -40,7 +40,7 @@ int NumberOf(CPropertySection& section, DWORD id) {
     return value != nullptr ? *static_cast<const int*>(value) : -1;
 }
 
-TEST(Section, NameWithoutPropertiesHasItsSlot) {
+TEST(Section, NameWithoutPropertiesIsWritten) {
     CPropertySection section;
     EXPECT_EQ(Written(section), Bytes(8)) << "nothing at all";
     section.SetName(2, "a");
@@ -77,7 +77,7 @@ TEST(Section, ReadsNamesOf256BytesAndNoLongerOnes) {
     }
 }
 
-TEST(Section, NamesDisregardCase) {
+TEST(Section, NamesIgnoreCase) {
     CPropertySection section;
     EXPECT_EQ(section.SetName(5, "PenWidth"), 1);
     DWORD id = 0;
@@ -93,7 +93,7 @@ TEST(Section, NamesDisregardCase) {
     EXPECT_EQ(section.GetID("\xE9t\xE9", &id), 1);
 }
 
-TEST(Section, LongNamesAreCutOnTheStream) {
+TEST(Section, LongNamesAreTruncatedOnTheStream) {
     for (const int length : {253, 254, 255, 256, 300}) {
         CPropertySection section;
         section.SetName(2, CString('n', length));
@@ -110,7 +110,7 @@ TEST(Section, LongNamesAreCutOnTheStream) {
     }
 }
 
-TEST(Section, DictionaryThatCannotBeReadKeepsWhatCameBefore) {
+TEST(Section, DamagedDictionaryKeepsItsFirstNames) {
     const Bytes good = "03000000 02000000 02000000 6100"_hex;
     for (const Bytes& bad : {"03000000 01010000"_hex + Bytes(257), "03000000 ffffffff"_hex, "0300"_hex, Bytes()}) {
         MemoryStream stream(good + bad);
@@ -167,7 +167,7 @@ TEST(Section, SetAddsKeepsTypesAndRemoves) {
     EXPECT_EQ(section.GetCount(), 0u);
 }
 
-TEST(Section, LooksUpTheFirstOfManyThroughEveryChange) {
+TEST(Section, FindsTheFirstOfManyAfterEveryChange) {
     CPropertySection section;
     for (DWORD id = 1; id <= 100; ++id)
         AddNumber(section, id, static_cast<int>(id));
@@ -196,7 +196,7 @@ TEST(Section, LooksUpTheFirstOfManyThroughEveryChange) {
     EXPECT_EQ(section.GetName(301, name), 0);
 }
 
-TEST(Section, BadValueLeavesTheOthers) {
+TEST(Section, DamagedValueDoesNotAffectOthers) {
     MemoryStream stream("30000000 03000000 02000000 20000000 03000000 ffffff7f 04000000 28000000 03000000"
                         "05000000 09000000 00000000"_hex);
     CPropertySection section;
@@ -218,7 +218,7 @@ TEST(Set, EmptyIsItsHeader) {
     EXPECT_EQ(CPropertySet().GetOSVersion() >> 16, 2u);
 }
 
-TEST(Set, IsByteForByteTheExampleOfItsDocument) {
+TEST(Set, EqualsTheDocumentedExample) {
     std::ifstream document(ORLO_DOCS "/property-sets.md");
     std::string line, digits;
     while (std::getline(document, line))
@@ -246,7 +246,7 @@ TEST(Set, IsByteForByteTheExampleOfItsDocument) {
     EXPECT_EQ(Written(read), expected);
 }
 
-TEST(Set, KeepsItsSectionsApart) {
+TEST(Set, KeepsSectionsSeparate) {
     CPropertySet set;
     int number = 3;
     EXPECT_EQ(set.Set(kFormat, 2, &number), 0) << "no type known";
@@ -275,7 +275,7 @@ TEST(Set, KeepsItsSectionsApart) {
     EXPECT_EQ(set.GetSection(kFormat), nullptr);
 }
 
-TEST(Set, ReadsWithoutJudgingByteOrderAndVersion) {
+TEST(Set, ReadsAnyByteOrderMarkAndVersion) {
     CPropertySet set;
     int number = 7;
     set.Set(kFormat, 2, &number, VT_I4);
@@ -320,7 +320,7 @@ TEST(Set, ShortWriteAtEveryByteFails) {
     EXPECT_EQ(Written(set), whole) << "the set is as it was";
 }
 
-TEST(Set, ShortReadAtEveryByteGivesNoMoreThanCame) {
+TEST(Set, ShortReadAtEveryByteReturnsOnlyCompleteValues) {
     CPropertySet set;
     Fill(set);
     const Bytes whole = Written(set);
@@ -341,7 +341,7 @@ TEST(Set, ShortReadAtEveryByteGivesNoMoreThanCame) {
 }
 
 // Overlapping tables, values and sections: their declared size is quadratic in the size of the stream.
-TEST(Set, OverlaidStreamsEndSoon) {
+TEST(Set, OverlappingSectionsAreReadInBoundedTime) {
     const Bytes header = "feff0000 00000000"_hex + Bytes(16);
     Bytes sections = header + LittleEndian(3000);
     for (int i = 0; i < 3000; ++i)

@@ -40,7 +40,7 @@ const Row kRows[] = {
     {"HighBytesAreText", "\xe9t\xe9 \xa0", {"\xe9t\xe9", "\xa0"}},
 };
 
-TEST(Tokens, AreCountedAndCutAlike) {
+TEST(Tokens, AreCountedAndExtractedAlike) {
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(CountTokens(row.text), static_cast<int>(row.tokens.size()));
@@ -48,7 +48,7 @@ TEST(Tokens, AreCountedAndCutAlike) {
     }
 }
 
-TEST(Tokens, WhiteSpaceCountsNoneAndCutsOneEmpty) {
+TEST(Tokens, WhiteSpaceHasNoTokenAndExtractsAnEmptyOne) {
     EXPECT_EQ(CountTokens(" \t "), 0);
     EXPECT_EQ(Tokens(" \t "), std::vector<std::string>{""});
 }

@@ -57,7 +57,7 @@ struct Row {
 
 class ValueForm : public ::testing::TestWithParam<Row> {};
 
-TEST_P(ValueForm, MeansWhatItSaysAndIsWrittenTheSame) {
+TEST_P(ValueForm, IsDecodedAndEncodedAlike) {
     const Row& row = GetParam();
     orlo::Value value;
     ASSERT_TRUE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), row.codePage, value));
@@ -117,7 +117,7 @@ const Row kRows[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Types, ValueForm, ::testing::ValuesIn(kRows), [](const auto& row) { return row.param.name; });
 
-TEST(Value, ReadsWhatItWouldNotWrite) {
+TEST(Value, ReadsFormsThatItDoesNotWrite) {
     const struct {
         uint32_t type;
         Bytes bytes;
@@ -168,7 +168,7 @@ TEST(Value, RejectsInvalidValues) {
     }
 }
 
-TEST(Value, IsNotWrittenWhereItDoesNotFit) {
+TEST(Value, IsNotWrittenOutOfRange) {
     const auto value = [](uint32_t type, auto data) {
         orlo::Value made;
         made.type = type;

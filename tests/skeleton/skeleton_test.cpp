@@ -131,7 +131,7 @@ TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
     EXPECT_DOUBLE_EQ(CALL(host, GraphicVertexNext)(Member(2), &cookie, 0, 0xFFFF)->x, 3);
 }
 
-TEST_F(Skeleton, DrawsThePreviewInTheChosenColor) {
+TEST_F(Skeleton, DrawsThePreviewInTheSelectedColor) {
     Run([](SheetDriver& user) {
         user.SelectPage(1);
         user.Choose(IDC_COLOR, 0);
@@ -156,7 +156,7 @@ protected:
     ~SkeletonWithStubs() override { ::_putenv_s(kFaultVariable, ""); }
 };
 
-TEST_F(SkeletonWithStubs, LosesPicturesOnly) {
+TEST_F(SkeletonWithStubs, LosesOnlyPictures) {
     EXPECT_EQ(Run([](SheetDriver& user) {
                   user.SelectPage(kPen);
                   user.Choose(IDC_LINE_STYLE_LIST, 1);

@@ -121,7 +121,7 @@ TEST_F(Edit, CustomPropertiesOfEveryType) {
     EXPECT_EQ(left["Sheets"], 3);
 }
 
-TEST_F(Edit, RemovingLeavesTheOthers) {
+TEST_F(Edit, RemovingDoesNotAffectOtherFields) {
     const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
     const auto before = Content(file).Values();
     ExpectDone({"remove", file.string(), "application", "--custom", "MyCustomNumber"});
@@ -136,7 +136,7 @@ TEST_F(Edit, RemovingLeavesTheOthers) {
 }
 
 // A property linked to a place in the document has a companion property for that place, with a flag added to its ID.
-TEST_F(Edit, LinkedCustomPropertiesKeepTheirLinksToThemselves) {
+TEST_F(Edit, LinkedCustomPropertiesKeepTheirCompanionProperties) {
     constexpr uint32_t kLink = 0x01000000;
     const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
     std::set<uint32_t> before, after;
@@ -164,7 +164,7 @@ TEST_F(Edit, LinkedCustomPropertiesKeepTheirLinksToThemselves) {
 }
 
 // A name that is not text in the code page is kept but not shown.
-TEST_F(Edit, NamesThatAreNotTextStayInTheSectionsThatAreNotNamed) {
+TEST_F(Edit, UndecodableNamesAreKept) {
     const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
     const orlo::Bytes odd = {'M', 0x81, 'y'};
     uint32_t id = 0;
@@ -182,7 +182,7 @@ TEST_F(Edit, NamesThatAreNotTextStayInTheSectionsThatAreNotNamed) {
     });
 }
 
-TEST_F(Edit, AFieldWithoutValueGetsOne) {
+TEST_F(Edit, EmptyFieldGetsAValue) {
     const fs::path file = Document("test11--695187.doc");
     EditSet(file, kSummary, [](orlo::SetImage& set) {
         for (const uint32_t id : {2u, 14u}) {
@@ -216,7 +216,7 @@ TEST_F(Edit, TextsAreWrittenInTheCodePageOfTheirSet) {
     EXPECT_EQ(japanese.Values(), expected) << "heading-pairs and the rest say the same in UTF-8";
 }
 
-TEST_F(Edit, NamesOutsideOfTheCodePageTurnItsSetToUtf8) {
+TEST_F(Edit, NamesOutsideOfTheCodePageConvertTheSetToUtf8) {
     const fs::path file = Document("testEXCEL-custom-props--fff0cb.xls");
     ExpectDone({"set", file.string(), "--custom", "名前=text:value"});
     const Content content(file);
@@ -314,7 +314,7 @@ TEST_F(Edit, RejectedEditsChangeNothing) {
     EXPECT_EQ(FileBytes(file), before);
 }
 
-TEST_F(Edit, DamagedDocumentsAreLeftAlone) {
+TEST_F(Edit, DamagedDocumentsAreNotChanged) {
     for (const char* name : {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", "loop-in-alloc--d3743f.bin"}) {
         const fs::path file = Document(name);
         const std::vector<unsigned char> before = FileBytes(file);
@@ -323,7 +323,7 @@ TEST_F(Edit, DamagedDocumentsAreLeftAlone) {
     }
 }
 
-TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
+TEST_F(Edit, DocumentThatCannotBeWrittenIsUnchanged) {
     const fs::path file = Document("test11--695187.doc");
     const fs::path other = Document("25695--d41532.xls");
     const std::vector<unsigned char> before = FileBytes(file);
@@ -345,7 +345,7 @@ TEST_F(Edit, ADocumentThatCantBeWrittenStaysAsItIs) {
     EXPECT_EQ(FileBytes(file), before);
 }
 
-TEST_F(Edit, AttributesStay) {
+TEST_F(Edit, AttributesArePreserved) {
     const fs::path file = Document("test11--695187.doc");
     constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     ASSERT_TRUE(::SetFileAttributesW(file.c_str(), kKept));
@@ -355,7 +355,7 @@ TEST_F(Edit, AttributesStay) {
     EXPECT_EQ(Content(file)["title"], "New");
 }
 
-TEST_F(Edit, CopyGivesBothSummaries) {
+TEST_F(Edit, CopyCopiesBothSummaries) {
     const fs::path from = Document("testEXCEL-custom-props--fff0cb.xls"), to = Document("25695--d41532.xls");
     auto before = StreamsOf(to), source = StreamsOf(from);
     ExpectDone({"copy", from.string(), to.string()});

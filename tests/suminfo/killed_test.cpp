@@ -107,7 +107,7 @@ private:
     int calls_ = 0;
 };
 
-TEST(Killed, AtAnyWriteLeavesTheOldDocumentOrTheNew) {
+TEST(Killed, AtAnyWriteKeepsTheOldOrTheNewDocument) {
     const Folder folder;
     const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");
     const std::vector<unsigned char> before = FileBytes(file);

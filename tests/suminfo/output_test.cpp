@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-TEST(Thumbnail, InItsOwnSizeOrInAGivenOne) {
+TEST(Thumbnail, IsSavedInItsOwnOrTheRequestedSize) {
     const Folder folder;
     const std::string png = (folder.Path() / "out.png").string();
     const std::string document = (kDocuments / "v5-Connection-Types--c289c5.vsd").string();
@@ -33,7 +33,7 @@ TEST(Thumbnail, InItsOwnSizeOrInAGivenOne) {
     }
 }
 
-TEST(Thumbnail, OfWhatHasNoneOrADamagedOneLeavesTheOldPicture) {
+TEST(Thumbnail, MissingOrDamagedThumbnailKeepsTheOldPicture) {
     const Folder folder;
     const fs::path png = folder.Path() / "out.png";
     std::ofstream(png) << "old";
@@ -51,7 +51,7 @@ TEST(Thumbnail, OfWhatHasNoneOrADamagedOneLeavesTheOldPicture) {
     EXPECT_EQ(FileBytes(png), (std::vector<unsigned char>{'o', 'l', 'd'}));
 }
 
-TEST(ResourceScript, HoldsTheSections) {
+TEST(ResourceScript, ContainsTheSections) {
     const Folder folder;
     const fs::path script = folder.Path() / "out.rc";
     const struct {
@@ -73,7 +73,7 @@ TEST(ResourceScript, HoldsTheSections) {
     }
 }
 
-TEST(ResourceScript, LeavesNoFileWhereItFails) {
+TEST(ResourceScript, LeavesNoFileOnFailure) {
     const Folder folder;
     const fs::path script = folder.Path() / "out.rc";
     const std::string stream = (kStreams / "Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin").string();
@@ -116,7 +116,7 @@ TEST(Check, BareStreams) {
         << run.out;
 }
 
-TEST(CommandLine, WrongOnesExitWithTwo) {
+TEST(CommandLine, InvalidOnesExitWithTwo) {
     const struct {
         std::vector<std::string> line;
         const char* why;
@@ -174,7 +174,7 @@ TEST(CommandLine, WildcardsStandForFiles) {
     EXPECT_EQ(RunSuminfo({"get", (folder.Path() / "a.*").string(), "pages"}).exitCode, 0);
 }
 
-TEST(CommandLine, MoreNamesThanItHoldsComeFromStandardInput) {
+TEST(CommandLine, MoreNamesThanFitAreReadFromStandardInput) {
     constexpr int kMany = 2000;
     std::string names;
     for (int i = 0; i < kMany; ++i)

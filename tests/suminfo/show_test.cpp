@@ -126,7 +126,7 @@ TEST(Show, OtherFilesAreRejectedByName) {
                        "suminfo: .: is a folder; use -r to search folders\n");
 }
 
-TEST(Show, ReadsADocumentThatAnotherProgramWrites) {
+TEST(Show, ReadsADocumentThatIsOpenForWritingElsewhere) {
     const Folder folder;
     const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");
     std::fstream writer(file, std::ios::in | std::ios::out | std::ios::binary);
@@ -135,7 +135,7 @@ TEST(Show, ReadsADocumentThatAnotherProgramWrites) {
     EXPECT_EQ(run.exitCode, 0) << run.err;
 }
 
-TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {
+TEST(Show, DamagedStreamIsShownPartiallyAndFails) {
     const char* cut = "mut-03-truncated--789dd8.bin";
     Outcome run = RunSuminfo({"show", "--stream", cut, "fn-et--SummaryInformation--b68908.bin"}, kStreams);
     EXPECT_EQ(run.exitCode, 1);
@@ -146,7 +146,7 @@ TEST(Show, ADamagedStreamIsShownAsFarAsItGoesAndFails) {
 }
 
 // A terminal would interpret them.
-TEST(Show, ControlCharactersAreShownByTheirNumbers) {
+TEST(Show, ControlCharactersAreShownAsNumbers) {
     const Folder folder;
     const std::string name = "name \xC2\x9B.doc", shown = "name \\x9b.doc";
     folder.Copy(kDocuments / "test11--695187.doc", name);
@@ -166,7 +166,7 @@ TEST(Show, ControlCharactersAreShownByTheirNumbers) {
 }
 
 // The root of the directory has lost its entries: unreachable streams are shown and reported as damage.
-TEST(Show, ADamagedDirectoryFailsAndWhatItStillHasIsShown) {
+TEST(Show, DamagedDirectoryIsShownPartiallyAndFails) {
     const Folder folder;
     const fs::path file = folder.Copy(kDocuments / "test11--695187.doc");
     {

@@ -81,7 +81,7 @@ TEST(CompoundReader, RealFiles) {
 }
 
 // Truncated anywhere after the header: nothing is read past the end, and the remaining parts of streams are read.
-TEST(CompoundReader, CutFiles) {
+TEST(CompoundReader, TruncatedFiles) {
     const ByteVector whole = Load("test11--695187.doc");
     size_t most = 0;
     for (size_t size = kSector; size < whole.size() - kSector; size += 100) {
@@ -94,7 +94,7 @@ TEST(CompoundReader, CutFiles) {
     EXPECT_GT(most, 3000u);
 }
 
-TEST(CompoundReader, LongSectorsAsSystemsOfAllAgesWroteThem) {
+TEST(CompoundReader, LongSectorsWithEitherVersion) {
     constexpr size_t kLong = 4096;
     const struct {
         uint16_t version;
@@ -115,7 +115,7 @@ TEST(CompoundReader, LongSectorsAsSystemsOfAllAgesWroteThem) {
     }
 }
 
-TEST(CompoundReader, ReadsAllocationSectorsSideBySideAtOnce) {
+TEST(CompoundReader, ReadsAdjacentAllocationSectorsAtOnce) {
     const ByteVector file = MadeFile(kSector, 3, 0, 100);
     size_t reads = 0;
     const orlo::ReadAt read = [&](uint64_t offset, void* buffer, size_t size) {
@@ -131,7 +131,7 @@ TEST(CompoundReader, ReadsAllocationSectorsSideBySideAtOnce) {
 }
 
 // A table may have more sectors than the file.
-TEST(SectorTable, FollowsNoChainBeyondTheEndOfTheFile) {
+TEST(SectorTable, DoesNotFollowChainsBeyondTheEndOfTheFile) {
     orlo::SectorTable table({1, 2, 3, orlo::kEndOfChain}, 2);
     EXPECT_EQ(table.Follow(0, 10), (std::vector<uint32_t>{0, 1}));
     EXPECT_EQ(table.Follow(0, 1), (std::vector<uint32_t>{0}));
@@ -224,7 +224,7 @@ const Bend kBends[] = {
 };
 
 // Otherwise a hundred streams on one chain would be read as a hundred times the file.
-TEST(CompoundReader, SharedSectorsAreReadOnceMoreAtTheMost) {
+TEST(CompoundReader, SharedSectorsAreReadAtMostOnceMore) {
     ByteVector file = Load("test11--695187.doc");
     AddLongStream(file, 60 * kSector, 60 * kSector);
     for (const uint32_t entry : {2u, 3u})
@@ -239,7 +239,7 @@ TEST(CompoundReader, SharedSectorsAreReadOnceMoreAtTheMost) {
 }
 
 // Otherwise their paths would exhaust memory.
-TEST(CompoundReader, StoragesInStoragesWithoutEnd) {
+TEST(CompoundReader, UnlimitedNestingOfStorages) {
     ByteVector file = Load("test11--695187.doc");
     constexpr uint32_t kStorages = 100;
     const auto first = static_cast<uint32_t>(file.size() / kSector - 1);
@@ -267,7 +267,7 @@ TEST(CompoundReader, StoragesInStoragesWithoutEnd) {
     EXPECT_NE(said.find("more than 64 deep"), std::string::npos) << said;
 }
 
-TEST(CompoundReader, EveryBendIsFound) {
+TEST(CompoundReader, EveryDamageIsFound) {
     for (const Bend& row : kBends) {
         ByteVector file = Load("test11--695187.doc");
         row.bend(file);

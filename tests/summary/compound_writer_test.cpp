@@ -110,7 +110,7 @@ std::vector<fs::path> Documents() {
     return documents;
 }
 
-TEST(CompoundWriter, RealDocumentsKeepAllElse) {
+TEST(CompoundWriter, RealDocumentsKeepEverythingElse) {
     int intact = 0;
     for (const fs::path& document : Documents()) {
         SCOPED_TRACE(document);
@@ -242,7 +242,7 @@ SparseFile LongFile(uint64_t streamBytes) {
     return sparse;
 }
 
-TEST(CompoundWriter, LeavesTheSectorFreeThatTheSystemLocks) {
+TEST(CompoundWriter, LeavesTheLockedSectorFree) {
     const SparseFile file = LongFile(uint64_t{0x80000000} + (1 << 20));
     const orlo::CompoundReader before = SparseReaderOf(file);
     ASSERT_EQ(before.State(), orlo::CompoundState::intact) << testing::PrintToString(before.Damage());
@@ -267,7 +267,7 @@ TEST(CompoundWriter, LeavesTheSectorFreeThatTheSystemLocks) {
 class DamagedFile : public testing::TestWithParam<const char*> {};
 
 // Either rejected without changing the file, or edited correctly.
-TEST_P(DamagedFile, IsRefusedOrEdited) {
+TEST_P(DamagedFile, IsRejectedOrEdited) {
     const ByteVector whole = FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / GetParam());
     const fs::path path =
         fs::temp_directory_path() /

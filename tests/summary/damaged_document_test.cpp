@@ -42,7 +42,7 @@ void ExpectSavingChangesNoOther(const Bytes& file, size_t titleLength) {
 
 class DamagedDocument : public testing::TestWithParam<const char*> {};
 
-TEST_P(DamagedDocument, IsRefusedOrRead) {
+TEST_P(DamagedDocument, IsRejectedOrRead) {
     const Bytes whole = FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / GetParam());
     const fs::path path = fs::temp_directory_path() / "orlo-random-damage.doc";
     int intact = 0, refused = 0;

@@ -80,7 +80,7 @@ TEST(DibDrawing, MasksInTheHeader) {
     EXPECT_EQ(Draw(dib.Build(), 2, 1), (Drawn{0xFF0000, 0x0000FF}));
 }
 
-TEST(DibDrawing, IsFittedIntoTheMiddle) {
+TEST(DibDrawing, IsCentered) {
     const ByteVector dib = With(Dib(2, 1, 8), {0, 0x808080}, {0, 1, 0, 0}).Build();
     const struct {
         const char* name;
@@ -97,7 +97,7 @@ TEST(DibDrawing, IsFittedIntoTheMiddle) {
         EXPECT_EQ(Draw(dib, row.width, row.height), row.drawn) << row.name;
 }
 
-TEST(DibDrawing, ASmallerPictureHasTheMeanOfEachPart) {
+TEST(DibDrawing, SmallerPictureAveragesPixels) {
     const ByteVector even = With(Dib(4, 2, 8), {0x000000, 0x050A11, 0xFFFFFF}, {0, 1, 2, 2, 1, 1, 0, 2}).Build();
     EXPECT_EQ(Draw(even, 2, 1), (Drawn{0x04080D, 0xBFBFBF}));
     // Each of two target pixels covers one and a half.

@@ -36,7 +36,7 @@ const Passing kPassing[] = {
     {"RunLengthFour", Dib(4, 2, 4).RunLength({4, 0x12, 0, 0, 0, 2, 1, 0, 0, 3, 0x12, 0x30, 0, 1}), 40 + 64, 14},
 };
 
-TEST(DibLayout, HasThePartsInPlaceAndPassesNotWhenCutAnywhere) {
+TEST(DibLayout, HasItsPartsAndRejectsTruncation) {
     for (const Passing& row : kPassing) {
         SCOPED_TRACE(row.name);
         const ByteVector bytes = row.dib.Build();
@@ -101,7 +101,7 @@ TEST(DibLayout, IsRejectedWithoutReadingPastItsEnd) {
     }
 }
 
-TEST(DibLayout, PaletteIndicesTakeTwoBytesEach) {
+TEST(DibLayout, PaletteIndicesHaveTwoBytes) {
     DibBytes dib = Dib(4, 1, 8);
     dib.table.assign(128, 0); // 256 indices
     const ByteVector bytes = dib.Fill(0).Build();
@@ -110,7 +110,7 @@ TEST(DibLayout, PaletteIndicesTakeTwoBytesEach) {
     EXPECT_EQ(layout->pixelOffset, 40u + 512u);
 }
 
-TEST(DibLayout, OnlyTheLinesThatAreAskedForNeedBeThere) {
+TEST(DibLayout, OnlyRequestedLinesAreRequired) {
     DibBytes dib = Dib(1, 100, 24);
     dib.pixels.assign(12, 0); // three lines
     const ByteVector bytes = dib.Build();

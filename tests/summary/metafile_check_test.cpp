@@ -35,7 +35,7 @@ std::vector<uint16_t> LargePattern() {
     return Words({5, 0}, dib.Build());
 }
 
-TEST(MetaFilePicture, HasItsExtentsUnderEitherHead) {
+TEST(MetaFilePicture, HasItsExtentsWithEitherHeader) {
     const MetaFileBytes made = Picture().FilledRectangle(0, 0, 0, 10, 10);
     for (const ByteVector& bytes : {made.Build(), made.BuildWide()}) {
         const auto picture = ReadMetaFilePicture(bytes.data(), bytes.size());
@@ -58,13 +58,13 @@ TEST(MetaFilePicture, LargeExtentsLookLikeTheNarrowHeader) {
     EXPECT_FALSE(Passes(bytes));
 }
 
-TEST(MetaFilePicture, FailsWhenCutAnywhere) {
+TEST(MetaFilePicture, RejectsTruncation) {
     const ByteVector whole = Picture().FilledRectangle(0, 0, 0, 10, 10).Build();
     for (size_t size = 0; size < whole.size(); ++size)
         EXPECT_FALSE(Passes(ByteVector(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(size)))) << size;
 }
 
-TEST(MetaFilePicture, NeedsNoEndRecord) {
+TEST(MetaFilePicture, DoesNotRequireAnEndRecord) {
     ByteVector bytes = Picture().FilledRectangle(0, 0, 0, 10, 10).Build();
     bytes.resize(bytes.size() - 6);
     bytes[8 + 6] = static_cast<uint8_t>(bytes[8 + 6] - 3); // size in words

@@ -67,7 +67,7 @@ TEST_F(Summary, TextsAreSetReplacedAndRemoved) {
     EXPECT_FALSE(Has(PIDSI_TITLE));
 }
 
-TEST_F(Summary, AnotherTypeReadsAsMissingAndIsNotReplaced) {
+TEST_F(Summary, UnexpectedTypeIsTreatedAsMissingAndNotReplaced) {
     const int number = 7;
     for (const DWORD id : {PIDSI_TITLE, PIDSI_CREATE_DTM, PIDSI_THUMBNAIL})
         Put(id, &number, VT_I4);
@@ -116,7 +116,7 @@ TEST_F(Summary, SecurityOfAnyTypeIsReadAndReplaced) {
     EXPECT_EQ(OleStdGetSecurityProperty(set_), 2u);
 }
 
-TEST_F(Summary, ClearingLeavesDatesCountsSecurityAndLastAuthor) {
+TEST_F(Summary, ClearingKeepsDatesCountsSecurityAndLastAuthor) {
     for (const DWORD id : kAppearance)
         OleStdSetStringProperty(set_, id, "text");
     OleStdSetStringProperty(set_, PIDSI_LASTAUTHOR, "somebody");
@@ -152,7 +152,7 @@ const Moment kMoments[] = {
     {"NegativeDay", {2000, 1, -1, 0, 0, 0}, {0, 0, 0, 0}},
 };
 
-TEST_F(Summary, PointsInTimeReadBackToTwoSeconds) {
+TEST_F(Summary, TimesAreReadBackWithinTwoSeconds) {
     for (const Moment& row : kMoments) {
         SCOPED_TRACE(row.name);
         const auto& in = row.in;
@@ -164,12 +164,12 @@ TEST_F(Summary, PointsInTimeReadBackToTwoSeconds) {
 }
 
 // The published number of 100 ns units since 1601 for that time.
-TEST_F(Summary, PointsInTimeAreFileTimes) {
+TEST_F(Summary, TimesAreFileTimes) {
     OleStdSetDateProperty(set_, PIDSI_CREATE_DTM, 1998, 3, 2, 13, 5, 6);
     EXPECT_EQ(Ticks(PIDSI_CREATE_DTM), 125333175060000000ull);
 }
 
-TEST_F(Summary, EditTimeIsASpan) {
+TEST_F(Summary, EditTimeIsADuration) {
     EXPECT_EQ(OleStdSetDateProperty(set_, PIDSI_EDITTIME, 0, 0, 1, 2, 3, 4), 1);
     EXPECT_EQ(Ticks(PIDSI_EDITTIME), 93784ull * 10000000);
     EXPECT_EQ(DateOf(set_, PIDSI_EDITTIME), (Date{0, 0, 1, 7384}));
@@ -206,7 +206,7 @@ TEST_F(Summary, ThumbnailKeepsItsBytes) {
     ::GlobalFree(picture);
 }
 
-TEST_F(Summary, ThumbnailsOfOtherShapesAreNone) {
+TEST_F(Summary, ThumbnailsOfOtherFormatsAreIgnored) {
     const DWORD shapes[][4] = {{0, 0, 0, 0},           // no bytes
                                {4, 0xFFFFFFFF, 0, 0},  // no format
                                {12, 0xFFFFFFFE, 3, 0}, // a format of another system

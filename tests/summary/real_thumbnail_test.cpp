@@ -54,7 +54,7 @@ void CheckAll() {
         if (entry.path().extension() == ".cf") Check(entry.path());
 }
 
-TEST(RealThumbnails, DrawLikeTheirReferencesAndLeaveNoObjects) {
+TEST(RealThumbnails, MatchTheirReferencesAndLeakNoObjects) {
     CheckAll();
     const int before = GdiObjectCount();
     for (int i = 0; i < 3; ++i)
@@ -63,7 +63,7 @@ TEST(RealThumbnails, DrawLikeTheirReferencesAndLeaveNoObjects) {
 }
 
 // With any single byte of the header inverted, nothing must crash.
-TEST(RealThumbnails, SurviveEveryWrongByteInTheirHeads) {
+TEST(RealThumbnails, SurviveEveryWrongHeaderByte) {
     Canvas canvas(50, 50);
     const RECT whole = canvas.Whole();
     for (const auto& entry : fs::directory_iterator(kThumbnails)) {

@@ -71,7 +71,7 @@ void WriteBytes(IStorage* storage, const wchar_t* name, const std::string& bytes
     stream->Release();
 }
 
-TEST(SummaryInfo, CreatedNowInPlaceOfAnother) {
+TEST(SummaryInfo, CreatingReplacesTheOldSummary) {
     EXPECT_EQ(CreateSummaryInfo(nullptr), E_FAIL);
     CPropertySet* summary = SummaryOf("old").release();
     EXPECT_EQ(CreateSummaryInfo(&summary), S_OK);
@@ -114,7 +114,7 @@ TEST(SummaryInfo, FieldsInOneCall) {
     EXPECT_NE(summary->GetProperty(kFormat, PIDSI_DOC_SECURITY), nullptr);
 }
 
-TEST(SummaryInfo, ThumbnailGoesWithTheFile) {
+TEST(SummaryInfo, ThumbnailIsSavedInTheFile) {
     const File file("orlo-thumbnail.drw");
     const OwnedSummary summary = SummaryOf("plan");
     const HGLOBAL picture = ::GlobalAlloc(GHND, 5000);
@@ -134,7 +134,7 @@ TEST(SummaryInfo, ThumbnailGoesWithTheFile) {
     OleStdFreeSummaryInfo(&loaded);
 }
 
-TEST(SummaryInfo, ReplacesALongerOneAndLeavesOtherStreams) {
+TEST(SummaryInfo, ReplacesALongerOneAndKeepsOtherStreams) {
     const File file("orlo-replace.drw");
     const Storage storage = file.Create();
     WriteBytes(storage.get(), L"Contents", "the drawing");
@@ -158,7 +158,7 @@ TEST(SummaryInfo, ReplacesALongerOneAndLeavesOtherStreams) {
     stream->Release();
 }
 
-TEST(SummaryInfo, NoStreamLeavesTheSummaryUntouched) {
+TEST(SummaryInfo, MissingStreamLeavesTheSummaryUnchanged) {
     const File file("orlo-empty.drw");
     const Storage storage = file.Create();
     const OwnedSummary summary = SummaryOf("still here");
@@ -168,7 +168,7 @@ TEST(SummaryInfo, NoStreamLeavesTheSummaryUntouched) {
     EXPECT_EQ(SaveSummaryInfo(storage.get(), nullptr), E_FAIL);
 }
 
-TEST(SummaryInfo, DamagedStreamGivesNothing) {
+TEST(SummaryInfo, DamagedStreamIsAnEmptySummary) {
     const File file("orlo-damaged.drw");
     WriteBytes(file.Create().get(), kStream, "no property set");
     IStorage* storage = nullptr;
@@ -178,7 +178,7 @@ TEST(SummaryInfo, DamagedStreamGivesNothing) {
     EXPECT_EQ(summary, nullptr);
 }
 
-TEST(SummaryInfo, FilesThatCantBeOpenedSaySo) {
+TEST(SummaryInfo, FilesThatCannotBeOpenedAreReported) {
     const File missing("orlo-missing.drw");
     IStorage* storage = nullptr;
     CPropertySet* summary = nullptr;
@@ -225,7 +225,7 @@ TEST(SummaryInfo, IsNotSavedIntoOtherFiles) {
     EXPECT_EQ(SaveFileSummaryInfo(file.Name().c_str(), nullptr), E_FAIL);
 }
 
-TEST(SummaryInfo, AReadOnlyStorageKeepsItsSummary) {
+TEST(SummaryInfo, ReadOnlyStorageKeepsItsSummary) {
     const File file("orlo-read-only.drw");
     SaveSummaryInfo(file.Create().get(), SummaryOf("first").get());
     const Storage storage = file.Read();
@@ -233,7 +233,7 @@ TEST(SummaryInfo, AReadOnlyStorageKeepsItsSummary) {
     EXPECT_EQ(TitleIn(storage.get()), "first");
 }
 
-TEST(SummaryInfo, IsReplacedWhereTheStorageIsOpenForWritingAlone) {
+TEST(SummaryInfo, IsReplacedInAWriteOnlyStorage) {
     const File file("orlo-write-only.drw");
     SaveSummaryInfo(file.Create().get(), SummaryOf("first").get());
     {
@@ -247,7 +247,7 @@ TEST(SummaryInfo, IsReplacedWhereTheStorageIsOpenForWritingAlone) {
 }
 
 // A property of a type without a stored form.
-TEST(SummaryInfo, ASetThatCantBeWrittenLeavesTheStream) {
+TEST(SummaryInfo, SetThatCannotBeWrittenKeepsTheStream) {
     const File file("orlo-unwritable.drw");
     const Storage storage = file.Create();
     SaveSummaryInfo(storage.get(), SummaryOf("first").get());
@@ -310,7 +310,7 @@ protected:
 
 // With every number of free sectors up to the required one: all streams are unchanged, or only the summary is new, as
 // the result says.
-TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
+TEST_P(Saving, KeepsEveryByteOnAFullDisk) {
     const Streams after = StreamsOf(SaveWithRoom(document_, 100000, mode_, summary_.get()).file);
     ASSERT_NE(after, before_);
     int saved = 0;
@@ -326,7 +326,7 @@ TEST_P(Saving, OnAFullDiskKeepsEveryByte) {
 
 // After any step there is no unknown stream, and other streams are unchanged; in a transacted storage the summary is
 // either the old or the new one.
-TEST_P(Saving, KilledAnywhereLeavesNothingElse) {
+TEST_P(Saving, LeavesNothingElseIfKilledAnywhere) {
     FailingBytes disk(document_);
     {
         const Storage storage = OpenOn(disk, STGM_READWRITE | mode_);

@@ -72,7 +72,7 @@ TEST(Fitting, OfBitmapsAndMetafilePictures) {
 }
 
 // The product of the extents exceeds 32 bits.
-TEST(Fitting, OfHugeExtents) {
+TEST(Fitting, HandlesHugeExtents) {
     Canvas canvas(100, 100);
     const RECT whole = canvas.Whole();
     EXPECT_EQ(DrawMeta(BluePicture(32767, 32000), canvas.DC(), &whole, 1), 1);
@@ -95,7 +95,7 @@ TEST_F(Thumbnail, EmptyRectanglesDrawNothing) {
     ExpectNothingDrawn();
 }
 
-TEST_F(Thumbnail, NothingToDrawOrToDrawOn) {
+TEST_F(Thumbnail, NullArgumentsDrawNothing) {
     EXPECT_EQ(DrawDib(BlueDib(4, -4), canvas_.DC(), &whole_, 1), 0) << "from the top down";
     EXPECT_EQ(DrawDIB(nullptr, canvas_.DC(), &whole_, 1), 0);
     EXPECT_EQ(DrawMetaFilePict(nullptr, canvas_.DC(), &whole_, 1), 0);
@@ -105,7 +105,7 @@ TEST_F(Thumbnail, NothingToDrawOrToDrawOn) {
     ExpectNothingDrawn();
 }
 
-TEST_F(Thumbnail, ByFormatWithProportionsKept) {
+TEST_F(Thumbnail, KeepsTheAspectRatioForEachFormat) {
     const ByteVector dib = BlueDib(2, 1);
     const ByteVector picture = BluePicture(2, 1);
     const unsigned char formats[] = {3, 8, 14};
@@ -209,7 +209,7 @@ TEST_F(Thumbnail, TheDeviceContextIsRestored) {
     EXPECT_EQ(::SaveDC(canvas_.DC()), 1) << "states were left on the stack";
 }
 
-TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
+TEST_F(Thumbnail, NothingIsPaintedOutsideTheRectangle) {
     const RECT target = {20, 20, 40, 40};
     const ByteVector picture = MetaFileBytes(50, 50)
                                    .Record(0x020E, {60, 60}) // sets its own viewport
@@ -221,7 +221,7 @@ TEST_F(Thumbnail, NothingIsPaintedOutsideOfTheRectangle) {
     EXPECT_TRUE(*canvas_.Covered() == target);
 }
 
-TEST_F(Thumbnail, RecordsForOtherDevicesArePassedOver) {
+TEST_F(Thumbnail, RecordsForOtherDevicesAreSkipped) {
     const ByteVector picture = MetaFileBytes(50, 50)
                                    .Record(0x0626, {9, 4, 0x1234, 0x5678}) // an escape with an address
                                    .Record(0x0626, {12, 0})                // requests a page from a printer
@@ -244,7 +244,7 @@ SIZE_T MostMemorySoFar() {
 
 // Pictures of a few hundred bytes with sizes that used all memory or ended the process; the records that follow are
 // still drawn.
-TEST_F(Thumbnail, TakesLittleMemoryForAnyDeclaredSize) {
+TEST_F(Thumbnail, UsesLittleMemoryForAnyDeclaredSize) {
     const auto picture = [](uint16_t scale) {
         return MetaFileBytes(60, 60).Record(0x0103, {8}).Record(0x020C, {1, 1}).Record(0x020E, {scale, scale});
     };
@@ -287,7 +287,7 @@ TEST_F(Thumbnail, TakesLittleMemoryForAnyDeclaredSize) {
 }
 
 // For every function number: parameters far beyond its slots and its bitmap.
-TEST_F(Thumbnail, EveryRecordOfWrongWordsIsSurvived) {
+TEST_F(Thumbnail, SurvivesEveryRecordWithInvalidWords) {
     for (uint16_t function = 0; function < 0x1100; ++function) {
         for (const size_t count : {2, 20}) {
             std::vector<uint16_t> words(count, 0x7FFF);
@@ -299,7 +299,7 @@ TEST_F(Thumbnail, EveryRecordOfWrongWordsIsSurvived) {
     EXPECT_EQ(::SaveDC(canvas_.DC()), 1);
 }
 
-TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {
+TEST_F(Thumbnail, InvalidRecordsPreventAnyDrawing) {
     const ByteVector picture =
         MetaFileBytes(50, 50).FilledRectangle(kBlue, 0, 0, 50, 50).Record(0x0324, {999, 0, 0}).Build();
     EXPECT_EQ(DrawMeta(picture, canvas_.DC(), &whole_, 1), 0);
@@ -307,7 +307,7 @@ TEST_F(Thumbnail, BadRecordsDrawNothingOfThePictureBeforeThem) {
 }
 
 // A picture at the end of readable memory that declares more bytes.
-TEST_F(Thumbnail, PicturesWithoutLengthEndWhereMemoryEnds) {
+TEST_F(Thumbnail, PicturesWithoutLengthAreLimitedByReadableMemory) {
     constexpr size_t kPage = 4096;
     auto* pages = static_cast<uint8_t*>(::VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS));
     ::VirtualAlloc(pages, kPage, MEM_COMMIT, PAGE_READWRITE);

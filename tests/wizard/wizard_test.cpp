@@ -111,7 +111,7 @@ void ClickWithMouse(SheetDriver& user, int id) {
     user.Pump();
 }
 
-TEST_F(Wizard, IsWalkedByMouse) {
+TEST_F(Wizard, CanBeUsedByMouse) {
     EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
                   EXPECT_EQ(State(user), "0 - &Next >");
                   for (const auto& [button, state] : {std::pair(kBack, "0 - &Next >"), // disabled
@@ -129,7 +129,7 @@ TEST_F(Wizard, IsWalkedByMouse) {
     EXPECT_EQ(log, "1o 2o 3o 3o ") << "all pages in order, then the sheet's OK of the page in front";
 }
 
-TEST_F(Wizard, IsWalkedByKeyboard) {
+TEST_F(Wizard, CanBeUsedByKeyboard) {
     EXPECT_EQ(IDOK, RunThree([&](SheetDriver& user) {
                   EXPECT_EQ(user.Control(kField), ::GetFocus());
                   user.Mnemonic('n');
@@ -162,7 +162,7 @@ TEST_F(Wizard, IsWalkedByKeyboard) {
 }
 
 // Next is the default button, but pressing it would skip any field after the focused one.
-TEST_F(Wizard, EnterGoesOnFromTheLastFieldOfAPage) {
+TEST_F(Wizard, EnterProceedsFromTheLastFieldOfAPage) {
     const auto wizard = Make({kWide, kNarrow, kWide});
     EXPECT_EQ(IDOK, Run(*wizard, [&](SheetDriver& user) {
                   const HWND next = ::GetDlgItem(user.Sheet(), kNext);
@@ -227,7 +227,7 @@ TEST_F(Wizard, ShowsTheCaptionOfItsPageAndGrowsWithALargerOne) {
 }
 
 // A page that grows covers the buttons while they are moved, so parts copied by the system must be redrawn.
-TEST_F(Wizard, IsDrawnWholeOnEachPage) {
+TEST_F(Wizard, IsDrawnCompletelyOnEachPage) {
     const auto walk = [&] {
         const auto wizard = Make({kNarrow, kWide, kQuiet, kNarrow});
         steps[3]->grows = CSize(30, 50);
@@ -248,7 +248,7 @@ TEST_F(Wizard, IsDrawnWholeOnEachPage) {
 }
 
 // A field of several lines begins a new line where its style says so; otherwise the key presses Next.
-TEST_F(Wizard, ReturnBeginsALineInAFieldThatWantsIt) {
+TEST_F(Wizard, ReturnBeginsALineInAMultilineField) {
     Run(*Make({kOneLine, kNotes, kWide}), [&](SheetDriver& user) {
         user.Focus(kField);
         user.Key(VK_RETURN);
@@ -280,7 +280,7 @@ TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
 }
 
 // The host's own handler of the button's command is called as for a click.
-TEST_F(Wizard, ReturnIsAClickOnTheButton) {
+TEST_F(Wizard, ReturnClicksTheButton) {
     class Counting : public CWizardSheet {
     public:
         Counting() : CWizardSheet("Counting", nullptr, 0) {}
@@ -302,7 +302,7 @@ TEST_F(Wizard, ReturnIsAClickOnTheButton) {
 }
 
 // The size of the page is its window rectangle after OnSetActive.
-TEST_F(Wizard, IsAsLargeAsThePageHasMadeItself) {
+TEST_F(Wizard, UsesTheSizeThatAPageSetsItself) {
     const auto wizard = Make({kNarrow, kQuiet, kNarrow});
     steps[0]->grows = CSize(0, 20);
     steps[2]->grows = CSize(40, 30);
@@ -327,7 +327,7 @@ TEST_F(Wizard, IsAsLargeAsThePageHasMadeItself) {
     });
 }
 
-TEST_F(Wizard, KeepsTheSizeThatAHostHasGivenItsPage) {
+TEST_F(Wizard, UsesTheSizeThatAHostSetsForAPage) {
     class Resizable : public CWizardSheet {
     public:
         Resizable() : CWizardSheet("Resizable", nullptr, 0) {}
@@ -380,7 +380,7 @@ TEST_F(Wizard, FramesTheButtonThatReturnPresses) {
     });
 }
 
-TEST_F(Wizard, GrowsWhereTheUserHasMovedIt) {
+TEST_F(Wizard, GrowsInPlaceAfterTheUserHasMovedIt) {
     const auto wizard = Make({kNarrow, kWide});
     const auto place = [](HWND window) {
         CRect rect;
@@ -406,7 +406,7 @@ TEST_F(Wizard, GrowsWhereTheUserHasMovedIt) {
     });
 }
 
-TEST_F(Wizard, EndsACaptionThatIsCutWithDots) {
+TEST_F(Wizard, EndsATruncatedCaptionWithDots) {
     Run(*Make({kQuiet}), [](SheetDriver& user) {
         const HWND heading = ::GetDlgItem(user.Sheet(), kHeading);
         CRect client;
@@ -436,7 +436,7 @@ TEST_F(Wizard, CancelsByButtonKeyAndCaption) {
     EXPECT_EQ(log, "");
 }
 
-TEST_F(Wizard, ThatCannotLeaveItsPageStaysAsItIs) {
+TEST_F(Wizard, IsUnchangedIfThePageCannotBeLeft) {
     EXPECT_EQ(RunThree([&](SheetDriver& user) {
                   steps[0]->accepts = false;
                   user.ClickSheetButton(kNext);
@@ -463,7 +463,7 @@ TEST_F(Wizard, ThatCannotLeaveItsPageStaysAsItIs) {
               IDOK);
 }
 
-TEST_F(Wizard, StaysWhereAPageCannotBeMade) {
+TEST_F(Wizard, StaysIfThePageCannotBeCreated) {
     const auto wizard = Make({kWide, kNoTemplate, kWide});
     EXPECT_EQ(Run(*wizard,
                   [&](SheetDriver& user) {
@@ -493,7 +493,7 @@ TEST_F(Wizard, OpensEmptyWithoutItsFirstPage) {
     EXPECT_EQ(Run(*alone, [](SheetDriver& user) { user.ClickSheetButton(kNext); }), IDOK);
 }
 
-TEST_F(Wizard, ThatOpensLaterShowsTheFirstPagesButtonsUntilItMoves) {
+TEST_F(Wizard, OpenedOnALaterPageShowsTheFirstPagesButtons) {
     const auto wizard = Make({kWide, kWide, kWide}, 2);
     Run(*wizard, [](SheetDriver& user) {
         EXPECT_EQ(State(user), "2 - &Next >");
@@ -502,7 +502,7 @@ TEST_F(Wizard, ThatOpensLaterShowsTheFirstPagesButtonsUntilItMoves) {
     });
 }
 
-TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
+TEST_F(Wizard, IsAsWideAsThePageOrTheButtons) {
     for (const int id : {kNarrow, kWide}) {
         const auto wizard = Make({id, id});
         Run(*wizard, [&](SheetDriver& user) {
@@ -536,7 +536,7 @@ TEST_F(Wizard, IsAsWideAsItsPageOrItsButtons) {
     }
 }
 
-TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
+TEST_F(Wizard, DoesNotChangeMenuFocusAndFont) {
     RunThree([](SheetDriver& user) {
         const HMENU menu = ::GetSystemMenu(user.Sheet(), FALSE);
         ASSERT_EQ(::GetMenuItemCount(menu), 2);
@@ -557,7 +557,7 @@ TEST_F(Wizard, LeavesMenuFocusAndFontToSystemAndPages) {
     });
 }
 
-TEST_F(Wizard, ModelessHasNoButtonsButItsCommands) {
+TEST_F(Wizard, ModelessHasCommandsWithoutButtons) {
     const auto wizard = Make({kWide, kWide});
     ASSERT_TRUE(wizard->Create(nullptr));
     const HWND sheet = wizard->m_hWnd;
@@ -581,7 +581,7 @@ TEST_F(Wizard, ModelessHasNoButtonsButItsCommands) {
     wizard->DestroyWindow();
 }
 
-TEST_F(Wizard, WithoutPagesIsNotMadeAndOfOneFinishes) {
+TEST_F(Wizard, NeedsAPageAndFinishesWithOne) {
     EXPECT_EQ(Make({})->DoModal(), -1);
     EXPECT_EQ(Run(*Make({kWide}),
                   [](SheetDriver& user) {
@@ -592,7 +592,7 @@ TEST_F(Wizard, WithoutPagesIsNotMadeAndOfOneFinishes) {
     EXPECT_EQ(log, "1o 1o ") << "of one page finishes by Next";
 }
 
-TEST_F(Wizard, GivesEverythingBack) {
+TEST_F(Wizard, LeaksNothing) {
     const auto walk = [&] {
         RunThree([](SheetDriver& user) {
             for (int i = 0; i < 3; ++i)
