@@ -2,6 +2,8 @@
 
 #include "orlo/summary/compound_file.h"
 
+#include <cstring>
+
 #include "files/file_error.h"
 #include "files/open_file.h"
 #include "orlo/propset/code_page.h"
@@ -14,6 +16,15 @@ CompoundReader OpenCompoundFile(const std::filesystem::path& file) {
         return files::ReadAt(opened->get(), offset, buffer, size);
     };
     return CompoundReader(read, files::SizeOf(opened->get()));
+}
+
+CompoundReader ReadCompoundFile(std::shared_ptr<const std::vector<uint8_t>> bytes) {
+    const ReadAt read = [bytes](uint64_t offset, void* buffer, size_t size) {
+        if (offset > bytes->size() || size > bytes->size() - offset) return false;
+        std::memcpy(buffer, bytes->data() + offset, size);
+        return true;
+    };
+    return CompoundReader(read, bytes->size());
 }
 
 CompoundState StateOfCompoundFile(const std::filesystem::path& file) {

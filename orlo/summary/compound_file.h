@@ -1,7 +1,8 @@
-// Opens compound files on disk for compound_reader.h.
+// Opens compound files on disk and in memory for compound_reader.h.
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <string_view>
 
 #include "orlo/summary/compound_reader.h"
@@ -11,6 +12,8 @@ namespace orlo {
 // Opens a file, which the reader keeps open; other programs can read, write and replace it meanwhile. A pipe or a
 // device is treated as empty. Throws std::runtime_error if the file cannot be opened.
 ORLO_API CompoundReader OpenCompoundFile(const std::filesystem::path& file);
+// Reads a file in memory.
+ORLO_API CompoundReader ReadCompoundFile(std::shared_ptr<const std::vector<uint8_t>> bytes);
 // Returns CompoundState::foreign also for a file that cannot be opened.
 CompoundState StateOfCompoundFile(const std::filesystem::path& file);
 // Returns the stream with that name (UTF-8, ignoring case) in the root storage, or null.

@@ -63,6 +63,8 @@ class EditedDocument::Original {
 public:
     explicit Original(const std::filesystem::path& file)
         : guard(files::OpenAgainstWriters(file)), reader(OpenCompoundFile(file)) {}
+    explicit Original(Bytes document)
+        : guard(files::NoFile()), reader(ReadCompoundFile(std::make_shared<Bytes>(std::move(document)))) {}
 
     const files::OpenFile guard;
     const CompoundReader reader;
@@ -72,6 +74,14 @@ EditedDocument::EditedDocument(const std::filesystem::path& file, IfMissing ifMi
     // Some systems let administrators write a read-only file anyway.
     if (!files::RequireReplaceable(file) && ifMissing == IfMissing::Create) return;
     original_ = std::make_unique<Original>(file);
+    RequireIntact();
+}
+
+EditedDocument::EditedDocument(Bytes document) : original_(std::make_unique<Original>(std::move(document))) {
+    RequireIntact();
+}
+
+void EditedDocument::RequireIntact() const {
     if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
     if (original_->reader.State() != CompoundState::intact)
         throw UnfitDocument("was left alone: the compound file is damaged, writing could make it worse");
@@ -99,9 +109,18 @@ void EditedDocument::Commit() {
         WriteCompoundFile(original_ ? &original_->reader : nullptr, written_,
                           [&file](std::string_view bytes) { files::Append(file.get(), bytes); });
     }
-    Check(copy.Path());
+    Check(OpenCompoundFile(copy.Path()));
     original_.reset();
     copy.Commit();
+}
+
+Bytes EditedDocument::Contents() const {
+    const auto contents = std::make_shared<Bytes>();
+    WriteCompoundFile(original_ ? &original_->reader : nullptr, written_, [&contents](std::string_view bytes) {
+        contents->insert(contents->end(), bytes.begin(), bytes.end());
+    });
+    Check(ReadCompoundFile(contents));
+    return std::move(*contents);
 }
 
 // Returns the elements of a file that were not replaced.
@@ -127,13 +146,12 @@ bool EditedDocument::HasWritten(const CompoundReader& copy) const {
 }
 
 // Verifies that the copy is intact, contains everything that was written, and is otherwise equal to the file.
-void EditedDocument::Check(const std::filesystem::path& path) const {
-    const CompoundReader copy = OpenCompoundFile(path);
+void EditedDocument::Check(const CompoundReader& copy) const {
     const std::vector<const CompoundElement*> copied = KeptIn(copy);
     bool isGood = copy.State() == CompoundState::intact && HasWritten(copy) &&
                   copied.size() + written_.size() == copy.Elements().size();
     if (original_) {
-        const CompoundReader now = OpenCompoundFile(path_);
+        const CompoundReader now = path_.empty() ? original_->reader : OpenCompoundFile(path_);
         for (const auto& [name, bytes] : read_)
             if (ReadStream(now, name) != bytes) throw files::FileError(kChangedMeanwhile);
         const std::vector<const CompoundElement*> kept = KeptIn(now);

@@ -35,6 +35,8 @@ public:
     // Throws if the file is read-only or damaged. On Windows no other program can write it until Commit, and the call
     // throws if another program has it open.
     ORLO_API explicit EditedDocument(const std::filesystem::path& file, IfMissing ifMissing = IfMissing::Fail);
+    // Edits a document in memory. Throws if it is damaged.
+    ORLO_API explicit EditedDocument(Bytes document);
     ORLO_API ~EditedDocument();
 
     // Returns the bytes of a stream of the root storage, or nothing if it does not exist. Names are UTF-8 and compared
@@ -43,15 +45,18 @@ public:
     ORLO_API void Write(const std::string& name, Bytes bytes);
     // Must be the last call. Preserves the attributes listed in files/file_replacement.h.
     ORLO_API void Commit();
+    // Returns the edited document instead.
+    ORLO_API Bytes Contents() const;
 
 private:
     class Original;
 
+    void RequireIntact() const;
     std::vector<const CompoundElement*> KeptIn(const CompoundReader& file) const;
     bool HasWritten(const CompoundReader& copy) const;
-    void Check(const std::filesystem::path& path) const;
+    void Check(const CompoundReader& copy) const;
 
-    std::filesystem::path path_;
+    std::filesystem::path path_;         // empty for a document in memory
     std::unique_ptr<Original> original_; // null for a new file
     std::map<std::u16string, Bytes> written_;
     mutable std::map<std::string, std::optional<Bytes>> read_; // the contents that edits are based on

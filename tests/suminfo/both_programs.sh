@@ -77,6 +77,11 @@ every() { # NUMBER FILES...: selects some, since each start of the Windows progr
 for file in $(every 2 streams/*.bin texts/name*); do compare rc --stream "$file" out; done
 for file in streams/CameraRollAnim*.bin streams/mut-5*.bin; do compare thumbnail --stream "$file" out; done
 
+input=documents/test11--695187.doc
+compare set - "title=Grüße" -o out
+compare remove - title
+input=/dev/null
+
 # Documents that both edit are the same to the byte.
 edit() { # ARGUMENTS... with "out" for the document
     local name

@@ -92,7 +92,25 @@ expect "a name like a value" "$(ended suminfo set ./a=b.doc title=x; cat err)" \
 
 # Standard input and output.
 expect "a document from a pipe" "$(cat one.doc | suminfo get - title)" Several
-expect "one that is changed" "$(ended suminfo set - title=x; cat err)" $'1\nsuminfo: -: standard input can only be read'
+cp one.doc before.doc
+expect "one that is changed" "$(suminfo set - title=Piped <one.doc | suminfo remove - author | suminfo copy - one.doc -o - |
+    suminfo get - title)" Piped
+suminfo set one.doc title=Named --custom Client=text:B -o named.doc
+cp one.doc same.doc
+suminfo set same.doc title=Named --custom Client=text:B
+cmp named.doc same.doc
+suminfo set - title=Named --custom Client=text:B <one.doc | cmp - same.doc
+chmod a-w same.doc
+expect "a read-only original" "$(ended suminfo set same.doc title=New -o named.doc; suminfo get named.doc title)" $'0\nNew'
+expect "a damaged one" "$(head -c 5000 one.doc | ended suminfo set - title=x; cat out err)" \
+    $'1\nsuminfo: -: was left alone: the compound file is damaged, writing could make it worse'
+expect "two" "$(ended suminfo set one.doc two.doc title=x -o both.doc; cat err)" \
+    $'2\nsuminfo: -o: only one document can be edited to another file'
+expect "a disk that is full" "$(suminfo set - title=x <one.doc 2>&1 >/dev/full || echo $?)" \
+    $'suminfo: -: the output cannot be written: the disk is full\n1'
+expect "a missing folder" "$(ended suminfo set one.doc title=x -o nowhere/new.doc; cat err)" \
+    $'1\nsuminfo: nowhere/new.doc: no file can be created in its folder: no such folder'
+cmp one.doc before.doc
 expect "a script" "$(suminfo rc --stream "$stream" - | grep -c RCDATA)" 1
 expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/full || echo $?)" \
     $'suminfo: -: the output cannot be written: the disk is full\n1'

@@ -26,6 +26,7 @@ Examples:
   suminfo show --stream summary.bin               a property-set stream in a file of its own
   suminfo set plan.msi title="Plan B" saved=now
   suminfo set -r drawings/ company=ACME           in all of them
+  suminfo set - title="Plan B" <plan.doc >new.doc  in a pipe; -o FILE for a named result
   suminfo set plan.msi --custom Client=text:ACME --custom Sheets=int:12
   suminfo remove plan.msi comments --custom Client
   suminfo thumbnail plan.ppt plan.png --size 200x150
@@ -146,6 +147,9 @@ private:
             return CompleteSet();
         case Command::remove:
             return CompleteRemove();
+        case Command::copy:
+            CompleteOutput();
+            break;
         case Command::thumbnail:
             line_.size = ParseSize(size_);
             if (line_.size && line_.original)
@@ -195,6 +199,19 @@ private:
     void RequireFiles() {
         if (line_.files.empty()) throw CLI::ValidationError("FILE", "no document is named");
         FinishFiles();
+        CompleteOutput();
+    }
+
+    // A document on standard input is edited to standard output.
+    void CompleteOutput() {
+        const auto& files = line_.files;
+        const bool hasInput = std::find(files.begin(), files.end(), kStandardStream) != files.end();
+        if (hasInput && line_.output.empty()) line_.output = kStandardStream;
+        if (line_.output.empty()) return;
+        if (files.size() > 1 || line_.recursive)
+            throw CLI::ValidationError(hasInput ? "FILE" : "-o", "only one document can be edited to another file");
+        if (line_.output == kStandardStream && IsTerminal(stdout))
+            throw CLI::ValidationError("-o", "the document cannot be printed on a terminal; name a file");
     }
 
     CLI::App* Add(const char* name, Command command, const char* description) {
@@ -216,6 +233,11 @@ private:
         sub->add_option("FILE", line_.files, "documents, and folders with -r; - is standard input")->required();
         AddRecursive(sub);
         AddBare(sub);
+    }
+
+    void AddOutput(CLI::App* sub) {
+        sub->add_option("-o,--output", line_.output,
+                        "the file for the changed document; - is standard output, the default if FILE is -");
     }
 
     // Takes exactly one argument per option, so that fields can follow it.
@@ -247,12 +269,14 @@ private:
         sub->add_option("FILE FIELD=VALUE", words_, "documents, and values as in title=\"Plan B\"");
         AddCustom(sub, custom_, "NAME=TYPE:VALUE, a custom property");
         AddRecursive(sub);
+        AddOutput(sub);
     }
     void AddRemove() {
         CLI::App* sub = Add("remove", Command::remove, "Remove fields and custom properties");
         sub->add_option("FILE FIELD", words_, "documents, then title, thumbnail, ...");
         AddCustom(sub, line_.customNames, "the name of a custom property");
         AddRecursive(sub);
+        AddOutput(sub);
     }
     void AddThumbnail() {
         CLI::App* sub = Add("thumbnail", Command::thumbnail, "Save the thumbnail as a picture");
@@ -271,6 +295,7 @@ private:
         sub->add_option("FROM", line_.source, "the document with the summary")->required();
         sub->add_option("TO", line_.files, "the documents that get it")->required();
         AddRecursive(sub);
+        AddOutput(sub);
     }
 
     CLI::App app_;

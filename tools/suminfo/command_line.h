@@ -21,7 +21,7 @@ struct CommandLine {
     std::vector<CustomValue> custom;                  // set
     std::vector<std::string> fieldNames, customNames; // get, remove
     std::string source;                               // copy: the document with the summary
-    std::string output;                               // thumbnail, rc
+    std::string output;                               // thumbnail, rc; set, remove, copy: or the files themselves
     std::optional<Extent> size;
     bool original = false; // thumbnail
 };

@@ -53,12 +53,16 @@ std::string ValueOf(const Source& source, const std::string& field, const std::s
 // A line for each finding, or one that says that there are none.
 Report Check(const Source& source);
 
-// Changes fields and custom properties: all of them or, in case of a Failure, none.
-void SetFields(const std::string& file, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom);
-void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
-                  const std::vector<std::string>& custom);
-// Copies the summary streams of the first document to the second.
-void CopySummary(const std::string& from, const std::string& to);
+// A document to edit, and the file for the result: itself, or another one if `output` is not empty.
+struct Target {
+    std::string file, output;
+};
+
+// Change fields and custom properties: all of them or, in case of a Failure, none.
+void SetFields(const Target& target, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom);
+void RemoveFields(const Target& target, const std::vector<std::string>& fields, const std::vector<std::string>& custom);
+// Copies the summary streams of a document to the target.
+void CopySummary(const std::string& from, const Target& target);
 
 // Draws the thumbnail to a PNG file: in its own size, or centered on white in the given size.
 void SaveThumbnail(const Source& source, const std::string& png, std::optional<Extent> size);

@@ -2,7 +2,6 @@
 
 #include "document.h"
 
-#include <cstring>
 #include <filesystem>
 #include <memory>
 
@@ -15,19 +14,9 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
-// Standard input may be a pipe, which cannot be read at an offset.
-orlo::CompoundReader FromStandardInput() {
-    const auto bytes = std::make_shared<const orlo::Bytes>(ReadFile(kStandardStream));
-    const orlo::ReadAt read = [bytes](uint64_t offset, void* buffer, size_t size) {
-        if (offset > bytes->size() || size > bytes->size() - offset) return false;
-        std::memcpy(buffer, bytes->data() + offset, size);
-        return true;
-    };
-    return orlo::CompoundReader(read, bytes->size());
-}
-
 orlo::CompoundReader Open(const std::string& file) {
-    if (file == kStandardStream) return FromStandardInput();
+    // Standard input may be a pipe, which cannot be read at an offset.
+    if (file == kStandardStream) return orlo::ReadCompoundFile(std::make_shared<orlo::Bytes>(ReadFile(file)));
     std::error_code none; // whatever it is, opening it says more
     if (fs::is_directory(fs::u8path(file), none)) throw Failure("is a folder; use -r to search folders");
     return orlo::OpenCompoundFile(fs::u8path(file));

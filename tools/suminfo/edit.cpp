@@ -9,6 +9,8 @@
 #include "failure.h"
 #include "fields.h"
 #include "orlo/summary/edited_document.h"
+#include "output_file.h"
+#include "sources.h"
 #include "text.h"
 
 namespace fs = std::filesystem;
@@ -16,10 +18,33 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
+// Edits a document and saves it where the command line says.
+class TargetDocument {
+public:
+    explicit TargetDocument(const Target& target)
+        : output_(target.output), document_(output_.empty() ? orlo::EditedDocument(fs::u8path(target.file))
+                                                            : orlo::EditedDocument(ReadFile(target.file))) {}
+
+    std::optional<orlo::Bytes> Read(const std::string& name) const { return document_.Read(name); }
+    void Write(const std::string& name, const orlo::Bytes& bytes) { document_.Write(name, bytes); }
+
+    void Commit() {
+        if (output_.empty()) return document_.Commit();
+        const orlo::Bytes contents = document_.Contents();
+        OnFile(output_, [&] {
+            WriteOutput(output_, {reinterpret_cast<const char*>(contents.data()), contents.size()});
+        });
+    }
+
+private:
+    const std::string output_;
+    orlo::EditedDocument document_;
+};
+
 // The two summary streams of a document, each opened when it is first changed.
 class Edit {
 public:
-    explicit Edit(const std::string& file) : document_(PathOf(file)) {}
+    explicit Edit(const Target& target) : document_(target) {}
 
     EditedSet& SetWith(const GUID& format) {
         const char* name = ::IsEqualGUID(format, kSummaryFormat) ? kSummaryStream : kDocumentSummaryStream;
@@ -39,12 +64,7 @@ public:
     }
 
 private:
-    static fs::path PathOf(const std::string& file) {
-        if (file == kStandardStream) throw Failure("standard input can only be read");
-        return fs::u8path(file);
-    }
-
-    orlo::EditedDocument document_;
+    TargetDocument document_;
     std::map<std::string, EditedSet> sets_;
 };
 
@@ -65,8 +85,8 @@ orlo::Bytes RequireUndamaged(orlo::Bytes bytes, const std::string& name) {
 
 } // namespace
 
-void SetFields(const std::string& file, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom) {
-    Edit edit(file);
+void SetFields(const Target& target, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom) {
+    Edit edit(target);
     for (const Assignment& assignment : fields) {
         const Field& field = FieldToSet(assignment.name);
         WithFieldName(assignment.name, [&] {
@@ -79,9 +99,9 @@ void SetFields(const std::string& file, const std::vector<Assignment>& fields, c
     edit.Commit();
 }
 
-void RemoveFields(const std::string& file, const std::vector<std::string>& fields,
+void RemoveFields(const Target& target, const std::vector<std::string>& fields,
                   const std::vector<std::string>& custom) {
-    Edit edit(file);
+    Edit edit(target);
     for (const std::string& name : fields) {
         const Field& field = FieldToRemove(name);
         if (!edit.SetWith(field.format).Remove(field.format, field.id)) throw Failure("it has no " + name);
@@ -92,7 +112,7 @@ void RemoveFields(const std::string& file, const std::vector<std::string>& field
     edit.Commit();
 }
 
-void CopySummary(const std::string& from, const std::string& to) {
+void CopySummary(const std::string& from, const Target& target) {
     std::map<std::string, orlo::Bytes> streams;
     OnFile(from, [&] {
         const Document source(from);
@@ -100,10 +120,10 @@ void CopySummary(const std::string& from, const std::string& to) {
             if (auto bytes = source.Read(name)) streams[name] = RequireUndamaged(std::move(*bytes), name);
         if (streams.empty()) throw Failure("it has no summary");
     });
-    orlo::EditedDocument target(fs::u8path(to));
+    TargetDocument document(target);
     for (const auto& [name, bytes] : streams)
-        target.Write(name, bytes);
-    target.Commit();
+        document.Write(name, bytes);
+    document.Commit();
 }
 
 } // namespace suminfo

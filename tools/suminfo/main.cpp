@@ -60,6 +60,7 @@ private:
 // The work on one file: what it prints, and whether nothing irregular was found.
 Report RunOn(const CommandLine& line, const std::string& file) {
     const Source source = {file, line.bare};
+    const Target target = {file, line.output};
     switch (line.command) {
     case Command::show:
         return Show(source, line.form);
@@ -69,10 +70,10 @@ Report RunOn(const CommandLine& line, const std::string& file) {
         return {ValueOf(source, line.fieldNames.empty() ? "" : line.fieldNames[0],
                         line.customNames.empty() ? "" : line.customNames[0])};
     case Command::set:
-        SetFields(file, line.fields, line.custom);
+        SetFields(target, line.fields, line.custom);
         break;
     case Command::remove:
-        RemoveFields(file, line.fieldNames, line.customNames);
+        RemoveFields(target, line.fieldNames, line.customNames);
         break;
     case Command::thumbnail:
         line.original ? SaveOriginalThumbnail(source, line.output) : SaveThumbnail(source, line.output, line.size);
@@ -81,7 +82,7 @@ Report RunOn(const CommandLine& line, const std::string& file) {
         SaveResourceScript(source, line.output);
         break;
     case Command::copy:
-        CopySummary(line.source, file);
+        CopySummary(line.source, target);
         break;
     }
     return {};
