@@ -125,6 +125,20 @@ def check_values():
     frames = [audited(name).modelspace().query('INSERT[name=="FRAME"]')[0] for name in ("plan.dxf", "out.dxf")]
     moved = [tuple(frame.attribs[0].dxf.insert)[0] for frame in frames]
     expect("attributes move along", moved[1] - moved[0] == 10, moved)
+    where = ["--where", "kind=LINE|CIRCLE|TEXT|MTEXT"]
+    run("set", "plan.dxf", *where, "Position=0.1,0.2,0.3", "-o", "out.dxf")
+    spaces = [audited(name).modelspace() for name in ("plan.dxf", "out.dxf")]
+    for kind, point in (("CIRCLE", "center"), ("TEXT", "insert"), ("MTEXT", "insert"), ("LINE", "start")):
+        place = tuple(spaces[1].query(kind)[0].dxf.get(point))
+        expect(f"a moved {kind}", place == (0.1, 0.2, 0.3), place)
+    ends = [line.dxf.end - line.dxf.start for line in spaces[1].query("LINE")]
+    expect("ends move along", all(end.isclose((0, 5, 0)) for end in ends), ends)
+    turned = audited("plan.dxf")
+    turned.modelspace().query('INSERT[name=="DOOR"]')[0].dxf.rotation = 390
+    turned.saveas("turned.dxf")
+    run("set", "turned.dxf", "--where", "BlockName=DOOR", "Position=7,8", "--in-place")
+    rotation = audited("turned.dxf").modelspace().query('INSERT[name=="DOOR"]')[0].dxf.rotation
+    expect("a rotation by more than a turn", rotation == 390, rotation)
     for wrong in ("Position=a,b", "Scale=0", "Rotation=1,2", "Tag=x"):
         done = run("set", "plan.dxf", wrong, "-o", "wrong.dxf")
         expect(wrong, done.returncode == 2 and not os.path.exists("wrong.dxf"), done)
@@ -187,6 +201,9 @@ def check_layers():
     lines = [line.dxf.layer for line in drawing.modelspace().query("LINE")]
     is_renamed = "Wände" in drawing.layers and "WALLS" not in drawing.layers
     expect("a new name", lines == ["Wände", "Wände", "WALLS-NEW", "WALLS-NEW"] and is_renamed, (lines, done))
+    done = run("set-layer", "new.dxf", "--layer", "NOTES", "Color=green", "On=no", "--dry-run")
+    said = b'LAYER "NOTES" On: "Yes" -> "No" Color: "Yellow" -> "Green"\nnew.dxf: 1 layer would change\n'
+    expect("a dry run of a layer", done.stdout == said, done)
     for layer, value in (("NOTES", "Name=wände"), ("0", "Name=x"), ("ROOF", "On=no")):
         done = run("set-layer", "new.dxf", "--layer", layer, value, "--dry-run")
         expect(f"{value} of {layer}", done.returncode == 2, done)
@@ -199,13 +216,27 @@ def check_differences():
     run("set", "plan.dxf", "--where", "kind=TEXT", "Text=new", "-o", "out.dxf")
     run("set", "out.dxf", "--where", "BlockName=DOOR", "Position=1,1", "--in-place")
     drawing = ezdxf.readfile("out.dxf")
-    drawing.modelspace().query("CIRCLE")[0].dxf.center = (21, 20)
+    space = drawing.modelspace()
+    space.query("CIRCLE")[0].dxf.center = (21, 20)
+    space.query("MTEXT")[0].dxf.char_height = 7
+    space.query("LINE")[0].dxf.start = (0, 1)
+    space.query("LINE")[1].dxf.end = (1, 6)
+    drawing.layers.get("NOTES").color = 5
+    drawing.layers.add("ADDED")
     drawing.saveas("other.dxf")
     found = json.loads(run("diff", "plan.dxf", "other.dxf", "--json").stdout)[0]["differences"]
-    changed = {difference["kind"]: list(difference.get("properties", [])) for difference in found}
-    expect("differences", changed == {"TEXT": ["Text"], "INSERT": ["Position"], "CIRCLE": ["Shape"]}, changed)
+    changed = [[entry["kind"], *entry.get("properties", []), entry.get("only_in")] for entry in found]
+    expect("differences", changed == [
+        ["LAYER", "Color", None], ["LAYER", "after"], ["LINE", "Position", None], ["LINE", "Shape", None],
+        ["CIRCLE", "Position", None], ["TEXT", "Text", None], ["MTEXT", "TextSize", "Shape", None],
+        ["INSERT", "Position", None]], changed)
     expect("properties alone", run("diff", "plan.dxf", "out.dxf", "--only-properties").returncode == 0)
     expect("the same", run("diff", "plan.dxf", "plan.dxf").returncode == 0)
+    with open("twice.dxf", "wb") as file:  # two circles of one handle, as damaged drawings have
+        circle = read("plan.dxf").partition(b"\n  0\nCIRCLE\n")[2].partition(b"\n  0\n")[0]
+        other = circle.replace(b"\n 40\n3.0", b"\n 40\n4.0")
+        file.write(read("plan.dxf").replace(circle, circle + b"\n  0\nCIRCLE\n" + other))
+    expect("a handle that is used twice", run("diff", "twice.dxf", "twice.dxf").returncode == 0)
     expect("a missing one", run("diff", "plan.dxf", "none.dxf").returncode == 2)
 
 

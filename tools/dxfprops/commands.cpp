@@ -2,6 +2,7 @@
 #include "tools/dxfprops/commands.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <map>
 
 #include "tools/cli/wildcard.h"
@@ -18,26 +19,31 @@ public:
             entities_.insert(entities_.end(), some.begin(), some.end());
         for (size_t i = 0; i < entities_.size(); ++i) {
             const dxf::RecordName name = drawing.NameOf(entities_[i]);
-            (name.handle.empty() ? byLine_[name.line] : byHandle_[name.handle]) = i;
+            if (name.handle.empty())
+                byLine_[name.line] = i;
+            else
+                byHandle_.emplace(name.handle, i);
         }
     }
 
     const std::vector<dxf::EntityRef>& All() const { return entities_; }
     const dxf::EntityRef* Find(const dxf::RecordName& name) const {
-        const auto handle = byHandle_.find(name.handle);
         const auto line = byLine_.find(name.line);
-        if (!name.handle.empty()) return handle != byHandle_.end() ? &entities_[handle->second] : nullptr;
-        return line != byLine_.end() ? &entities_[line->second] : nullptr;
+        if (name.handle.empty()) return line != byLine_.end() ? &entities_[line->second] : nullptr;
+        const size_t found = FindHandle(name.handle, [](size_t) { return true; });
+        return found < entities_.size() ? &entities_[found] : nullptr;
     }
-    // The position of an entity of that handle, or size() if there is none.
-    size_t FindHandle(const std::string& handle) const {
-        const auto found = byHandle_.find(handle);
-        return found != byHandle_.end() ? found->second : entities_.size();
+    // The position of the first such entity of that handle, which damaged drawings have several times, or size().
+    template <class IsIt>
+    size_t FindHandle(const std::string& handle, IsIt isIt) const {
+        const auto [first, last] = byHandle_.equal_range(handle);
+        const auto found = std::find_if(first, last, [&](const auto& entry) { return isIt(entry.second); });
+        return found != last ? found->second : entities_.size();
     }
 
 private:
     std::vector<dxf::EntityRef> entities_;
-    std::map<std::string, size_t> byHandle_;
+    std::multimap<std::string, size_t> byHandle_;
     std::map<uint32_t, size_t> byLine_;
 };
 
@@ -53,9 +59,11 @@ public:
         if (compared_ == Compared::properties) return values;
         const size_t properties = values.size();
         AddValues(one, other, Compared::all, values);
-        const auto isPlaced = [](const Difference::Value& value) { return value.property != "Text"; };
-        const auto first = values.begin() + static_cast<std::ptrdiff_t>(properties);
-        if (std::none_of(first, values.end(), isPlaced)) AddShape(one, other, first != values.end(), values);
+        std::set<std::string> reported;
+        for (size_t i = properties; i < values.size(); ++i)
+            reported.insert(values[i].property);
+        const bool isPlacedInsertion = dxf::DocumentReader::Has(one, "BlockName") && !reported.empty();
+        if (!isPlacedInsertion) AddShape(one, other, reported, values);
         return values;
     }
 
@@ -73,16 +81,25 @@ private:
         }
     }
 
-    // Groups that differ: "10 1.500000". Texts, groups 1 to 3, may have been reported.
-    void AddShape(const dxf::EntityRef& one, const dxf::EntityRef& other, bool isTextReported,
+    // Returns the groups of the shape without those that have been reported as Text or Position.
+    static std::vector<std::string> RestOf(std::vector<std::string> shape, const std::set<std::string>& reported) {
+        std::set<std::string> met;
+        const auto isReported = [&](const std::string& group) {
+            const std::string code = group.substr(0, group.find(' '));
+            const bool isText = code == "1" || code == "2" || code == "3";
+            const bool isFirstPoint = (code == "10" || code == "20" || code == "30") && met.insert(code).second;
+            return (isText && reported.count("Text") != 0) || (isFirstPoint && reported.count("Position") != 0);
+        };
+        shape.erase(std::remove_if(shape.begin(), shape.end(), isReported), shape.end());
+        return shape;
+    }
+
+    // Groups that differ: "10 1.500000".
+    void AddShape(const dxf::EntityRef& one, const dxf::EntityRef& other, const std::set<std::string>& reported,
                   std::vector<Difference::Value>& values) const {
         constexpr size_t kMost = 8;
-        std::vector<std::string> was = before_.ShapeOf(one), is = after_.ShapeOf(other);
-        if (isTextReported)
-            for (auto* shape : {&was, &is})
-                shape->erase(std::remove_if(shape->begin(), shape->end(),
-                                            [](const std::string& group) { return group[1] == ' ' && group[0] < '4'; }),
-                             shape->end());
+        const std::vector<std::string> was = RestOf(before_.ShapeOf(one), reported);
+        const std::vector<std::string> is = RestOf(after_.ShapeOf(other), reported);
         std::string before, after;
         size_t count = 0;
         for (size_t i = 0; i < std::max(was.size(), is.size()) && count < kMost; ++i) {
@@ -99,6 +116,29 @@ private:
     const dxf::DocumentReader& after_;
     Compared compared_;
 };
+
+using LayerValues = std::map<std::string, Values>; // by names
+
+LayerValues LayersOf(const dxf::DocumentReader& drawing) {
+    LayerValues layers;
+    for (const dxf::Contents::Layer& layer : drawing.GetContents().layers)
+        layers.emplace(layer.name, ValuesOf(layer));
+    return layers;
+}
+
+void AddLayerDifferences(const LayerValues& ones, const LayerValues& others, std::vector<Difference>& differences) {
+    for (const auto& [name, was] : ones) {
+        const auto other = others.find(name);
+        if (other == others.end()) differences.push_back({{}, Difference::Kind::onlyBefore, {}, name});
+        if (other == others.end() || other->second == was) continue;
+        std::vector<Difference::Value> values;
+        for (size_t i = 0; i < was.size(); ++i)
+            if (was[i] != other->second[i]) values.push_back({was[i].first, was[i].second, other->second[i].second});
+        differences.push_back({{}, Difference::Kind::changed, std::move(values), name});
+    }
+    for (const auto& [name, values] : others)
+        if (ones.count(name) == 0) differences.push_back({{}, Difference::Kind::onlyAfter, {}, name});
+}
 
 void Finish(const DrawingFile& drawing, dxf::DocumentWriter& writer, const Target& target, SetResult& result) {
     result.notes = writer.Notes();
@@ -139,6 +179,21 @@ Values ForAttribute(const DrawingFile& drawing, const dxf::EntityRef& entity, Se
 }
 
 } // namespace
+
+Values ValuesOf(const dxf::Contents::Layer& layer) {
+    const auto onOff = [](bool isOn) { return std::string(isOn ? "Yes" : "No"); };
+    constexpr int kFrozen = 1, kLocked = 4;
+    char weight[32] = "Default";
+    if (layer.lineWeight >= 0) std::snprintf(weight, sizeof weight, "%g mm", layer.lineWeight / 100.0);
+    return {{"Name", layer.name},
+            {"On", onOff(layer.color >= 0)},
+            {"Frozen", onOff((layer.flags & kFrozen) != 0)},
+            {"Locked", onOff((layer.flags & kLocked) != 0)},
+            {"Plotted", onOff(layer.isPlotted)},
+            {"Color", layer.colorText},
+            {"LineType", layer.lineType},
+            {"LineWeight", weight}};
+}
 
 Matches ForEachEntity(const DrawingFile& drawing, const Selection& selection, const std::vector<std::string>& show,
                       const std::function<void(const EntityProperties&)>& each) {
@@ -207,7 +262,6 @@ SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& 
         existing.push_back(layer.name);
     std::set<std::string> chosen;
     for (const std::string& wanted : layers) {
-
         size_t count = 0;
         for (const std::string& name : existing)
             if (IsLike(name, wanted) && ++count > 0) chosen.insert(name);
@@ -230,19 +284,21 @@ std::vector<Difference> FindDifferences(const dxf::DocumentReader& before, const
     const std::vector<dxf::EntityRef>&ones = one.All(), &others = other.All();
     std::vector<bool> met(others.size());
     std::vector<Difference> differences;
+    if (compared == Compared::all) AddLayerDifferences(LayersOf(before), LayersOf(after), differences);
     for (size_t i = 0; i < ones.size(); ++i) {
         const dxf::RecordName name = before.NameOf(ones[i]);
-        const size_t at = name.handle.empty() ? i : other.FindHandle(name.handle);
+        const auto isFree = [&](size_t place) { return !met[place]; };
+        const size_t at = name.handle.empty() ? i : other.FindHandle(name.handle, isFree);
         if (at >= others.size() || met[at] || after.NameOf(others[at]).kind != name.kind) {
-            differences.push_back({name, Difference::Kind::onlyBefore, {}});
+            differences.push_back({name, Difference::Kind::onlyBefore, {}, {}});
             continue;
         }
         met[at] = true;
         std::vector<Difference::Value> values = comparer.Compare(ones[i], others[at]);
-        if (!values.empty()) differences.push_back({name, Difference::Kind::changed, std::move(values)});
+        if (!values.empty()) differences.push_back({name, Difference::Kind::changed, std::move(values), {}});
     }
     for (size_t i = 0; i < others.size(); ++i)
-        if (!met[i]) differences.push_back({after.NameOf(others[i]), Difference::Kind::onlyAfter, {}});
+        if (!met[i]) differences.push_back({after.NameOf(others[i]), Difference::Kind::onlyAfter, {}, {}});
     return differences;
 }
 

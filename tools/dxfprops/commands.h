@@ -24,6 +24,9 @@ struct Matches {
     std::set<std::string> kinds;
 };
 
+// Returns a layer's values by the names that set-layer accepts.
+Values ValuesOf(const dxf::Contents::Layer& layer);
+
 // Calls `each` with the properties of each selected entity, in the order of the file: those that `show`
 // names, or all that the entity has.
 Matches ForEachEntity(const DrawingFile& drawing, const Selection& selection, const std::vector<std::string>& show,
@@ -37,13 +40,14 @@ struct Difference {
     dxf::RecordName name;
     Kind kind = Kind::changed;
     std::vector<Value> values;
+    std::string layer; // the name of a layer; empty for an entity
 };
 
 enum class Compared { all, properties };
 
-// Returns the entities of model space, paper space and blocks that differ. Compares entities of the same handle, or, if
-// they have no handles, at the same place. Texts, positions and other coordinates are compared as well as properties,
-// or properties alone.
+// Returns the layers, and the entities of model space, paper space and blocks that differ. Compares layers of the same
+// name and entities of the same handle, or, if they have no handles, at the same place. Texts, positions and other
+// coordinates are compared as well as properties, or properties of entities alone.
 std::vector<Difference> FindDifferences(const dxf::DocumentReader& before, const dxf::DocumentReader& after,
                                         Compared compared);
 

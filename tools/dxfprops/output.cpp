@@ -1,7 +1,6 @@
 // Lines, JSON and CSV.
 #include "tools/dxfprops/output.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <map>
 #include <new>
@@ -51,7 +50,8 @@ Json JsonOf(const EntityProperties& entity) {
 }
 
 Json JsonOf(const Difference& difference) {
-    Json entry = Named(difference.name);
+    Json entry =
+        difference.layer.empty() ? Named(difference.name) : Json{{"kind", "LAYER"}, {"name", difference.layer}};
     if (difference.kind != Difference::Kind::changed)
         entry["only_in"] = difference.kind == Difference::Kind::onlyBefore ? "before" : "after";
     for (const Difference::Value& value : difference.values)
@@ -60,7 +60,7 @@ Json JsonOf(const Difference& difference) {
 }
 
 std::string LineOf(const Difference& difference, const std::string& before, const std::string& after) {
-    std::string line = difference.name.Text();
+    std::string line = difference.layer.empty() ? difference.name.Text() : "LAYER " + Quoted(difference.layer);
     if (difference.kind != Difference::Kind::changed)
         line += " is only in " + (difference.kind == Difference::Kind::onlyBefore ? before : after);
     for (const Difference::Value& value : difference.values)
@@ -268,24 +268,9 @@ std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(
             at = end + 1;
         }
     } catch (const Json::exception& error) {
-        throw std::invalid_argument(std::string("not the JSON output of get: ") + error.what());
+        throw dxf::ReadError(0, std::string("not the JSON output of get: ") + error.what());
     }
     return files;
-}
-
-Values ValuesOf(const dxf::Contents::Layer& layer) {
-    const auto onOff = [](bool isOn) { return std::string(isOn ? "Yes" : "No"); };
-    constexpr int kFrozen = 1, kLocked = 4;
-    char weight[32] = "Default";
-    if (layer.lineWeight >= 0) std::snprintf(weight, sizeof weight, "%g mm", layer.lineWeight / 100.0);
-    return {{"Name", layer.name},
-            {"On", onOff(layer.color >= 0)},
-            {"Frozen", onOff((layer.flags & kFrozen) != 0)},
-            {"Locked", onOff((layer.flags & kLocked) != 0)},
-            {"Plotted", onOff(layer.isPlotted)},
-            {"Color", layer.colorText},
-            {"LineType", layer.lineType},
-            {"LineWeight", weight}};
 }
 
 } // namespace dxfprops

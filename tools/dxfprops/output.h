@@ -62,10 +62,7 @@ bool PrintObjects(const std::vector<std::string>& files, Form form,
                   const std::function<nlohmann::ordered_json(const std::string&)>& describe, std::ostream& out);
 
 // Reads the form that Form::json and Form::jsonLines have for entities: entities by files, in their order. Throws
-// std::invalid_argument.
+// ReadError.
 std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(const std::string& json);
-
-// Returns a layer's values by the names that set-layer accepts.
-Values ValuesOf(const dxf::Contents::Layer& layer);
 
 } // namespace dxfprops

@@ -96,9 +96,11 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     for (const auto& [property, text] : values.properties)
         if (PropertyTexts::Has(entity, property)) reader.texts_->Set(property, text, appearance);
     const std::optional<AxisEnds> ends = edit.EndsOf(entity);
-    if (appearance == was && !edit.text && !ends) return false;
+    const bool isMoved = edit.Moves(entity);
+    if (appearance == was && !edit.text && !ends && !isMoved) return false;
     EntityPlace place;
     if (ends) place.ends = &*ends;
+    if (isMoved) place.position = &*edit.position;
     if (edit.text) place.text = &*edit.text;
     try {
         patch.Change(entity.offset, appearance, place);
@@ -229,11 +231,15 @@ void DocumentWriter::Parts::RequireEdit(const EntityRef& entity, const EntityEdi
         if (!isGood) FailVerification(name + (" of " + reader.NameOf(entity).Text()));
     };
     if (edit.text) require(after.Get(now, "Text") == *edit.text, "Text");
+    const auto requirePoint = [&](const Vec3& point, const Vec3& placed) {
+        require(Length(point - placed) <= RoundingAt(point) * 16, "Position");
+    };
+    if (edit.Moves(*entity.entity_)) requirePoint(*edit.position, PositionOf(*now.entity_).value_or(Vec3()));
     const std::optional<AxisEnds> ends = edit.EndsOf(*entity.entity_);
     if (!ends) return;
     const AxisEnds placed = AxisEndsOf(*now.entity_);
     for (size_t i = 0; i < ends->size(); ++i)
-        require(Length((*ends)[i] - placed[i]) <= RoundingAt((*ends)[0]) * 16, "Position");
+        requirePoint((*ends)[i], placed[i]);
 }
 
 void DocumentWriter::Parts::RequireAppearance(const EntityRef& entity, const Appearance& appearance,

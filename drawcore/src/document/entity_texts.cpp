@@ -12,8 +12,6 @@ namespace dxf {
 
 namespace {
 
-enum Owners { texts = 1, attributes = 2, inserts = 4, points = 8 };
-
 std::vector<double> ReadNumbers(const std::string& text) {
     std::vector<double> numbers;
     const char *at = text.data(), *const end = at + text.size();
@@ -104,7 +102,8 @@ constexpr Row kRows[] = {
          return ToDisplayText(document.At(InsertOf(entity)->block).name);
      },
      nullptr},
-    {"Position", IsInsert, [](const Document&, const Entity& entity) { return PointText(AxisEndsOf(entity)[0]); },
+    {"Position", [](const Entity& entity) { return PositionOf(entity).has_value(); },
+     [](const Document&, const Entity& entity) { return PointText(*PositionOf(entity)); },
      [](const std::string& text, EntityEdit& edit) { edit.position = ReadPoint(text); }},
     {"Scale", IsInsert,
      [](const Document&, const Entity& entity) {
@@ -146,6 +145,11 @@ std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
     for (Vec3& end : ends)
         end = end + motion;
     return ends;
+}
+
+bool EntityEdit::Moves(const Entity& entity) const {
+    const std::optional<Vec3> was = PositionOf(entity);
+    return position && was && !InsertOf(entity) && !(*was == *position);
 }
 
 Vec3 ReadPoint(const std::string& text) {

@@ -20,6 +20,8 @@ struct EntityEdit {
 
     // Returns the requested axes of the insertion; nothing if they stay.
     std::optional<AxisEnds> EndsOf(const Entity& entity) const;
+    // Returns whether another entity gets a new position.
+    bool Moves(const Entity& entity) const;
 };
 
 class EntityTexts {

@@ -21,6 +21,51 @@ Matrix ObjectSystem(const Vec3& normal) {
     return Matrix::FromAxes(x, Cross(z, x), z, {});
 }
 
+bool HangsOnInsertion(const Text& text) {
+    return text.horizontal == Text::Horizontal::left && text.vertical == Text::Vertical::baseline;
+}
+
+namespace {
+
+struct PositionFinder {
+    const Entity& entity;
+    using Found = std::optional<Vec3>;
+
+    Found operator()(const Line& line) const { return line.start; }
+    Found operator()(const PointMark& mark) const { return mark.at; }
+    Found operator()(const Circle& circle) const { return InWorld(circle.center); }
+    Found operator()(const Arc& arc) const { return InWorld(arc.center); }
+    Found operator()(const Ellipse& ellipse) const { return ellipse.center; }
+    Found operator()(const Polyline& polyline) const {
+        const bool isFlat = polyline.kind == Polyline::Kind::flat;
+        if (polyline.vertices.empty() || !(isFlat || polyline.kind == Polyline::Kind::spatial)) return std::nullopt;
+        return isFlat ? InWorld(polyline.vertices[0].at) : polyline.vertices[0].at;
+    }
+    Found operator()(const Leader& leader) const {
+        return leader.vertices.empty() ? std::nullopt : Found(leader.vertices[0]);
+    }
+    Found operator()(const Boxed<Text>& text) const {
+        if (text->role == Text::Role::attribute) return std::nullopt;
+        return InWorld(HangsOnInsertion(*text) ? text->insertion : text->alignment);
+    }
+    Found operator()(const Boxed<MText>& text) const { return text->insertion; }
+    Found operator()(const Boxed<Insert>& insert) const {
+        return insert->block == BlockIndex::none ? std::nullopt : Found(AxisEndsOf(entity)[0]);
+    }
+    template <class Other>
+    Found operator()(const Other&) const {
+        return std::nullopt;
+    }
+
+    Vec3 InWorld(const Vec3& point) const { return ObjectSystem(entity.normal).Apply(point); }
+};
+
+} // namespace
+
+std::optional<Vec3> PositionOf(const Entity& entity) {
+    return std::visit(PositionFinder{entity}, entity.shape);
+}
+
 Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& block, uint32_t column, uint32_t row) {
     const Vec3 cell{column * insert.columnSpacing, row * insert.rowSpacing, 0};
     return Matrix::Translation(block.base * -1) * Matrix::Scaling({insert.scaleX, insert.scaleY, insert.scaleZ}) *

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include "drawcore/src/dxf/document.h"
 #include "drawcore/src/geometry/matrix.h"
@@ -19,6 +20,12 @@ Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& blo
 // Returns the placement of an insertion's or dimension's block, without the base point: by its groups, or by its
 // extended data if the groups cannot represent it.
 Matrix PlacementOf(const Entity& entity);
+// Returns the point in the world that places an entity: of an insertion, a text or a point, the center of a circle, an
+// arc or an ellipse, the first vertex of a line or polyline. Returns nothing for other entities. Attributes are placed
+// by their insertions.
+std::optional<Vec3> PositionOf(const Entity& entity);
+// Returns whether the insertion point places the text, not the alignment point.
+bool HangsOnInsertion(const Text& text);
 // The origin of the placed block, and the end points of its axes.
 using AxisEnds = std::array<Vec3, 4>;
 AxisEnds AxisEndsOf(const Matrix& placement);

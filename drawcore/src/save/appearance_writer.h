@@ -16,8 +16,10 @@ class AppearanceWriter {
 public:
     AppearanceWriter(DrawingPatch& drawing, size_t offset);
 
-    // Move the entity, place an insertion, or move vertices. At most one call, before Write.
+    // Move a text, place an insertion, move any other entity with a position, or move vertices. At
+    // most one call, before Write.
     void Move(const Matrix& motion);
+    void MoveTo(const Vec3& position);
     void Place(const AxisEnds& ends);
     void PutContents(const std::string& text);
     // The vertices are those of the graphic made from the entity, in order. What cannot be moved stays.

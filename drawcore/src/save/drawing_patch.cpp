@@ -34,6 +34,7 @@ void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityP
         moved_.erase(moved);
     }
     if (place.ends) writer.Place(*place.ends);
+    if (place.position) writer.MoveTo(*place.position);
     if (place.vertices) writer.MoveVertices(*place.vertices);
     if (place.text) writer.PutContents(*place.text);
     writer.Write(wanted);

@@ -22,6 +22,8 @@ namespace dxf {
 struct EntityPlace {
     // For an insertion. Its attributes move with it, even those without other changes.
     const AxisEnds* ends = nullptr;
+    // In world coordinates, for an entity with a position (placement.h) that is not an insertion.
+    const Vec3* position = nullptr;
     // For lines and polylines, in world coordinates, as many as it has.
     const std::vector<Vec3>* vertices = nullptr;
     // As Text and MText store it, with control and inline codes.

@@ -24,6 +24,13 @@ double Clean(double number, double rounding) {
     return std::fabs(round - number) <= rounding * std::max(1.0, std::fabs(number)) ? round : number;
 }
 
+constexpr double kDegrees = 180 / drawcore::kPi; // of a radian
+
+// Returns the new angle in degrees, or the old one if they differ only by whole turns.
+double Turned(double was, double now, double rounding) {
+    return std::fabs(std::remainder(now - was, 360)) <= rounding ? was : now;
+}
+
 // Returns the numbers of an insertion in its object coordinates that approximate the placement. A mirrored x axis and a
 // half turn differ only in the y axis: what was mirrored remains so, and what becomes mirrored keeps its angle.
 Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& placement) {
@@ -44,7 +51,7 @@ Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& plac
     placed.scaleX = number(insert.scaleX, x.x * std::cos(angle) + x.y * std::sin(angle), 1);
     placed.scaleY = number(insert.scaleY, y.y * std::cos(angle) - y.x * std::sin(angle), 1);
     placed.scaleZ = number(insert.scaleZ, back.Turn(placement.Turn({0, 0, 1})).z, 1);
-    placed.rotation = number(insert.rotation, angle * (180 / drawcore::kPi), 180 / drawcore::kPi);
+    placed.rotation = Turned(insert.rotation, number(insert.rotation, angle * kDegrees, kDegrees), rounding * kDegrees);
     placed.at = back.Apply(placement.Apply({}));
     return placed;
 }

@@ -15,7 +15,44 @@ Vec3 Moved(const Vec3& point, const Vec3& to, const Matrix& system, const Matrix
     return system.Apply(point) == to ? point : back.Apply(to);
 }
 
+// Returns the vertices of lines, polylines, points and leaders, as many as MoveVertices expects.
+std::vector<Vec3> VerticesInWorld(const Entity& entity) {
+    if (const auto* line = std::get_if<Line>(&entity.shape)) return {line->start, line->end};
+    if (const auto* mark = std::get_if<PointMark>(&entity.shape)) return {mark->at, mark->at};
+    if (const auto* leader = std::get_if<Leader>(&entity.shape)) return leader->vertices;
+    std::vector<Vec3> vertices;
+    if (const auto* polyline = std::get_if<Polyline>(&entity.shape)) {
+        const Matrix system = polyline->kind == Polyline::Kind::flat ? ObjectSystem(entity.normal) : Matrix();
+        for (const Polyline::Vertex& vertex : polyline->vertices)
+            vertices.push_back(system.Apply(vertex.at));
+    }
+    return vertices;
+}
+
 } // namespace
+
+void AppearanceWriter::MoveTo(const Vec3& position) {
+    const Matrix system = ObjectSystem(entity_.normal);
+    const std::optional<Vec3> from = PositionOf(entity_);
+    Matrix back;
+    if (!from || !system.Invert(back)) return;
+    const Vec3 by = position - *from;
+    const auto moved = [&](const Vec3& point) { return point == *from ? position : point + by; }; // without rounding
+    const auto movedInObject = [&](const Vec3& point) { return back.Apply(moved(system.Apply(point))); };
+    std::vector<Vec3> vertices = VerticesInWorld(entity_);
+    if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) {
+        const bool usesAlignment = !HangsOnInsertion(**text) || record_.Find(11);
+        (*text)->insertion = movedInObject((*text)->insertion);
+        if (usesAlignment) (*text)->alignment = movedInObject((*text)->alignment);
+    } else if (!vertices.empty()) {
+        std::transform(vertices.begin(), vertices.end(), vertices.begin(), moved);
+        MoveVertices(vertices);
+    } else if (std::holds_alternative<Boxed<MText>>(entity_.shape) || std::holds_alternative<Ellipse>(entity_.shape)) {
+        PutPoint(10, *from, position);
+    } else {
+        PutPoint(10, back.Apply(*from), back.Apply(position));
+    }
+}
 
 void AppearanceWriter::MoveVertices(const std::vector<Vec3>& to) {
     if (auto* line = std::get_if<Line>(&entity_.shape); line && to.size() == 2) {

@@ -20,10 +20,6 @@ bool IsFitted(const Text& text) {
     return text.horizontal == Text::Horizontal::aligned || text.horizontal == Text::Horizontal::fit;
 }
 
-bool HangsOnInsertion(const Text& text) {
-    return text.horizontal == Text::Horizontal::left && text.vertical == Text::Vertical::baseline;
-}
-
 double Degrees(double radians) {
     const double degrees = radians * (180 / kPi), round = std::round(degrees * 1e9) / 1e9;
     return Near(round, degrees) ? round : degrees;
