@@ -19,7 +19,7 @@ CSplitter::~CSplitter() = default;
 BOOL CSplitter::Create(CWnd* parent, UINT id) {
     const HBRUSH face = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     const LPCSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_SIZEWE), face);
-    return CWnd::Create(windowClass, "", WS_CHILD, CRect(), parent, id);
+    return CWnd::Create(windowClass, "Splitter", WS_CHILD, CRect(), parent, id); // the name for screen readers
 }
 
 void CSplitter::OnLButtonDown(UINT, CPoint point) {

@@ -1,57 +1,14 @@
-// Accessibility of the sheet's fields and the viewer's windows: each has a name and a role. Wine reports roles and the
-// names of edit controls as Windows does, but no names for combo boxes and lists, which Windows names after the label
-// before them; there the label is checked.
+// Accessibility of the viewer: a screen reader hears the name of each part and of each field of its dialogs.
 
 #include "demo/viewer.h"
 
-#include <oleacc.h>
-
-#include "demo/automation/control_text.h"
 #include "demo/automation/sheet_pages.h"
 #include "demo/viewer/resource.h"
 #include "orlo/resources/resource.h"
-#include "orlo/win/child_windows.h"
-#include "orlo/win/com_owner.h"
-#include "orlo/win/encoded_text.h"
+#include "support/accessible.h"
+#include "support/spoken.h"
 
 namespace {
-
-struct Told {
-    std::string name;
-    long role;
-};
-
-Told AskOf(HWND window) {
-    void* found = nullptr;
-    if (FAILED(::AccessibleObjectFromWindow(window, static_cast<DWORD>(OBJID_CLIENT), __uuidof(IAccessible), &found)))
-        return {"no object", 0};
-    const orlo::Owned<IAccessible> object(static_cast<IAccessible*>(found));
-    Told told = {"", 0};
-    VARIANT self = {}, role = {};
-    self.vt = VT_I4;
-    self.lVal = CHILDID_SELF;
-    BSTR name = nullptr;
-    if (object->get_accName(self, &name) == S_OK && name) told.name = orlo::Narrow(name, CP_UTF8);
-    ::SysFreeString(name);
-    if (object->get_accRole(self, &role) == S_OK && role.vt == VT_I4) told.role = role.lVal;
-    return told;
-}
-
-std::string WithoutMnemonic(std::string text) {
-    const size_t mark = text.find('&');
-    return mark == std::string::npos ? text : text.erase(mark, 1);
-}
-
-// Returns the text of the label before it or of the group box around it.
-std::string LabelOf(HWND field) {
-    const HWND label = ::GetWindow(field, GW_HWNDPREV);
-    if (!label || !(::SendMessageA(label, WM_GETDLGCODE, 0, 0) & DLGC_STATIC)) return "";
-    return WithoutMnemonic(WindowText(label));
-}
-
-bool IsEdit(HWND field) {
-    return ::SendMessageA(field, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
-}
 
 struct FieldCase {
     int page;
@@ -70,36 +27,75 @@ const FieldCase kFields[] = {
     {4, IDC_SCALE_Z, "Z-Axis"},          {4, IDC_POSITION_Y, "Y"},
 };
 
-class ScreenReader : public Viewer {};
+class ScreenReader : public Viewer {
+protected:
+    void InDialog(UINT key, unsigned modifiers, const std::function<void(HWND)>& play) {
+        user.InDialog([&] { user.Key(key, modifiers); },
+                      [&](HWND dialog) {
+                          play(dialog);
+                          user.Key(VK_ESCAPE);
+                      });
+    }
+};
 
 TEST_F(ScreenReader, GetsANameForEachFieldOfTheSheet) {
     frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf");
     user.Key('A', UserInput::kControl);
-    user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
-                  [&](HWND sheet) {
-                      for (const FieldCase& row : kFields) {
-                          ASSERT_TRUE(ClickTab(user, sheet, row.page));
-                          const HWND field = ::GetDlgItem(ActivePageOf(sheet), row.control);
-                          EXPECT_EQ(IsEdit(field) ? AskOf(field).name : LabelOf(field), row.name);
-                          EXPECT_EQ(AskOf(field).role == ROLE_SYSTEM_TEXT, IsEdit(field)) << row.name;
-                      }
-                      EXPECT_EQ(AskOf(sheet).name, "Properties");
-                      user.Key(VK_ESCAPE);
-                  });
+    InDialog(VK_RETURN, UserInput::kAlt, [&](HWND sheet) {
+        EXPECT_EQ(Accessible(sheet).Name(), "Properties");
+        for (const FieldCase& row : kFields) {
+            ASSERT_TRUE(ClickTab(user, sheet, row.page));
+            const HWND field = ::GetDlgItem(ActivePageOf(sheet), row.control);
+            EXPECT_EQ(SpokenName(field), row.name);
+            const bool isEdit = ::SendMessageA(field, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
+            EXPECT_EQ(Accessible(field).Role() == ROLE_SYSTEM_TEXT, isEdit) << row.name;
+        }
+    });
 }
 
-TEST_F(ScreenReader, GetsThePartsOfTheViewer) {
+TEST_F(ScreenReader, GetsThePartsOfTheMainWindow) {
     user.Key(VK_F4);
-    EXPECT_EQ(AskOf(view()).name, "Drawing");
-    EXPECT_EQ(AskOf(frame->Pane().m_hWnd).name, "Properties");
-    EXPECT_EQ(AskOf(::FindWindowExA(frame->Pane().m_hWnd, nullptr, "STATIC", nullptr)).name, "Nothing is selected");
-    user.InDialog([&] { user.Key('L', UserInput::kControl); },
-                  [&](HWND dialog) {
-                      EXPECT_EQ(AskOf(dialog).name, "Layers");
-                      EXPECT_EQ(LabelOf(::GetDlgItem(dialog, IDC_LAYER_LIST)), "Layers of the drawing:");
-                      EXPECT_EQ(AskOf(::GetDlgItem(dialog, IDC_LAYER_LOCKED)).name, "Locked");
-                      user.Key(VK_ESCAPE);
-                  });
+    EXPECT_EQ(Accessible(frame->Pane().m_hWnd).Name(), "Properties");
+    EXPECT_EQ(SpokenName(::FindWindowExA(frame->Pane().m_hWnd, nullptr, "STATIC", nullptr)), "Nothing is selected");
+    user.Key('A', UserInput::kControl);
+    user.Wait(100);
+    EXPECT_LT(6, ExpectSpoken(frame->m_hWnd)) << "the sheet in the pane";
+    for (HWND part = ::GetWindow(frame->m_hWnd, GW_CHILD); part; part = ::GetWindow(part, GW_HWNDNEXT)) {
+        if (!::IsWindowVisible(part)) continue;
+        EXPECT_NE(Accessible(part).Name(), "") << ::GetDlgCtrlID(part);
+    }
+}
+
+TEST_F(ScreenReader, GetsEachFieldOfTheDialogs) {
+    user.Key('A', UserInput::kControl);
+    const struct {
+        UINT key;
+        unsigned modifiers;
+        const char* title;
+        int fields;
+    } rows[] = {{'L', UserInput::kControl, "Layers", 7}, {VK_F1, 0, "Keys and Mouse", 1}};
+    for (const auto& row : rows)
+        InDialog(row.key, row.modifiers, [&](HWND dialog) {
+            EXPECT_EQ(Accessible(dialog).Name(), row.title);
+            EXPECT_EQ(ExpectSpoken(dialog), row.fields) << row.title;
+        });
+    InDialog('L', UserInput::kControl, [](HWND dialog) {
+        EXPECT_EQ(SpokenName(::GetDlgItem(dialog, IDC_LAYER_FIND)), "Find:");
+        EXPECT_EQ(SpokenName(::GetDlgItem(dialog, IDC_LAYER_LIST)), "Layers of the drawing:");
+    });
+}
+
+TEST_F(ScreenReader, GetsEachStepOfTheStyleWizard) {
+    constexpr int kNext = 101;
+    user.Key('A', UserInput::kControl);
+    InDialog('N', UserInput::kControl, [&](HWND wizard) {
+        user.Type("Walls");
+        for (int step = 0; step < 3; ++step) {
+            SCOPED_TRACE(step);
+            EXPECT_LT(2, ExpectSpoken(wizard));
+            if (step < 2) user.Click(::GetDlgItem(wizard, kNext));
+        }
+    });
 }
 
 } // namespace
