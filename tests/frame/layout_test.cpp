@@ -119,8 +119,8 @@ TEST(SheetLayout, AllPagesHaveOnePlace) {
 
 TEST(SheetLayout, OpensAsLargeAsThePageThatWantsMost) {
     Layout layout;
-    layout.Sheet().AddPage(new WantingPage({230, 100}));
-    layout.Sheet().AddPage(new WantingPage({100, 190}));
+    for (const CSize wanted : {CSize(100, 190), CSize(230, 100), CSize()})
+        layout.Sheet().AddPage(new WantingPage(wanted));
     layout.Run([&](SheetDriver&) {
         const CSize wanted = layout.Pixels(230, 190);
         EXPECT_EQ(layout.Page().Size(), CSize(wanted.cx + kFrame, wanted.cy));
