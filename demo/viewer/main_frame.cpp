@@ -440,9 +440,11 @@ void CMainFrame::OnSelectionChanged() {
 }
 
 void CMainFrame::ShowSelected() {
-    if (!m_document) return m_status.ShowSelection("", "");
-    const Graphics selected = m_document->Selected().Members();
-    m_status.ShowSelection(KindsText(selected), WidthsText(m_document->Drawing(), selected));
+    const Graphics selected = m_document ? m_document->Selected().Members() : Graphics();
+    if (selected.empty()) return m_status.ShowSelection({}, {});
+    const std::vector<ValueCount> widths = CountValues(m_document->Drawing(), selected, kPropPenWidth);
+    m_status.ShowSelection({KindsText(selected), Counted(static_cast<int>(selected.size()), "graphic")},
+                           {CountsText(widths), CountsText(widths, 1)});
 }
 
 void CMainFrame::OnPointerMoved(WorldPoint point) {

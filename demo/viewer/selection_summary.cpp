@@ -17,8 +17,6 @@
 
 namespace {
 
-constexpr size_t kMostValues = 3; // maximum number of values listed
-
 struct KindName {
     uint32_t kind;
     const char* one;
@@ -84,16 +82,12 @@ std::string KindsText(const Graphics& graphics) {
     return kinds.size() > 1 ? std::to_string(graphics.size()) + ": " + text : text;
 }
 
-std::string CountsText(const std::vector<ValueCount>& counts) {
+std::string CountsText(const std::vector<ValueCount>& counts, size_t mostValues) {
     std::string text;
-    for (size_t i = 0; i < std::min(counts.size(), kMostValues); ++i)
+    for (size_t i = 0; i < std::min(counts.size(), mostValues); ++i)
         text += (i ? ", " : "") + std::to_string(counts[i].count) + " x " + counts[i].value;
-    if (counts.size() > kMostValues) text += " and " + std::to_string(counts.size() - kMostValues) + " more";
+    if (counts.size() > mostValues) text += " and " + std::to_string(counts.size() - mostValues) + " more";
     return text;
-}
-
-std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics) {
-    return CountsText(CountValues(drawing, graphics, kPropPenWidth));
 }
 
 Graphics OfKind(const Graphics& graphics, uint32_t kind) {

@@ -20,10 +20,8 @@ std::vector<KindCount> CountKinds(const Graphics& graphics);
 std::string KindText(const KindCount& kind); // Returns for example "6 texts".
 // Returns for example "116: 6 texts, 80 lines, 30 curves"; "80 lines" for a single kind; an empty string for none.
 std::string KindsText(const Graphics& graphics);
-// Returns for example "3 x 0.25 mm, 2 x 0.5 mm": the first values, and the number of others.
-std::string CountsText(const std::vector<ValueCount>& counts);
-// Returns the text for the pen widths; empty if no graphic has a pen.
-std::string WidthsText(DrawingStruct* drawing, const Graphics& graphics);
+// Returns for example "3 x 0.25 mm, 2 x 0.5 mm and 4 more": the first values, and the number of others.
+std::string CountsText(const std::vector<ValueCount>& counts, size_t mostValues = 3);
 
 Graphics OfKind(const Graphics& graphics, uint32_t kind);
 Graphics OnLayer(const Graphics& graphics, uint16_t layer);

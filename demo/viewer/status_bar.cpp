@@ -4,14 +4,16 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace {
 
 // At 96 dpi.
 constexpr int kPaneMargin = 16;
-constexpr int kPointerWidth = 230;
 constexpr int kProgressWidth = 200;
 constexpr UINT kProgressId = 1;
+
+constexpr char kEllipsis[] = "...";
 
 } // namespace
 
@@ -21,7 +23,8 @@ CStatusBar::CStatusBar() = default;
 CStatusBar::~CStatusBar() = default;
 
 BOOL CStatusBar::Create(CWnd* parent, UINT id) {
-    if (!CStatusBarCtrl::Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP, CRect(), parent, id)) return FALSE;
+    if (!CStatusBarCtrl::Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS, CRect(), parent, id))
+        return FALSE;
     if (!m_progress.Create(WS_CHILD, CRect(), this, kProgressId)) return FALSE;
     m_progress.SetRange32(0, 1000);
     return TRUE;
@@ -35,30 +38,55 @@ int CStatusBar::Height() const {
 
 void CStatusBar::Arrange() {
     SendMessage(WM_SIZE); // makes the control set its own position
+    ArrangePanes();
+}
+
+void CStatusBar::ArrangePanes() {
     CRect client;
     GetClientRect(client);
-    int widths[kPanes] = {};
-    widths[kPointer] = Scaled(kPointerWidth);
-    for (const int pane : {kSelection, kWidths})
-        widths[pane] = WidthFor(m_texts[pane]);
-    // The other panes take the space that they need from the message, up to a maximum; then the widest one is
-    // truncated.
-    const int most = client.Width() * (kPanes - 1) / kPanes;
-    int excess = std::accumulate(widths, widths + kPanes, 0) - most;
-    for (int* widest; excess > 0; excess = std::accumulate(widths, widths + kPanes, 0) - most) {
+    const int room = client.Width() - ::GetSystemMetrics(SM_CXVSCROLL); // without the size grip
+    std::string texts[kPanes];
+    int widths[kPanes];
+    const auto take = [&](Pane pane, const std::string& text) {
+        texts[pane] = text;
+        widths[pane] = WidthFor(text);
+    };
+    for (const Pane pane : {kMessage, kSelection, kWidths, kPointer})
+        take(pane, m_texts[pane].full);
+    widths[kPointer] = m_pointerWidth = std::max(m_pointerWidth, widths[kPointer]);
+    if (m_progress.IsWindowVisible()) widths[kMessage] += Scaled(kProgressWidth);
+    const auto excess = [&] { return std::accumulate(widths, widths + kPanes, 0) - room; };
+    for (const Pane pane : {kWidths, kSelection})
+        if (excess() > 0) take(pane, m_texts[pane].brief);
+    // The widest pane is cut first, down to a fourth of the bar.
+    for (int* widest; excess() > 0; *widest -= std::min(excess(), std::max(*widest - room / kPanes, 1)))
         widest = std::max_element(widths, widths + kPanes);
-        *widest = std::max(*widest - excess, std::min(*widest - 1, most / (kPanes - 1)));
-    }
+    widths[kMessage] -= excess();
+
     int rightEdges[kPanes];
-    rightEdges[kPointer] = client.right;
-    for (int pane = kPointer; pane > kMessage; --pane)
-        rightEdges[pane - 1] = rightEdges[pane] - widths[pane];
+    std::partial_sum(widths, widths + kPanes, rightEdges);
     rightEdges[kPointer] = -1; // including the size grip
     SetParts(kPanes, rightEdges);
+    PlaceProgress(widths[kMessage]);
+    for (int pane = 0; pane < kPanes; ++pane)
+        SetPane(pane, texts[pane], widths[pane]);
+}
+
+// Takes the right end of the message's pane.
+void CStatusBar::PlaceProgress(int& messageWidth) {
+    if (!m_progress.IsWindowVisible()) return;
     CRect pane;
     GetRect(kMessage, pane);
     const int width = std::min(Scaled(kProgressWidth), pane.Width() / 2);
     m_progress.MoveWindow(pane.right - width, pane.top + 2, width - 4, pane.Height() - 4);
+    messageWidth -= width;
+}
+
+void CStatusBar::SetPane(int pane, const std::string& text, int width) {
+    const std::string& full = m_texts[pane].full;
+    const std::string shown = Fitting(text, width);
+    SetText((" " + shown).c_str(), pane, 0);
+    SendMessage(SB_SETTIPTEXTA, static_cast<WPARAM>(pane), reinterpret_cast<LPARAM>(shown == full ? "" : full.c_str()));
 }
 
 int CStatusBar::Scaled(int at96) const {
@@ -74,6 +102,14 @@ int CStatusBar::WidthFor(const std::string& text) const {
     return size.cx + Scaled(kPaneMargin);
 }
 
+std::string CStatusBar::Fitting(const std::string& text, int width) const {
+    if (WidthFor(text) <= width) return text;
+    size_t length = text.size();
+    while (length > 0 && WidthFor(text.substr(0, length) + kEllipsis) > width)
+        --length;
+    return text.substr(0, length) + kEllipsis;
+}
+
 void CStatusBar::SetDpi(int dpi) {
     NONCLIENTMETRICSA metrics = {};
     metrics.cbSize = sizeof metrics;
@@ -85,25 +121,33 @@ void CStatusBar::SetDpi(int dpi) {
     orlo::OwnedFont sized(::CreateFontIndirectA(&font));
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(sized.get()), TRUE);
     m_font = std::move(sized);
+    m_pointerWidth = 0;
 }
 
-bool CStatusBar::ShowText(Pane pane, const std::string& text) {
-    if (m_texts[pane] == text) return false;
-    m_texts[pane] = text;
-    SetText((" " + text).c_str(), pane, 0);
-    return true;
+void CStatusBar::ShowMessage(const std::string& text) {
+    if (std::exchange(m_texts[kMessage], StatusText{text, text}).full != text) ArrangePanes();
 }
 
-void CStatusBar::ShowSelection(const std::string& kinds, const std::string& widths) {
-    const bool changed = ShowText(kSelection, kinds);
-    if (ShowText(kWidths, widths) || changed) Arrange();
+void CStatusBar::ShowSelection(const StatusText& kinds, const StatusText& widths) {
+    if (kinds.full == m_texts[kSelection].full && widths.full == m_texts[kWidths].full) return;
+    m_texts[kSelection] = kinds;
+    m_texts[kWidths] = widths;
+    ArrangePanes();
+}
+
+void CStatusBar::ShowPointer(const std::string& text) {
+    m_texts[kPointer] = {text, text};
+    if (WidthFor(text) > m_pointerWidth)
+        ArrangePanes();
+    else
+        SetPane(kPointer, text, m_pointerWidth);
 }
 
 void CStatusBar::StartProgress(const std::string& text) {
     m_permille = -1;
-    ShowMessage(text);
     ShowProgress(0);
     m_progress.ShowWindow(SW_SHOWNA);
+    ShowMessage(text);
     UpdateWindow();
 }
 

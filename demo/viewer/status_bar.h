@@ -1,5 +1,6 @@
 // The status bar of the main window: a message (or the progress of an operation), the kinds of the selected graphics,
-// their pen widths, and the pointer position.
+// their pen widths, and the pointer position. Where the texts are wider than the bar, the pen widths and then the kinds
+// are shown in brief; what is still too wide ends with an ellipsis, and a tooltip shows all of it.
 #pragma once
 
 #include <afxcmn.h>
@@ -7,6 +8,10 @@
 #include <string>
 
 #include "orlo/win/gdi.h"
+
+struct StatusText {
+    std::string full, brief;
+};
 
 class CStatusBar : public CStatusBarCtrl {
     DECLARE_DYNAMIC(CStatusBar)
@@ -21,9 +26,9 @@ public:
     // Sets the resolution of the monitor for font and panes; the height changes as well.
     void SetDpi(int dpi);
 
-    void ShowMessage(const std::string& text) { ShowText(kMessage, text); }
-    void ShowSelection(const std::string& kinds, const std::string& widths);
-    void ShowPointer(const std::string& text) { ShowText(kPointer, text); }
+    void ShowMessage(const std::string& text);
+    void ShowSelection(const StatusText& kinds, const StatusText& widths);
+    void ShowPointer(const std::string& text);
 
     // Shows a progress bar in place of the message until EndProgress. Painted immediately, since no messages are
     // handled meanwhile.
@@ -34,13 +39,18 @@ public:
 private:
     enum Pane { kMessage, kSelection, kWidths, kPointer, kPanes };
 
-    bool ShowText(Pane pane, const std::string& text); // returns false if it was already shown
+    void ArrangePanes();
+    void PlaceProgress(int& messageWidth);
+    void SetPane(int pane, const std::string& text, int width);
     int Scaled(int at96) const;
+    // Both measure with the margins of a pane.
     int WidthFor(const std::string& text) const;
+    std::string Fitting(const std::string& text, int width) const;
 
     CProgressCtrl m_progress;
     orlo::OwnedFont m_font; // null for the system's
     int m_dpi = 96;
-    std::string m_texts[kPanes];
+    StatusText m_texts[kPanes];
+    int m_pointerWidth = 0; // of the widest position so far, so that the panes do not move with the pointer
     int m_permille = -1;
 };

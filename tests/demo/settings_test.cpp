@@ -250,11 +250,10 @@ TEST_F(Remembered, StatusBarReportsTextThatIsNotALength) {
                   });
 }
 
-TEST_F(Remembered, StatusBarDoesNotTruncateShortTextsForLongOnes) {
+// Texts are abbreviated if they are wider than the bar, and end in an ellipsis if they still are.
+TEST_F(Remembered, StatusBarTruncatesOnlyWithAnEllipsis) {
     const HWND bar = ::GetDlgItem(frame->m_hWnd, IDC_STATUS);
-    frame->MoveWindow(0, 0, 700, 500);
-    user.Key('A', UserInput::kControl);
-    for (const int pane : {1, 2}) {
+    const auto expectWhole = [&](int pane) {
         CRect place;
         ::SendMessageA(bar, SB_GETRECT, static_cast<WPARAM>(pane), reinterpret_cast<LPARAM>(&place));
         const orlo::WindowDC dc(bar);
@@ -263,7 +262,20 @@ TEST_F(Remembered, StatusBarDoesNotTruncateShortTextsForLongOnes) {
         SIZE size = {};
         ::GetTextExtentPoint32A(dc.get(), text.c_str(), static_cast<int>(text.size()), &size);
         EXPECT_GE(place.Width(), size.cx) << text;
+    };
+    frame->View().SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(100, 100));
+    user.Key('A', UserInput::kControl);
+    for (const auto& [width, kinds] : {std::pair(1000, " 4: 1 text, 3 lines"), {300, " 4 graphics"}}) {
+        frame->MoveWindow(0, 0, width, 500);
+        EXPECT_EQ(StatusText(frame->m_hWnd, 1), kinds);
+        for (const int pane : {0, 1, 2, 3})
+            expectWhole(pane);
     }
+    const DrawingFile odd("0\nSECTION\n2\nENTITIES\n0\nODDITY\n8\n0\n0\nENDSEC\n0\nEOF\n");
+    ASSERT_TRUE(frame->Open(odd.Path()));
+    const std::string message = StatusText(frame->m_hWnd, 0);
+    EXPECT_EQ(message.substr(message.size() - 3), "...") << message;
+    expectWhole(0);
 }
 
 } // namespace
