@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "frame/width_page.h"
+#include "orlo/win/gdi.h"
 #include "support/message_box_watcher.h"
 
 #include <commctrl.h>
@@ -117,6 +118,34 @@ TEST(FittedControls, AreThoseOfAPageThatRequestsIt) {
             EXPECT_LE(box.right, group.right - 3) << "the line of the group";
         });
     }
+}
+
+// Returns the number of pixels in the color of texts.
+int Ink(HWND control) {
+    ::RedrawWindow(control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    const orlo::WindowDC dc(control);
+    RECT client;
+    ::GetClientRect(control, &client);
+    int ink = 0;
+    for (int y = 0; y < client.bottom; ++y)
+        for (int x = 0; x < client.right; ++x)
+            ink += ::GetPixel(dc.get(), x, y) == ::GetSysColor(COLOR_BTNTEXT);
+    return ink;
+}
+
+TEST(FittedControls, ShowTheWholeLabelBesideALargerBox) {
+    GraphicKit kit;
+    TestSheet sheet(kit);
+    sheet.Add([](CDataExchange*) {}, kOddPage).FitControls();
+    sheet.Run([&](SheetDriver& user) {
+        const HWND box = user.Control(142);
+        const int shown = Ink(box);
+        RECT rect;
+        ::GetWindowRect(box, &rect);
+        ::SetWindowPos(box, nullptr, 0, 0, 2 * (rect.right - rect.left), rect.bottom - rect.top,
+                       SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_EQ(shown, Ink(box));
+    });
 }
 
 } // namespace

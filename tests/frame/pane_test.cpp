@@ -1,0 +1,118 @@
+// A pane: its buttons, and scrolling a sheet that is larger than the pane.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+#include "orlo/entry/entry.h"
+#include "orlo/frame/sheet_pane.h"
+#include "support/graphic_kit.h"
+#include "support/test_sheet.h"
+
+namespace {
+
+CRect PlaceIn(HWND parent, HWND window) {
+    CRect rect;
+    ::GetWindowRect(window, rect);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
+}
+
+class TestPane : public CSheetPane {
+public:
+    explicit TestPane(GraphicKit& kit) : m_kit(kit) {}
+    ~TestPane() override { DestroyWindow(); }
+    HWND SheetWindow() const { return Sheet()->m_hWnd; }
+    HWND Page() const { return Sheet()->GetActivePage()->m_hWnd; }
+    CSize FullSize() const { return SheetSize(); }
+
+protected:
+    CGraphicPropertySheet* NewSheet() override {
+        m_sheet.reset(::InitGraphicPropertySheet(this, nullptr, m_kit.Drawing(), m_kit.Selection(), kAllGraphics));
+        return m_sheet.get();
+    }
+    void DeleteSheet() override { m_sheet.reset(); }
+    bool HasGraphics() const override { return true; }
+
+private:
+    GraphicKit& m_kit;
+    std::unique_ptr<CGraphicPropertySheet> m_sheet;
+};
+
+class Pane : public ::testing::Test {
+protected:
+    Pane() {
+        ::PropPageInit();
+        kit.Add({});
+        pane.CreatePane(WS_POPUP, nullptr, 0);
+        pane.MoveWindow(0, 0, 900, 900);
+        pane.Open();
+    }
+    // Makes the client area that much smaller than the sheet.
+    void Shrink(int width, int height) {
+        const CSize size = pane.FullSize();
+        pane.MoveWindow(0, 0, size.cx - width, size.cy - height);
+    }
+    CPoint Scrolled() { return PlaceIn(pane.m_hWnd, pane.SheetWindow()).TopLeft(); }
+    LONG Scroll(int code) {
+        pane.SendMessage(WM_VSCROLL, static_cast<WPARAM>(code));
+        return Scrolled().y;
+    }
+    bool HasBar(LONG style) { return (::GetWindowLongA(pane.m_hWnd, GWL_STYLE) & style) != 0; }
+
+    GraphicKit kit;
+    TestPane pane{kit};
+};
+
+// Where a modal sheet has its buttons.
+TEST_F(Pane, HasItsButtonsInTheColumnBesideThePage) {
+    const HWND sheet = pane.SheetWindow();
+    CRect client, units(4, 4, 50, 14);
+    ::GetClientRect(sheet, client);
+    ::MapDialogRect(pane.Page(), units);
+    CRect wanted(CPoint(client.right - 2 * units.left - units.right, PlaceIn(sheet, pane.Page()).top + units.top),
+                 CSize(units.right, units.bottom));
+    constexpr int kHelp = 0xE145, kPreview = 3999;
+    for (const int id : {IDOK, int{kPaneReset}, int{kPaneClose}, kHelp}) {
+        EXPECT_EQ(PlaceIn(sheet, ::GetDlgItem(sheet, id)), wanted) << id;
+        ::OffsetRect(wanted, 0, wanted.Height() + units.top);
+    }
+    EXPECT_LE(wanted.top, PlaceIn(sheet, ::GetDlgItem(sheet, kPreview)).top);
+}
+
+TEST_F(Pane, ScrollsByLinesPagesAndEnds) {
+    EXPECT_FALSE(HasBar(WS_VSCROLL) || HasBar(WS_HSCROLL));
+    const int hidden = 150, bar = ::GetSystemMetrics(SM_CXVSCROLL);
+    Shrink(-bar, hidden);
+    ASSERT_TRUE(HasBar(WS_VSCROLL));
+    EXPECT_FALSE(HasBar(WS_HSCROLL)) << "the bar has its room";
+    const LONG page = pane.FullSize().cy - hidden, line = -Scroll(SB_LINEDOWN);
+    EXPECT_GT(line, 0);
+    EXPECT_EQ(Scroll(SB_LINEDOWN), -2 * line);
+    EXPECT_EQ(Scroll(SB_LINEUP), -line);
+    EXPECT_EQ(Scroll(SB_PAGEDOWN), -std::min<LONG>(line + page, hidden));
+    EXPECT_EQ(Scroll(SB_BOTTOM), -hidden);
+    EXPECT_EQ(Scroll(SB_PAGEUP), -std::max<LONG>(hidden - page, 0));
+    EXPECT_EQ(Scroll(SB_BOTTOM), -hidden);
+    EXPECT_EQ(Scroll(SB_TOP), 0);
+    for (const int notches : {-1, 1}) {
+        pane.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, notches * WHEEL_DELTA), 0);
+        EXPECT_EQ(Scrolled().y, notches < 0 ? -3 * line : 0);
+    }
+}
+
+// A bar at the bottom hides a part of the sheet that would fit without it.
+TEST_F(Pane, HasBothBarsIfOneTakesTheRoomOfTheOther) {
+    Shrink(50, 0);
+    EXPECT_TRUE(HasBar(WS_HSCROLL) && HasBar(WS_VSCROLL));
+    EXPECT_EQ(Scroll(SB_BOTTOM), -::GetSystemMetrics(SM_CYHSCROLL));
+    Shrink(50, -::GetSystemMetrics(SM_CYHSCROLL));
+    EXPECT_TRUE(HasBar(WS_HSCROLL));
+    EXPECT_FALSE(HasBar(WS_VSCROLL));
+    EXPECT_EQ(Scrolled().y, 0);
+    EXPECT_EQ(pane.FittingWidth(pane.FullSize().cy), pane.FullSize().cx);
+    EXPECT_EQ(pane.FittingWidth(pane.FullSize().cy - 1), pane.FullSize().cx + ::GetSystemMetrics(SM_CXVSCROLL));
+}
+
+} // namespace
