@@ -5,7 +5,6 @@
 #include <cstdlib>
 
 #include "demo/automation/control_text.h"
-#include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
 namespace {
@@ -53,19 +52,19 @@ int IndexOfColor(HWND combo, unsigned long color) {
 }
 
 constexpr PageEdit kEdits[] = {
-    {"General", kPropInfo, [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
-    {"Pen", kPropPenColor,
+    {"General", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
+    {"Pen",
      [](UserInput& user, HWND page) {
          const HWND colors = FocusOn(page, IDC_COLOR);
          Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
      }},
-    {"Brush", kPropBrushStyle,
+    {"Brush",
      [](UserInput& user, HWND page) {
          MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDiagonalLines);
          TypeOver(user, page, IDC_BRUSH_SCALE, kWideSpacing);
      }},
-    {"Text", kPropTextStyle, [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
-    {"Block Insertion", "vertices", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},
+    {"Text", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},
+    {"Block Insertion", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_ROTATION_Z, "30"); }},
 };
 
 } // namespace

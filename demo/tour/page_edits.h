@@ -6,8 +6,7 @@
 #include "demo/automation/user_input.h"
 
 struct PageEdit {
-    const char* title;   // title of the page's tab
-    const char* changes; // name of the value that it changes (see DrawingState)
+    const char* title; // of the page's tab
     void (*edit)(UserInput&, HWND page);
 };
 
