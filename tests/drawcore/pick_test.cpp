@@ -136,16 +136,4 @@ TEST_F(Pick, FollowsZoomAndPan) {
     EXPECT_TRUE(std::isfinite(x));
 }
 
-TEST_F(Pick, HighlightsInOneColor) {
-    GraphicStruct* line = drawing.Add(MakeLines({{10, 50}, {90, 50}}));
-    const double dashes[] = {5, -5};
-    SetInteger(line, kPropPenStyle, LineStyleAdd(drawing.Table(kTableLineStyles), "D", "", dashes, 2));
-    const Loose selection(SelectionNew());
-    SelectionAdd(selection, line);
-    GraphicDrawHighlighted(selection, picture.Viewport(), RGB(0, 120, 215));
-    const RECT all = {0, 0, 101, 101};
-    EXPECT_NEAR(picture.Bits().Count(all, RGB(0, 120, 215)), 81 * 3, 6) << "solid and three pixels wide";
-    EXPECT_EQ(picture.Covered(), picture.Bits().Count(all, RGB(0, 120, 215)));
-}
-
 } // namespace

@@ -4,7 +4,6 @@
 //   ViewportFitVisible(view, root);                                    // zoom to all
 //   ViewportSetGDIStuff(view, window, dc, MM_TEXT, 1);
 //   GraphicDrawEx2(root, nullptr, view, 0, 1);
-//   GraphicDrawHighlighted(selection, view, RGB(0, 120, 215));
 //   picked = ViewportPick(view, root, cursor, 4, 0xFFFFFFFF);
 //
 // Positions and distances are in device pixels unless stated otherwise. If the rectangle of a viewport changes, the
@@ -32,9 +31,6 @@ DRAWCORE_API void ViewportFitVisible(ViewportStruct*, GraphicStruct*);
 // region must not be changed, and the viewport must not be used to draw anything else. Graphics that are removed or
 // changed meanwhile may be missing.
 DRAWCORE_API int GraphicDrawTimed(GraphicStruct* set, ViewportStruct*, uint32_t* place, int milliseconds);
-
-// Draws a graphic and its members in one color, with solid lines that are at least three pixels wide.
-DRAWCORE_API void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct*, uint32_t color);
 
 // Zooms in (factor above 1) or out. The point under `fixed` stays where it is.
 DRAWCORE_API void ViewportZoom(ViewportStruct*, POINT fixed, double factor);

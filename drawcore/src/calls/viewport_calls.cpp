@@ -73,13 +73,6 @@ int GraphicDrawTimed(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t*
     return 1;
 }
 
-void GraphicDrawHighlighted(GraphicStruct* set, ViewportStruct* viewport, uint32_t color) {
-    if (!set || !viewport) return;
-    PaintSettings settings;
-    settings.highlight = color;
-    Paint(*Graphic::From(set), *Viewport::From(viewport), {}, settings, false);
-}
-
 void ViewportZoom(ViewportStruct* viewport, POINT fixed, double factor) {
     if (viewport) Viewport::From(viewport)->Zoom({static_cast<double>(fixed.x), static_cast<double>(fixed.y)}, factor);
 }

@@ -16,7 +16,6 @@ constexpr double kFinestDashes = 3; // minimum period in pixels; finer patterns 
 constexpr double kFinestHatch = 2;  // minimum distance of lines in pixels; finer hatches are drawn as a tint
 constexpr double kSmallestText = 2; // minimum height of a capital letter in pixels; smaller texts are drawn as lines
 constexpr size_t kMostWaiting = 4096;
-constexpr int kHighlightWidth = 3;
 
 POINT ToDevice(const Point& p) {
     return {static_cast<LONG>(std::floor(p.x + 0.5)), static_cast<LONG>(std::floor(p.y + 0.5))};
@@ -98,7 +97,6 @@ bool GdiPainter::Needs(const Extents& box, double reach) const {
 }
 
 Color GdiPainter::Seen(Color color) {
-    if (settings_.highlight) return *settings_.highlight;
     int difference = 0, brightness = 0;
     for (const int shift : {0, 8, 16}) {
         const int part = static_cast<int>(settings_.background >> shift & 0xFF);
@@ -118,8 +116,7 @@ Color GdiPainter::Seen(Color color) {
 
 GdiPainter::PenKey GdiPainter::KeyOf(const PenUse& use) {
     const double wide = std::min(use.width, settings_.widestPen);
-    int width = wide < 1.5 ? 1 : static_cast<int>(std::min(std::floor(wide + 0.5), 30000.0));
-    if (settings_.highlight) width = std::max(width, kHighlightWidth);
+    const int width = wide < 1.5 ? 1 : static_cast<int>(std::min(std::floor(wide + 0.5), 30000.0));
     return {Seen(use.color), width, width > 1 && use.roundEnds};
 }
 
@@ -128,7 +125,7 @@ void GdiPainter::Stroke(const Path& path, const PenUse& use) {
     const Box around = clip_.Grown(key.width + 2);
     const Where where = Locate(path, around);
     if (where == Where::Nowhere || where == Where::Outside) return;
-    if (use.style && !settings_.highlight) {
+    if (use.style) {
         const DashPattern pattern{use.style->pattern, use.dashScale, use.fitDashes};
         if (ShowsDashes(pattern, kFinestDashes)) {
             CutDashes(path, pattern, around, pieces_);
@@ -227,7 +224,7 @@ void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
     const Point origin = use.pattern.Plan({0, 0, 0});
     const auto step = [](double at) { return std::isfinite(at) ? static_cast<int>(std::fmod(at, kSide)) : 0; };
     ::SetBrushOrgEx(dc_, step(origin.x), step(origin.y), nullptr);
-    const bool own = bitmap.colors && !settings_.highlight;
+    const bool own = bitmap.colors.has_value();
     // Set bits get the background color of the device context, clear bits its text color.
     ::SetBkColor(dc_, own ? bitmap.colors->ink : ink);
     ::SetTextColor(dc_, own ? bitmap.colors->paper : settings_.background);

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <unordered_map>
 
 #include "drawcore/src/graphics/gdi.h"
@@ -15,10 +14,9 @@
 namespace drawcore {
 
 struct PaintSettings {
-    Color background = kWhite;      // nearly equal colors are drawn in black or white
-    bool isView = false;            // light colors are darkened on a light background, except in samples
-    std::optional<Color> highlight; // draw everything in that color, with thick lines
-    double widestPen = 1e9;         // in pixels
+    Color background = kWhite; // nearly equal colors are drawn in black or white
+    bool isView = false;       // light colors are darkened on a light background, except in samples
+    double widestPen = 1e9;    // in pixels
 };
 
 class GdiPainter : public GeometrySink {
