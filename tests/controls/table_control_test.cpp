@@ -156,6 +156,18 @@ TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
     }
 }
 
+// Changes the system's setting during its lifetime.
+class DoubleClickTime {
+public:
+    explicit DoubleClickTime(UINT milliseconds) { ::SetDoubleClickTime(milliseconds); }
+    ~DoubleClickTime() { ::SetDoubleClickTime(m_before); }
+    DoubleClickTime(const DoubleClickTime&) = delete;
+    DoubleClickTime& operator=(const DoubleClickTime&) = delete;
+
+private:
+    const UINT m_before = ::GetDoubleClickTime();
+};
+
 // Consecutive letters form a prefix; a selection by other means, or a pause, starts a new one.
 TYPED_TEST(TableControl, SelectsByTypedNames) {
     for (const char* name : {"Walls", "Doors", "windows", "Dark red", "Green", "Grey", "Yellow", "Cyan", "Red", "8"})
@@ -199,16 +211,18 @@ TYPED_TEST(TableControl, SelectsByTypedNames) {
     }
     this->m_control.SetCurSel(0);
     EXPECT_EQ(type("r"), "Red");
-    const UINT usual = ::GetDoubleClickTime();
-    ::SetDoubleClickTime(1);
-    ::Sleep(50);
-    EXPECT_EQ(type("d"), "Doors") << "after a pause";
-    ::SetDoubleClickTime(200);
-    this->m_control.SetCurSel(-1);
-    type("gre");
-    ::Sleep(300);
-    EXPECT_EQ(type("y"), "Grey") << "the pause is longer than a double click";
-    ::SetDoubleClickTime(usual);
+    {
+        const DoubleClickTime shortest(1);
+        ::Sleep(50);
+        EXPECT_EQ(type("d"), "Doors") << "after a pause";
+    }
+    {
+        const DoubleClickTime fast(200);
+        this->m_control.SetCurSel(-1);
+        type("gre");
+        ::Sleep(300);
+        EXPECT_EQ(type("y"), "Grey") << "the pause is longer than a double click";
+    }
 
     TypeParam other;
     ASSERT_TRUE(other.MakeIn(&this->m_host));
