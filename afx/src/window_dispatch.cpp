@@ -51,6 +51,23 @@ LRESULT CallForResult(CWnd* wnd, AFX_PMSG pfn, Arguments... arguments) {
     return (wnd->*HandlerAs<Result (CWnd::*)(Parameters...)>(pfn))(arguments...);
 }
 
+LRESULT CallOwnerDraw(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, int control, LPARAM l) {
+    const AFX_PMSG pfn = entry.pfn;
+    switch (entry.nSig) {
+    case AfxSig_vdraw:
+        return Call<int, LPDRAWITEMSTRUCT>(wnd, pfn, control, RecordOf<DRAWITEMSTRUCT>(l));
+    case AfxSig_vmeas:
+        return Call<int, LPMEASUREITEMSTRUCT>(wnd, pfn, control, RecordOf<MEASUREITEMSTRUCT>(l));
+    case AfxSig_icomp:
+        return CallForResult<int, int, LPCOMPAREITEMSTRUCT>(wnd, pfn, control, RecordOf<COMPAREITEMSTRUCT>(l));
+    case AfxSig_vdel:
+        return Call<int, LPDELETEITEMSTRUCT>(wnd, pfn, control, RecordOf<DELETEITEMSTRUCT>(l));
+    default:
+        ASSERT(false);
+        return 0;
+    }
+}
+
 LRESULT CallHandler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM w, LPARAM l) {
     const AFX_PMSG pfn = entry.pfn;
     const int low = GET_X_LPARAM(l);
@@ -84,18 +101,8 @@ LRESULT CallHandler(CWnd* wnd, const AFX_MSGMAP_ENTRY& entry, WPARAM w, LPARAM l
         return Call<CWnd*>(wnd, pfn, WindowOf(static_cast<WPARAM>(l)));
     case AfxSig_vdrop:
         return Call<HDROP>(wnd, pfn, reinterpret_cast<HDROP>(w));
-    case AfxSig_vdraw:
-        return Call<int, LPDRAWITEMSTRUCT>(wnd, pfn, static_cast<int>(w), RecordOf<DRAWITEMSTRUCT>(l));
-    case AfxSig_vmeas:
-        return Call<int, LPMEASUREITEMSTRUCT>(wnd, pfn, static_cast<int>(w), RecordOf<MEASUREITEMSTRUCT>(l));
-    case AfxSig_icomp:
-        return CallForResult<int, int, LPCOMPAREITEMSTRUCT>(wnd, pfn, static_cast<int>(w),
-                                                            RecordOf<COMPAREITEMSTRUCT>(l));
-    case AfxSig_vdel:
-        return Call<int, LPDELETEITEMSTRUCT>(wnd, pfn, static_cast<int>(w), RecordOf<DELETEITEMSTRUCT>(l));
     default:
-        ASSERT(false);
-        return 0;
+        return CallOwnerDraw(wnd, entry, static_cast<int>(w), l);
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "demo/viewer/main_frame.h"
 
+#include <algorithm>
+
 #include "demo/viewer/drawing_menu.h"
 #include "demo/viewer/file_name.h"
 #include "demo/viewer/recent_files.h"
@@ -15,37 +17,34 @@ static_assert(kRecentCommands.last - kRecentCommands.first + 1 == RecentFiles::k
 constexpr CommandRange kKindCommands = {ID_SELECT_KIND_FIRST, ID_SELECT_KIND_LAST};
 constexpr CommandRange kLayerCommands = {ID_SELECT_LAYER_FIRST, ID_SELECT_LAYER_LAST};
 
+// Commands that need a drawing, and those that need selected graphics.
+constexpr UINT kOfDrawing[] = {ID_FILE_SAVE,        ID_FILE_SAVE_AS,    ID_FILE_WARNINGS,    ID_EDIT_UNDO,
+                               ID_EDIT_REDO,        ID_EDIT_SELECT_ALL, ID_EDIT_SELECT_NEXT, ID_EDIT_SELECT_PREVIOUS,
+                               ID_STYLE_PROPERTIES, ID_VIEW_ZOOM_IN,    ID_VIEW_ZOOM_OUT,    ID_VIEW_FIT_ALL,
+                               ID_VIEW_LAYERS};
+constexpr UINT kOfSelection[] = {ID_EDIT_SELECT_SIMILAR, ID_EDIT_SELECT_NONE, ID_EDIT_PROPERTIES,
+                                 ID_STYLE_NEW,           ID_STYLE_APPLY,      ID_VIEW_FIT_SELECTION};
+
+template <size_t N>
+bool Contains(const UINT (&commands)[N], UINT command) {
+    return std::find(std::begin(commands), std::end(commands), command) != std::end(commands);
+}
+
 } // namespace
 
 bool CMainFrame::CanDo(UINT command) const {
+    if (!m_document) return !Contains(kOfDrawing, command) && !Contains(kOfSelection, command);
+    if (Contains(kOfSelection, command) && m_document->Selected().Count() == 0) return false;
     switch (command) {
-    case ID_FILE_SAVE:
-    case ID_FILE_SAVE_AS:
-        return m_document != nullptr;
     case ID_FILE_WARNINGS:
-        return m_document && !m_document->Warnings().empty();
+        return !m_document->Warnings().empty();
     case ID_EDIT_UNDO:
-        return m_document && m_document->UndoSteps() > 0;
+        return m_document->UndoSteps() > 0;
     case ID_EDIT_REDO:
-        return m_document && m_document->RedoSteps() > 0;
+        return m_document->RedoSteps() > 0;
     case ID_STYLE_PROPERTIES:
-        return m_document && m_document->Styles().Current() != 0;
     case ID_STYLE_APPLY:
-        return CanDo(ID_STYLE_NEW) && CanDo(ID_STYLE_PROPERTIES);
-    case ID_STYLE_NEW:
-    case ID_EDIT_SELECT_SIMILAR:
-    case ID_EDIT_PROPERTIES:
-    case ID_EDIT_SELECT_NONE:
-    case ID_VIEW_FIT_SELECTION:
-        return m_document && m_document->Selected().Count() > 0;
-    case ID_EDIT_SELECT_ALL:
-    case ID_EDIT_SELECT_NEXT:
-    case ID_EDIT_SELECT_PREVIOUS:
-    case ID_VIEW_ZOOM_IN:
-    case ID_VIEW_ZOOM_OUT:
-    case ID_VIEW_FIT_ALL:
-    case ID_VIEW_LAYERS:
-        return m_document != nullptr;
+        return m_document->Styles().Current() != 0;
     default:
         return true;
     }

@@ -2,6 +2,7 @@
 
 #include "orlo/controls/control_factory.h"
 
+#include <algorithm>
 #include <new>
 
 #include "orlo/controls/brush_style_control_c.h"
@@ -17,12 +18,20 @@
 
 namespace {
 
+// Creates the object of a control.
+using Make = CWnd* (*)(HWND window);
+struct Kind {
+    int id; // of the control
+    Make make;
+};
+
 // Called from a window procedure, so exceptions must not escape.
-template <class Make>
-CWnd* MakeFor(HWND window, Make make) {
-    if (CWnd::FromHandlePermanent(window)) return nullptr;
+template <size_t N>
+CWnd* MakeFor(HWND window, int id, const Kind (&kinds)[N]) {
+    const Kind* const kind = std::find_if(kinds, kinds + N, [id](const Kind& known) { return known.id == id; });
+    if (kind == kinds + N || CWnd::FromHandlePermanent(window)) return nullptr;
     try {
-        return make();
+        return kind->make(window);
     } catch (CException* exception) {
         exception->Delete();
     } catch (const std::bad_alloc&) {
@@ -32,51 +41,41 @@ CWnd* MakeFor(HWND window, Make make) {
 
 } // namespace
 
+// The tables are in the functions, which are friends of the classes.
+
 CWnd* CreateComboObject(HWND hWnd, int nID) {
-    return MakeFor(hWnd, [=]() -> CWnd* {
-        switch (nID) {
-        case IDC_FONT_FACE:
-        case IDC_FONT_FACE_2:
-            return new CFontFaceControl(hWnd);
-        case IDC_FONT_SIZE:
-            return new CFontSizeControl(hWnd);
-        case IDC_LINE_STYLE_COMBO:
-        case IDC_LINE_STYLE_COMBO_2:
-        case IDC_LINE_STYLE_COMBO_3:
-        case IDC_LINE_STYLE_COMBO_4:
-            return new CLineStyleControlC(hWnd, 1);
-        case IDC_COLOR:
-        case IDC_BRUSH_COLOR:
-        case IDC_COLOR_2:
-        case IDC_COLOR_3:
-        case IDC_COLOR_4:
-        case IDC_COLOR_5:
-        case IDC_COLOR_6:
-        case IDC_TEXT_COLOR:
-        case IDC_COLOR_7:
-        case IDC_COLOR_8:
-            return new CColorControl(hWnd, 1);
-        case IDC_BRUSH_STYLE_COMBO:
-            return new CBrushStyleControlC(hWnd);
-        case IDC_LAYER:
-            return new CLayerControl(hWnd);
-        case IDC_STYLE_NAME:
-            return new CStyleNameControl(hWnd);
-        default:
-            return nullptr;
-        }
-    });
+    constexpr Make kFace = [](HWND window) -> CWnd* { return new CFontFaceControl(window); };
+    constexpr Make kLine = [](HWND window) -> CWnd* { return new CLineStyleControlC(window, 1); };
+    constexpr Make kColor = [](HWND window) -> CWnd* { return new CColorControl(window, 1); };
+    static constexpr Kind kKinds[] = {
+        {IDC_FONT_FACE, kFace},
+        {IDC_FONT_FACE_2, kFace},
+        {IDC_FONT_SIZE, [](HWND window) -> CWnd* { return new CFontSizeControl(window); }},
+        {IDC_LINE_STYLE_COMBO, kLine},
+        {IDC_LINE_STYLE_COMBO_2, kLine},
+        {IDC_LINE_STYLE_COMBO_3, kLine},
+        {IDC_LINE_STYLE_COMBO_4, kLine},
+        {IDC_COLOR, kColor},
+        {IDC_BRUSH_COLOR, kColor},
+        {IDC_COLOR_2, kColor},
+        {IDC_COLOR_3, kColor},
+        {IDC_COLOR_4, kColor},
+        {IDC_COLOR_5, kColor},
+        {IDC_COLOR_6, kColor},
+        {IDC_TEXT_COLOR, kColor},
+        {IDC_COLOR_7, kColor},
+        {IDC_COLOR_8, kColor},
+        {IDC_BRUSH_STYLE_COMBO, [](HWND window) -> CWnd* { return new CBrushStyleControlC(window); }},
+        {IDC_LAYER, [](HWND window) -> CWnd* { return new CLayerControl(window); }},
+        {IDC_STYLE_NAME, [](HWND window) -> CWnd* { return new CStyleNameControl(window); }},
+    };
+    return MakeFor(hWnd, nID, kKinds);
 }
 
 CWnd* CreateListObject(HWND hWnd, int nID) {
-    return MakeFor(hWnd, [=]() -> CWnd* {
-        switch (nID) {
-        case IDC_LINE_STYLE_LIST:
-            return new CLineStyleControlL(hWnd);
-        case IDC_BRUSH_STYLE_LIST:
-            return new CBrushStyleControlL(hWnd);
-        default:
-            return nullptr;
-        }
-    });
+    static constexpr Kind kKinds[] = {
+        {IDC_LINE_STYLE_LIST, [](HWND window) -> CWnd* { return new CLineStyleControlL(window); }},
+        {IDC_BRUSH_STYLE_LIST, [](HWND window) -> CWnd* { return new CBrushStyleControlL(window); }},
+    };
+    return MakeFor(hWnd, nID, kKinds);
 }
