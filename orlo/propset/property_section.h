@@ -9,7 +9,7 @@
 //
 // On the stream, a section consists of its size, the number of properties, a table of IDs and offsets, and the values;
 // the dictionary is the value of ID 0. Its names are 8-bit texts of at most 254 characters; longer ones are truncated
-// to 255 on the stream. See docs/property-sets.md.
+// to 255 on the stream. The guide of property sets has details.
 #pragma once
 
 #include <afxcoll.h>

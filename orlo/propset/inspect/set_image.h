@@ -71,7 +71,7 @@ struct SetImage {
 enum class Severity { note, irregular, damaged };
 
 // Codes of findings: 1xx header, 2xx sections, 3xx properties, 4xx values, 5xx dictionaries. They never change;
-// docs/property-sets.md lists them.
+// the guide of property sets lists them.
 enum class FindingCode {
     headerShort = 100,
     byteOrder = 101,
