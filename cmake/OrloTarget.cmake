@@ -1,6 +1,8 @@
 # Settings shared by all targets of the project: warnings, and the runtime DLLs beside programs.
 
 include(GNUInstallDirs)
+# The adapter has the name of the reference database; a host that uses it ships it instead.
+set(ORLO_ADAPTER_FOLDER ${CMAKE_INSTALL_DATADIR}/orlo/adapter)
 
 string(REPLACE "-O3" "-O2" CMAKE_CXX_FLAGS_RELEASE "${CMAKE_CXX_FLAGS_RELEASE}")
 
@@ -25,37 +27,64 @@ function(orlo_target target)
   target_precompile_headers(${target} REUSE_FROM ${arg_PRECOMPILED})
 endfunction()
 
-# Declares a DLL or program as a product: adds version information and installs it.
-#   orlo_product(afx "Framework layer of Orlo" [HEADERS_IN include/afx])
-function(orlo_product target description)
-  cmake_parse_arguments(arg "" "HEADERS_IN" "" ${ARGN})
-  if(NOT arg_HEADERS_IN)
-    set(arg_HEADERS_IN ${CMAKE_INSTALL_INCLUDEDIR})
-  endif()
+# Adds version information to a DLL or program, and a manifest to a program.
+#   orlo_version_information(demo "Drawing viewer" [MANIFEST demo.manifest])
+function(orlo_version_information target description)
+  cmake_parse_arguments(arg "" "MANIFEST" "" ${ARGN})
   get_target_property(type ${target} TYPE)
+  get_target_property(name ${target} OUTPUT_NAME)
+  if(NOT name)
+    set(name ${target})
+  endif()
   if(type STREQUAL "EXECUTABLE")
     set(file_type VFT_APP)
-    set(file_name ${target}.exe)
-    install(TARGETS ${target})
+    set(file_name ${name}.exe)
+    if(NOT arg_MANIFEST)
+      set(arg_MANIFEST ${PROJECT_SOURCE_DIR}/cmake/console.manifest)
+    endif()
+    cmake_path(ABSOLUTE_PATH arg_MANIFEST)
+    set(manifest "CREATEPROCESS_MANIFEST_RESOURCE_ID RT_MANIFEST \"${arg_MANIFEST}\"")
   else()
     set(file_type VFT_DLL)
-    set(file_name ${target}.dll)
-    orlo_install_library(${target} ${arg_HEADERS_IN})
+    set(file_name ${name}.dll)
+  endif()
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${script} @ONLY)
+  set_source_files_properties(${script} PROPERTIES OBJECT_DEPENDS "${arg_MANIFEST}")
+  target_sources(${target} PRIVATE ${script})
+endfunction()
+
+# Declares a DLL or program as a product: adds version information and installs it. C_ONLY: a DLL with C functions, whose
+# installed target orloConfig.cmake defines for every compiler.
+#   orlo_product(afx "Framework layer of Orlo" [HEADERS_IN include/afx] [C_ONLY])
+function(orlo_product target description)
+  cmake_parse_arguments(arg "C_ONLY" "HEADERS_IN" "" ${ARGN})
+  orlo_version_information(${target} ${description})
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "EXECUTABLE")
+    install(TARGETS ${target})
+  else()
+    if(NOT arg_HEADERS_IN)
+      set(arg_HEADERS_IN ${CMAKE_INSTALL_INCLUDEDIR})
+    endif()
+    orlo_install_library(${target} ${arg_HEADERS_IN} ${ARGN})
     set_target_properties(${target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
   endif()
-  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc @ONLY)
-  target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc)
   set_property(GLOBAL APPEND PROPERTY ORLO_PRODUCTS ${target})
 endfunction()
 
-# Installs a library with its public headers, to be found as orlo::NAME.
+# Installs a library with its public headers; without C_ONLY, to be found as orlo::NAME.
 function(orlo_install_library target headers_in)
   get_target_property(sets ${target} INTERFACE_HEADER_SETS)
   set(headers)
   foreach(set ${sets})
     list(APPEND headers FILE_SET ${set} DESTINATION ${headers_in})
   endforeach()
-  install(TARGETS ${target} EXPORT orloTargets ${headers})
+  set(export EXPORT orloTargets)
+  if("C_ONLY" IN_LIST ARGN)
+    set(export)
+  endif()
+  install(TARGETS ${target} ${export} ${headers})
 endfunction()
 
 # Tests are compiled more often than they run, so they are not optimized.

@@ -1,38 +1,32 @@
 #!/usr/bin/env bash
-# Installs the build, moves it elsewhere, and builds and runs hosts from there only: with find_package, with a plain
-# compiler command, and as a subproject.
+# Installs the build, moves it elsewhere, and from there only builds and runs hosts: with find_package, with a plain compiler
+# command, with a database of their own, with another compiler, and as a subproject.
 #   check_package.sh BUILD SOURCE TOOLCHAIN_FILE COMPILER EXAMPLE_HOST_TEST WORK_FOLDER
 set -euo pipefail
 build=$1 source=$2 toolchain=$3 compiler=$4 example_host_test=$5 work=$6
+here=$(dirname "$0")
 
 rm -rf "$work"
 mkdir -p "$work"
-cmake --install "$build" --prefix "$work/first" >/dev/null
-mv "$work/first" "$work/orlo"
-prefix=$work/orlo
 
 step() { echo "-- $*"; }
 for_windows() { printf 'Z:%s' "$1"; }
 run() { "$source/run.d/wine_program.sh" "$@"; }
 # Drives the host's sheet by messages and keys, and presses OK.
 drive() { EXAMPLE_HOST=$(for_windows "$1") run "$example_host_test"; }
+# Configures and builds a project that finds the package.
+build_project() { # NAME SOURCE_FOLDER [TOOLCHAIN_FILE]
+    cmake -S "$2" -B "$work/$1" -G Ninja -DCMAKE_TOOLCHAIN_FILE="${3:-$toolchain}" -DCMAKE_PREFIX_PATH="$prefix" \
+        >"$work/$1.log" 2>&1 && cmake --build "$work/$1" >>"$work/$1.log" 2>&1 || { cat "$work/$1.log"; exit 1; }
+}
 
-step "what is handed on is small, and its debug data is beside it"
-for binary in "$prefix"/bin/*.{dll,exe}; do
-    [ "$(stat -c %s "$binary")" -lt 4000000 ] || { echo "$binary is not stripped"; exit 1; }
-done
-for name in afx.dll drawcore32.dll orlo.dll demo.exe suminfo.exe; do
-    [ "$(stat -c %s "$prefix/bin/$name.debug")" -gt 100000 ] || { echo "$name.debug contains nothing"; exit 1; }
-done
-python3 - "$prefix/bin/orlo.dll" <<'TEXT' || { echo "orlo.dll does not tell its version"; exit 1; }
-import sys
-sys.exit("ProductVersion".encode("utf-16-le") not in open(sys.argv[1], "rb").read())
-TEXT
+cmake --install "$build" --prefix "$work/first" >/dev/null
+mv "$work/first" "$work/orlo"
+prefix=$work/orlo
+diff <(sed 1,2d "$prefix/lib/orlo.def" | sort) <(grep ^Orlo "$source/tests/exports/orlo.exports" | sort)
 
 step "the examples by find_package"
-cmake -S "$prefix/share/orlo/examples" -B "$work/examples" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-    -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
-cmake --build "$work/examples" >"$work/examples.log" || { cat "$work/examples.log"; exit 1; }
+build_project examples "$prefix/share/orlo/examples"
 run "$work/examples/page_host.exe"
 drive "$work/examples/example_host.exe"
 drive "$work/examples/c_host.exe"
@@ -40,19 +34,35 @@ mkdir "$work/alone" # without DLLs
 cp "$work/examples/author.exe" "$source/tests/data/ole/25695--d41532.xls" "$work/alone"
 [ "$(cd "$work/alone" && run author.exe 25695--d41532.xls | tr -d '\r')" = Sompop ]
 
-step "a database of its own, from the skeleton"
-cmake -S "$prefix/share/orlo/skeleton" -B "$work/skeleton" -G Ninja -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-    -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
-cmake --build "$work/skeleton" >"$work/skeleton.log" || { cat "$work/skeleton.log"; exit 1; }
+step "a database of its own, from the skeleton, and a host that ships it"
+build_project skeleton "$prefix/share/orlo/skeleton"
 run "$prefix/bin/hostcheck.exe" "$(for_windows "$work/skeleton/drawcore32.dll")" >"$work/hostcheck.log" ||
     { cat "$work/hostcheck.log"; exit 1; }
+mkdir "$work/own-database"
+cp "$work/skeleton/drawcore32.dll" "$work/own-database"
+build_project own-database "$here/own_database"
+cmp "$work/skeleton/drawcore32.dll" "$work/own-database/drawcore32.dll" # not replaced by the reference database
+run "$work/own-database/own_database.exe"
 
-step "the example by one compiler line"
+step "the example by one compiler line, and a host with its own database"
 export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig
 # shellcheck disable=SC2046 # flags are words
 "$compiler" -std=c++17 -municode -o "$prefix/bin/bare_host.exe" "$prefix/share/orlo/examples/example_host.cpp" \
-    $(pkg-config --define-prefix --cflags --libs orlo)
+    $(pkg-config --define-prefix --cflags --libs orlo-drawcore32)
 drive "$prefix/bin/bare_host.exe"
+# shellcheck disable=SC2046
+"$compiler" -std=c++17 -o "$work/own-database/bare_host.exe" "$here/own_database/own_database.cpp" \
+    -I "$prefix/share/orlo/skeleton" $(pkg-config --define-prefix --cflags --libs orlo)
+run "$work/own-database/bare_host.exe"
+
+if command -v clang-14 lld-link-14 llvm-dlltool-14 >/dev/null; then
+    step "a host of another compiler"
+    build_project other "$here/other_compiler" "$here/other_compiler/clang_msvc.cmake"
+    run "$work/other/adapter_host.exe"
+    ! cmake -S "$here/other_compiler" -B "$work/refused" -G Ninja -DCOMPONENTS="orlo" -DCMAKE_PREFIX_PATH="$prefix" \
+        -DCMAKE_TOOLCHAIN_FILE="$here/other_compiler/clang_msvc.cmake" >"$work/refused.log" 2>&1
+    grep -q "orlo::orlo requires MinGW-w64" "$work/refused.log" || { cat "$work/refused.log"; exit 1; }
+fi
 
 step "as a part of another project"
 mkdir "$work/part"

@@ -1,0 +1,10 @@
+# Clang with the ABI of Microsoft's compiler, without Microsoft's libraries.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER clang-14)
+set(CMAKE_C_COMPILER_TARGET x86_64-pc-windows-msvc)
+set(CMAKE_TRY_COMPILE_TARGET_TYPE STATIC_LIBRARY)
+set(CMAKE_C_STANDARD_LIBRARIES "")
+set(CMAKE_C_FLAGS_INIT "-ffreestanding -mno-stack-arg-probe")
+set(CMAKE_MSVC_RUNTIME_LIBRARY "")
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
