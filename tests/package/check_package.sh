@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the build, moves it elsewhere, and from there only builds and runs hosts: with find_package, with a plain compiler
+# Creates the zip of a build and, from there only, builds and runs hosts: with find_package, with a plain compiler
 # command, with a database of their own, with another compiler, and as a subproject.
 #   check_package.sh BUILD SOURCE TOOLCHAIN_FILE COMPILER EXAMPLE_HOST_TEST WORK_FOLDER
 set -euo pipefail
@@ -7,7 +7,7 @@ build=$1 source=$2 toolchain=$3 compiler=$4 example_host_test=$5 work=$6
 here=$(dirname "$0")
 
 rm -rf "$work"
-mkdir -p "$work"
+mkdir -p "$work/again"
 
 step() { echo "-- $*"; }
 for_windows() { printf 'Z:%s' "$1"; }
@@ -20,9 +20,23 @@ build_project() { # NAME SOURCE_FOLDER [TOOLCHAIN_FILE]
         >"$work/$1.log" 2>&1 && cmake --build "$work/$1" >>"$work/$1.log" 2>&1 || { cat "$work/$1.log"; exit 1; }
 }
 
-cmake --install "$build" --prefix "$work/first" >/dev/null
-mv "$work/first" "$work/orlo"
+step "two runs create the same files"
+for folder in "$work" "$work/again"; do
+    python3 "$source/packaging/make_zip.py" "$build" "$source" orlo "$folder" >/dev/null
+    sleep 2 # the unit of times in a zip file
+done
+for name in orlo.zip orlo-debug.zip; do
+    cmp "$work/$name" "$work/again/$name"
+    (cd "$work" && cmake -E tar xf $name)
+done
 prefix=$work/orlo
+
+step "contents"
+for name in bin/{afx,drawcore32,orlo}.dll bin/suminfo.exe share/orlo/adapter/drawcore32.dll; do
+    [ "$(stat -c %s "$prefix/$name")" -lt 4000000 ] || { echo "$name is not stripped"; exit 1; }
+    [ "$(stat -c %s "$prefix/$name.debug")" -gt 10000 ] || { echo "$name.debug contains nothing"; exit 1; }
+done
+python3 "$here/check_contents.py" "$prefix"
 diff <(sed 1,2d "$prefix/lib/orlo.def" | sort) <(grep ^Orlo "$source/tests/exports/orlo.exports" | sort)
 
 step "the examples by find_package"
