@@ -9,10 +9,9 @@
 #include <orlo_c.h>
 
 static int ShowProperties(HWND window, DrawingStruct* drawing) {
-    OrloSheet sheet = {0};
+    OrloSheet sheet = ORLO_INIT(OrloSheet);
     int32_t code;
-    sheet.size = sizeof sheet;
-    sheet.filter = kAllGraphics;
+    sheet.filter = kOrloAllGraphics;
     sheet.owner = window; // disabled while the sheet is open
     sheet.drawing = drawing;
     sheet.selection = DrawingGetRoot(drawing);

@@ -45,32 +45,28 @@ static int32_t ORLO_CALL SetPrice(void* context, struct GraphicStruct* graphic, 
 static void Collect(Prices* prices, struct GraphicStruct* set) {
     uint32_t position;
     struct GraphicStruct* graphic;
-    for (graphic = GraphicFirst(set, &position, 1, kAllGraphics); graphic != NULL && prices->count < kMostPrices;
-         graphic = GraphicNext(set, &position, 1, kAllGraphics)) {
+    for (graphic = GraphicFirst(set, &position, 1, kOrloAllGraphics); graphic != NULL && prices->count < kMostPrices;
+         graphic = GraphicNext(set, &position, 1, kOrloAllGraphics)) {
         prices->graphics[prices->count] = graphic;
         prices->prices[prices->count++] = 10.0;
     }
 }
 
 static int ShowProperties(HWND window, DrawingStruct* drawing, Prices* prices) {
-    OrloField fields[2] = {{0}};
-    OrloPage page = {0};
-    OrloSheet sheet = {0};
+    const OrloField fields[] = {
+        {.size = sizeof(OrloField),
+         .kind = kOrloFieldNumber,
+         .flags = kOrloFieldByCallback,
+         .label = "&Price:",
+         .unit = "EUR",
+         .help = "Price of one piece",
+         .max = 1e6},
+        {.size = sizeof(OrloField), .kind = kOrloFieldLayer, .label = "&Layer:", .property = kPropLayer},
+    };
+    OrloPage page = ORLO_INIT(OrloPage);
+    OrloSheet sheet = ORLO_INIT(OrloSheet);
     int32_t code;
 
-    fields[0].size = sizeof fields[0];
-    fields[0].kind = kOrloFieldNumber;
-    fields[0].flags = kOrloFieldByCallback;
-    fields[0].label = "&Price:";
-    fields[0].unit = "EUR";
-    fields[0].help = "Price of one piece";
-    fields[0].max = 1e6;
-    fields[1].size = sizeof fields[1];
-    fields[1].kind = kOrloFieldLayer;
-    fields[1].label = "&Layer:";
-    fields[1].property = kPropLayer; // by the property table
-
-    page.size = sizeof page;
     page.number = kPricePage;
     page.caption = "Price";
     page.fields = fields;
@@ -79,8 +75,7 @@ static int ShowProperties(HWND window, DrawingStruct* drawing, Prices* prices) {
     page.set = SetPrice;
     page.context = prices;
 
-    sheet.size = sizeof sheet;
-    sheet.filter = kAllGraphics;
+    sheet.filter = kOrloAllGraphics;
     sheet.owner = window;
     sheet.drawing = drawing;
     sheet.selection = DrawingGetRoot(drawing);

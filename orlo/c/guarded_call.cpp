@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <new>
 
 #include "orlo/win/encoded_text.h"
@@ -32,10 +33,19 @@ OrloResult Failed(CException* exception) noexcept {
     char text[512] = "";
     exception->GetErrorMessage(text, sizeof text);
     exception->Delete();
-    return Failed(kOrloFailed, text[0] != '\0' ? text : "the framework reported an error without a message");
+    if (text[0] == '\0') return Failed(kOrloFailed, "the framework reported an error without a message");
+    try {
+        return Failed(kOrloFailed, SystemTextToUtf8(text).c_str());
+    } catch (const std::bad_alloc&) {
+        return Failed(kOrloFailed, "");
+    }
 }
 
 } // namespace
+
+std::string SystemTextToUtf8(const std::string& text) {
+    return Narrow(Widen(text, CP_ACP), CP_UTF8);
+}
 
 void Refuse(OrloResult result, const char* text) {
     throw Refusal{result, text};
@@ -73,6 +83,16 @@ OrloResult GuardedCall(const std::function<void()>& work) {
 
 uint32_t ORLO_CALL OrloGetVersion(void) {
     return ORLO_VERSION;
+}
+
+const char* ORLO_CALL OrloGetResultName(OrloResult result) {
+    constexpr const char* kNames[] = {
+        "kOrloOk",          "kOrloBadArgument", "kOrloBadHandle", "kOrloBadThread",    "kOrloBufferTooSmall",
+        "kOrloNotFound",    "kOrloWrongType",   "kOrloDamaged",   "kOrloNotEncodable", "kOrloSystemError",
+        "kOrloOutOfMemory", "kOrloFailed",      "kOrloChanged",   "kOrloInvalidInput"};
+    static_assert(std::size(kNames) == kOrloInvalidInput + 1);
+    const auto number = static_cast<size_t>(result);
+    return number < std::size(kNames) ? kNames[number] : "unknown result";
 }
 
 size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size) {

@@ -15,6 +15,9 @@ struct Refusal {
     std::string text;
 };
 
+// Converts a text in the code page of the system, such as one of the framework.
+std::string SystemTextToUtf8(const std::string& text);
+
 [[noreturn]] void Refuse(OrloResult result, const char* text);
 // Throws Refusal with kOrloSystemError (kOrloOutOfMemory for E_OUTOFMEMORY). The text is `what`, a colon and the
 // system's message for the error.

@@ -23,9 +23,6 @@ static_assert(kOrloFieldText == static_cast<int>(FieldKind::Text) &&
 std::string ToSystemText(const char* text) {
     return text != nullptr ? Narrow(Widen(text, CP_UTF8), CP_ACP) : "";
 }
-std::string ToUtf8(const std::string& text) {
-    return Narrow(Widen(text, CP_ACP), CP_UTF8);
-}
 
 // An array of records, each of the size that the first one has.
 template <class Record>
@@ -37,7 +34,7 @@ Record CopyRecordAt(const Record* records, uint32_t index, const std::string& na
 // Passes a value to a callback for the duration of a call.
 class ValueRecord {
 public:
-    explicit ValueRecord(const FieldValue& value) : m_text(ToUtf8(value.text)) {
+    explicit ValueRecord(const FieldValue& value) : m_text(SystemTextToUtf8(value.text)) {
         m_record = {sizeof m_record, value.number, m_text.c_str()};
     }
     const OrloValue* Get() const { return &m_record; }
@@ -105,7 +102,7 @@ FieldTable TableOf(const OrloPage& page) {
             return isOfType && (page.accepts == nullptr || page.accepts(page.context, graphic) != 0);
         };
     if (page.status != nullptr)
-        table.onStatus = [page](const std::string& help) { page.status(page.context, ToUtf8(help).c_str()); };
+        table.onStatus = [page](const std::string& help) { page.status(page.context, SystemTextToUtf8(help).c_str()); };
     return table;
 }
 
@@ -119,7 +116,7 @@ void AddPages(const OrloSheet& record, CGraphicPropertySheet& sheet) {
             const OrloPage page = CopyRecordAt(record.pages, i, "the record");
             ::AddFieldPage(&sheet, page.number, TableOf(page));
         } catch (const std::invalid_argument& refusal) {
-            Refuse(kOrloBadArgument, (name + ": " + ToUtf8(refusal.what())).c_str());
+            Refuse(kOrloBadArgument, (name + ": " + SystemTextToUtf8(refusal.what())).c_str());
         } catch (const Refusal& refusal) {
             Refuse(refusal.result, (name + ": " + refusal.text).c_str());
         }

@@ -25,6 +25,11 @@ Table& TheTable() {
 
 } // namespace
 
+bool OpenSet::IsDamaged() const {
+    return std::any_of(findings.begin(), findings.end(),
+                       [](const Finding& finding) { return finding.severity == Severity::damaged; });
+}
+
 std::shared_ptr<OpenSet> RequireSet(OrloPropset handle) {
     Table& table = TheTable();
     const std::lock_guard<std::mutex> locked(table.lock);
@@ -35,7 +40,7 @@ std::shared_ptr<OpenSet> RequireSet(OrloPropset handle) {
 
 std::shared_ptr<OpenSet> RequireUndamagedSet(OrloPropset handle) {
     std::shared_ptr<OpenSet> set = RequireSet(handle);
-    if (set->isDamaged) Refuse(kOrloDamaged, "the property set is damaged and cannot be changed or saved");
+    if (set->IsDamaged()) Refuse(kOrloDamaged, "the property set is damaged and cannot be changed or saved");
     return set;
 }
 
@@ -93,6 +98,28 @@ OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set) {
 
 OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
     return GuardedCall([&] { Release(set); });
+}
+
+OrloResult ORLO_CALL OrloPropsetIsDamaged(OrloPropset set, uint32_t* isDamaged) {
+    return GuardedCall([&] {
+        RequireNotNull(isDamaged, "the result") = 0;
+        *isDamaged = RequireSet(set)->IsDamaged();
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, OrloFinding* finding, char* buffer,
+                                           size_t* size) {
+    static_assert(kOrloFindingDamaged == static_cast<int>(Severity::damaged));
+    return GuardedCall([&] {
+        OrloFinding& record = RequireRecord(finding, "the finding");
+        record = {sizeof record, 0, 0, 0};
+        const auto open = RequireSet(set);
+        if (index >= open->findings.size()) Refuse(kOrloNotFound, "the finding index is out of range");
+        const Finding& found = open->findings[index];
+        CopyOut(found.text.c_str(), found.text.size() + 1, buffer, size);
+        record = {sizeof record, static_cast<uint32_t>(found.severity), static_cast<uint32_t>(found.code),
+                  found.offset};
+    });
 }
 
 OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "orlo/propset/inspect/set_image.h"
 
@@ -21,8 +22,11 @@ struct Origin {
 
 struct OpenSet {
     SetImage image;
-    bool isDamaged = false; // the stream could not be read completely, so the set is not written again
+    std::vector<Finding> findings = {}; // of the stream that it was read from
     std::optional<Origin> origin = {};
+
+    // Returns whether the stream could not be read completely, so that the set is not written again.
+    bool IsDamaged() const;
 };
 
 // Throws Refusal if the handle was never issued or is closed.

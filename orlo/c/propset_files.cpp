@@ -27,9 +27,7 @@ OrloPropset Open(const uint8_t* data, size_t size, std::optional<Origin> origin 
     std::vector<Finding> findings;
     std::optional<SetImage> image = ReadSetImage(data, size, findings);
     if (!image) Refuse(kOrloDamaged, "not a property set");
-    const bool isDamaged = std::any_of(findings.begin(), findings.end(),
-                                       [](const Finding& finding) { return finding.severity == Severity::damaged; });
-    return AddSet({std::move(*image), isDamaged, std::move(origin)});
+    return AddSet({std::move(*image), std::move(findings), std::move(origin)});
 }
 
 Bytes Written(const OpenSet& set) {

@@ -24,12 +24,35 @@ Value ValueOf(OrloPropset set, const OrloGuid* format, uint32_t id) {
     return value;
 }
 
+// Returns the items of a list.
+const std::vector<Value>& ItemsOf(const Value& list) {
+    if ((list.type & VT_VECTOR) == 0) Refuse(kOrloWrongType, "the value is not a list");
+    return list.elements;
+}
+
+Value ItemOf(const Value& list, uint32_t index) {
+    if (index >= ItemsOf(list).size()) Refuse(kOrloNotFound, "the list has no such item");
+    return list.elements[index];
+}
+
 int64_t IntegerOf(const Value& value) {
     if (const bool* truth = std::get_if<bool>(&value.data)) return *truth ? 1 : 0;
     if (const int64_t* number = std::get_if<int64_t>(&value.data)) return *number;
     const uint64_t* number = std::get_if<uint64_t>(&value.data);
     if (number == nullptr || *number > INT64_MAX) Refuse(kOrloWrongType, "the value is not a 64-bit integer");
     return static_cast<int64_t>(*number);
+}
+
+double RealOf(const Value& value) {
+    const double* number = std::get_if<double>(&value.data);
+    if (number == nullptr) Refuse(kOrloWrongType, "the value is not a real number");
+    return *number;
+}
+
+void CopyText(const Value& value, char* buffer, size_t* size) {
+    const std::string* text = std::get_if<std::string>(&value.data);
+    if (text == nullptr) Refuse(kOrloWrongType, "the value is not text");
+    CopyOut(text->c_str(), text->size() + 1, buffer, size);
 }
 
 // Returns the code page of the section, or the default if the section does not exist yet.
@@ -92,6 +115,30 @@ Value IntegerValue(uint32_t type, int64_t number) {
     }
 }
 
+Value RealValue(uint32_t type, double number) {
+    if (type != VT_R4 && type != VT_R8 && type != VT_DATE) Refuse(kOrloWrongType, "not a type of real numbers");
+    if (!std::isfinite(number)) Refuse(kOrloBadArgument, "the number is not finite");
+    if (type == VT_R4 && std::isinf(static_cast<float>(number)))
+        Refuse(kOrloWrongType, "the number is out of range for a float");
+    return {type, number, {}};
+}
+
+Value TextValue(uint32_t type, const char* text) {
+    if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR) Refuse(kOrloWrongType, "not a text type");
+    return {type, std::string(&RequireNotNull(text, "the text")), {}};
+}
+
+// Stores a list with an item for each element of the array.
+template <class Item>
+void StoreList(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type, const Item* items, uint32_t count,
+               Value (*itemValue)(uint32_t type, Item item), OrloResult unfit) {
+    if (count > 0) RequireNotNull(items, "the values");
+    Value list = {VT_VECTOR | type, {}, {}};
+    for (uint32_t i = 0; i < count; ++i)
+        list.elements.push_back(itemValue(type, items[i]));
+    Store(set, format, id, list, unfit);
+}
+
 } // namespace
 
 OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id, int64_t* value) {
@@ -104,21 +151,13 @@ OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* form
 OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id, double* value) {
     return GuardedCall([&] {
         RequireNotNull(value, "the value") = 0;
-        const Value found = ValueOf(set, format, id);
-        const double* number = std::get_if<double>(&found.data);
-        if (number == nullptr) Refuse(kOrloWrongType, "the value is not a real number");
-        *value = *number;
+        *value = RealOf(ValueOf(set, format, id));
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
                                         size_t* size) {
-    return GuardedCall([&] {
-        const Value found = ValueOf(set, format, id);
-        const std::string* text = std::get_if<std::string>(&found.data);
-        if (text == nullptr) Refuse(kOrloWrongType, "the value is not text");
-        CopyOut(text->c_str(), text->size() + 1, buffer, size);
-    });
+    return GuardedCall([&] { CopyText(ValueOf(set, format, id), buffer, size); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
@@ -142,22 +181,63 @@ OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* form
 
 OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                         double value) {
-    return GuardedCall([&] {
-        if (type != VT_R4 && type != VT_R8 && type != VT_DATE) Refuse(kOrloWrongType, "not a type of real numbers");
-        if (!std::isfinite(value)) Refuse(kOrloBadArgument, "the number is not finite");
-        if (type == VT_R4 && std::isinf(static_cast<float>(value)))
-            Refuse(kOrloWrongType, "the number is out of range for a float");
-        Store(set, format, id, {type, value, {}}, kOrloWrongType);
-    });
+    return GuardedCall([&] { Store(set, format, id, RealValue(type, value), kOrloWrongType); });
 }
 
 OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                         const char* value) {
+    return GuardedCall([&] { Store(set, format, id, TextValue(type, value), kOrloNotEncodable); });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetIntegers(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                            const int64_t* values, uint32_t count) {
+    return GuardedCall([&] { StoreList(set, format, id, type, values, count, IntegerValue, kOrloWrongType); });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetReals(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                         const double* values, uint32_t count) {
+    return GuardedCall([&] { StoreList(set, format, id, type, values, count, RealValue, kOrloWrongType); });
+}
+
+OrloResult ORLO_CALL OrloPropsetSetTexts(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                         const char* const* values, uint32_t count) {
+    return GuardedCall([&] { StoreList(set, format, id, type, values, count, TextValue, kOrloNotEncodable); });
+}
+
+OrloResult ORLO_CALL OrloPropsetCountItems(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t* count) {
     return GuardedCall([&] {
-        if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR) Refuse(kOrloWrongType, "not a text type");
-        RequireNotNull(value, "the text");
-        Store(set, format, id, {type, std::string(value), {}}, kOrloNotEncodable);
+        RequireNotNull(count, "the count") = 0;
+        *count = static_cast<uint32_t>(ItemsOf(ValueOf(set, format, id)).size());
     });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetItemType(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
+                                            uint32_t* type) {
+    return GuardedCall([&] {
+        RequireNotNull(type, "the type") = 0;
+        *type = ItemOf(ValueOf(set, format, id), index).type;
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetItemInteger(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
+                                               int64_t* value) {
+    return GuardedCall([&] {
+        RequireNotNull(value, "the value") = 0;
+        *value = IntegerOf(ItemOf(ValueOf(set, format, id), index));
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetItemReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
+                                            double* value) {
+    return GuardedCall([&] {
+        RequireNotNull(value, "the value") = 0;
+        *value = RealOf(ItemOf(ValueOf(set, format, id), index));
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetItemText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
+                                            char* buffer, size_t* size) {
+    return GuardedCall([&] { CopyText(ItemOf(ValueOf(set, format, id), index), buffer, size); });
 }
 
 OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
@@ -197,6 +277,20 @@ OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format,
                 if (entry.id == id && entry.undecoded.empty())
                     return CopyOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
         Refuse(kOrloNotFound, "the property has no name");
+    });
+}
+
+OrloResult ORLO_CALL OrloPropsetGetNameAt(OrloPropset set, uint32_t section, uint32_t index, uint32_t* id, char* buffer,
+                                          size_t* size) {
+    return GuardedCall([&] {
+        RequireNotNull(id, "the identifier") = 0;
+        const auto open = RequireSet(set);
+        if (section >= open->image.sections.size()) Refuse(kOrloNotFound, "the section index is out of range");
+        const auto& dictionary = open->image.sections[section].dictionary;
+        if (!dictionary || index >= dictionary->size()) Refuse(kOrloNotFound, "the name index is out of range");
+        const DictionaryEntry& entry = (*dictionary)[index];
+        CopyOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
+        *id = entry.id;
     });
 }
 

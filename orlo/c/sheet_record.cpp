@@ -19,6 +19,8 @@
 namespace orlo {
 namespace {
 
+static_assert(kOrloAllGraphics == kAllGraphics && kOrloWithStylePart == kWithStylePart);
+
 std::vector<SheetRecord*>& SheetsOfThread() {
     thread_local std::vector<SheetRecord*> sheets;
     return sheets;

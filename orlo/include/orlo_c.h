@@ -1,9 +1,8 @@
 // The C interface of the library, for programs in C and in every language and compiler that can call C.
 //
 //   if (OrloGetVersion() < ORLO_VERSION) ...             the library is older than this header
-//   OrloSheet sheet = {0};
-//   sheet.size = sizeof sheet;
-//   sheet.filter = kAllGraphics;
+//   OrloSheet sheet = ORLO_INIT(OrloSheet);
+//   sheet.filter = kOrloAllGraphics;
 //   sheet.owner = window;
 //   sheet.drawing = drawing;
 //   sheet.selection = selection;
@@ -44,6 +43,22 @@
 #endif
 #define ORLO_CALL __cdecl
 
+// Initializes a record: its size is set, and all other members are 0.
+//   OrloSheet sheet = ORLO_INIT(OrloSheet);
+//   OrloField fields[] = {ORLO_INIT(OrloField), ORLO_INIT(OrloField)};
+#ifdef __cplusplus
+template <class Record>
+constexpr Record OrloInitialized() {
+    Record record = {};
+    record.size = sizeof record;
+    return record;
+}
+#define ORLO_INIT(Record) (OrloInitialized<Record>())
+#else
+#define ORLO_INIT(Record)                                                                                              \
+    { .size = sizeof(Record) }
+#endif
+
 // Returns the version of the loaded library, in the format of ORLO_VERSION.
 ORLO_C_API uint32_t ORLO_CALL OrloGetVersion(void);
 
@@ -64,6 +79,9 @@ typedef enum OrloResult {
     kOrloInvalidInput = 13 // a field of the sheet is not valid; the user has been told, and the field has the focus
 } OrloResult;
 
+// Returns the name of a result, such as "kOrloBadHandle", or "unknown result". The text is static.
+ORLO_C_API const char* ORLO_CALL OrloGetResultName(OrloResult result);
+
 // Copies the message for the last function that failed on this thread: at most size bytes, including the NUL. Returns
 // the buffer size for the whole message, including the NUL. buffer may be null.
 ORLO_C_API size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size);
@@ -77,15 +95,33 @@ struct DrawingStruct; // defined by the host; see orlo/host
 struct GraphicStruct;
 struct TableStruct;
 
+// Which members of the selection a sheet edits (OrloSheet::filter). The other bits are the host's; see GraphicFirst.
+ORLO_CONSTANT uint32_t kOrloAllGraphics = 0xFFFFFFFFu;   // all graphics, without the style part of the General page
+ORLO_CONSTANT uint32_t kOrloWithStylePart = 0xFFFFFFFBu; // all graphics, with the style part
+enum { kOrloNoStylePart = kNoStylePart };
+
+// Kinds of controls (OrloFill::kind).
+enum {
+    kOrloControlFontFaces = kControlFontFaces,
+    kOrloControlFontSizes = kControlFontSizes,
+    kOrloControlLineStyleCombo = kControlLineStyleCombo,
+    kOrloControlColors = kControlColors,
+    kOrloControlBrushStyleCombo = kControlBrushStyleCombo,
+    kOrloControlLayers = kControlLayers,
+    kOrloControlStyleNames = kControlStyleNames,
+    kOrloControlLineStyleList = kControlLineStyleList,
+    kOrloControlBrushStyleList = kControlBrushStyleList
+};
+
 // The contents of one control of the sheet. The library fills the record in; the callback can change it.
 typedef struct OrloFill {
     uint32_t size;             // set by the library
-    uint32_t kind;             // a ControlKind, such as kControlLayers
+    uint32_t kind;             // such as kOrloControlLayers
     const char* tableName;     // name of the table that this kind shows, such as kTableLayers
     struct TableStruct* table; // that table of the drawing; null leaves the control empty
-    uint32_t selected;         // entry or color to select; only kControlStyleNames uses it, pages select the others
-    float height;              // kControlFontSizes: if above 0, the font height to select
-    const char* face;          // kControlFontFaces: if not null, a face to add; in the code page of the system
+    uint32_t selected;         // entry or color to select; pages use it for kOrloControlStyleNames only
+    float height;              // kOrloControlFontSizes: if above 0, the font height to select
+    const char* face;          // kOrloControlFontFaces: if not null, a face to add; in the code page of the system
 } OrloFill;
 
 // Called on the thread of OrloRunSheet when a control was created. context is OrloSheet::context. Must not throw.
@@ -191,7 +227,7 @@ typedef void(ORLO_CALL* OrloSheetCallback)(void* context);
 
 typedef struct OrloSheet {
     uint32_t size;                   // sizeof(OrloSheet)
-    uint32_t filter;                 // which members of the selection to edit: kAllGraphics, or see GraphicFirst
+    uint32_t filter;                 // which members of the selection to edit, such as kOrloAllGraphics
     struct HWND__* owner;            // disabled while the sheet is open; null for none
     struct DrawingStruct* drawing;   // must be the host's current drawing; must not be null
     struct GraphicStruct* selection; // the graphic whose members are edited; null: the sheet edits nothing
@@ -239,6 +275,23 @@ ORLO_C_API OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle);
 // Closes the sheet without writing. Must not be called by a callback of the sheet.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle);
 
+// ---- The controls of the library in dialogs of the program
+
+// A window of the class "QXComboBox" or "QXListBox" in a dialog template shows a table of the drawing. Its identifier
+// determines which one; orlo/resources/control_ids.h, also for resource scripts, defines them.
+
+// Fills and draws the controls of the library in a dialog. Call it in WM_INITDIALOG, and again to show another drawing.
+// fill can be null; in it, `selected` is the entry or color to select. The dialog must be destroyed before the drawing
+// is deleted. Fails with kOrloBadArgument if dialog is not a window or drawing is not the current one, and with
+// kOrloBadThread on another thread than that of the dialog.
+ORLO_C_API OrloResult ORLO_CALL OrloFillControls(struct HWND__* dialog, struct DrawingStruct* drawing,
+                                                 OrloFillCallback fill, void* context);
+// Store and select what a control shows: an identifier of its table, a color, or a marker such as kColorByLayer. Fail
+// with kOrloBadArgument if the window is not such a control, with kOrloWrongType for font faces and heights, whose
+// texts GetWindowText returns, and with kOrloNotFound if nothing is selected or the control does not list the value.
+ORLO_C_API OrloResult ORLO_CALL OrloGetSelected(struct HWND__* control, uint32_t* value);
+ORLO_C_API OrloResult ORLO_CALL OrloSetSelected(struct HWND__* control, uint32_t value);
+
 // ---- Property sets and summaries of documents
 
 // A property set in memory. Calls with a closed handle fail with kOrloBadHandle. A set must not be used by two threads
@@ -281,24 +334,52 @@ enum {
     kOrloSecurity = 19
 };
 
-// Value types, with the numbers of the system's variant types. A vector has 0x1000 added.
+// Properties of kOrloDocumentSummary.
 enum {
-    kOrloTypeInt16 = 2,     // VT_I2
-    kOrloTypeInt32 = 3,     // VT_I4
-    kOrloTypeFloat = 4,     // VT_R4
-    kOrloTypeDouble = 5,    // VT_R8
-    kOrloTypeDate = 7,      // VT_DATE: days since 1899-12-30
-    kOrloTypeBool = 11,     // VT_BOOL
-    kOrloTypeUInt8 = 17,    // VT_UI1
-    kOrloTypeUInt16 = 18,   // VT_UI2
-    kOrloTypeUInt32 = 19,   // VT_UI4
-    kOrloTypeInt64 = 20,    // VT_I8
-    kOrloTypeUInt64 = 21,   // VT_UI8
-    kOrloTypeText = 30,     // VT_LPSTR: in the code page of the section
-    kOrloTypeWideText = 31, // VT_LPWSTR
-    kOrloTypeFileTime = 64, // VT_FILETIME: 100 ns since 1601-01-01 UTC; kOrloEditTime: a duration in 100 ns
-    kOrloTypeBlob = 65,     // VT_BLOB
-    kOrloTypeClipboard = 71 // VT_CF
+    kOrloCategory = 2,
+    kOrloPresentationTarget = 3,
+    kOrloBytes = 4,
+    kOrloLines = 5,
+    kOrloParagraphs = 6,
+    kOrloSlides = 7,
+    kOrloNotes = 8,
+    kOrloHiddenSlides = 9,
+    kOrloMediaClips = 10,
+    kOrloScaleCrop = 11,
+    kOrloHeadingPairs = 12, // a list of texts, each followed by a number
+    kOrloPartTitles = 13,   // a list of texts
+    kOrloManager = 14,
+    kOrloCompany = 15,
+    kOrloLinksDirty = 16,
+    kOrloCharactersWithSpaces = 17,
+    kOrloSharedDocument = 19,
+    kOrloHyperlinksChanged = 22,
+    kOrloApplicationVersion = 23,
+    kOrloContentType = 26,
+    kOrloContentStatus = 27,
+    kOrloLanguage = 28,
+    kOrloDocumentVersion = 29
+};
+
+// Value types, with the numbers of the system's variant types.
+enum {
+    kOrloTypeInt16 = 2,      // VT_I2
+    kOrloTypeInt32 = 3,      // VT_I4
+    kOrloTypeFloat = 4,      // VT_R4
+    kOrloTypeDouble = 5,     // VT_R8
+    kOrloTypeDate = 7,       // VT_DATE: days since 1899-12-30
+    kOrloTypeBool = 11,      // VT_BOOL
+    kOrloTypeUInt8 = 17,     // VT_UI1
+    kOrloTypeUInt16 = 18,    // VT_UI2
+    kOrloTypeUInt32 = 19,    // VT_UI4
+    kOrloTypeInt64 = 20,     // VT_I8
+    kOrloTypeUInt64 = 21,    // VT_UI8
+    kOrloTypeText = 30,      // VT_LPSTR: in the code page of the section
+    kOrloTypeWideText = 31,  // VT_LPWSTR
+    kOrloTypeFileTime = 64,  // VT_FILETIME: 100 ns since 1601-01-01 UTC; kOrloEditTime: a duration in 100 ns
+    kOrloTypeBlob = 65,      // VT_BLOB
+    kOrloTypeClipboard = 71, // VT_CF
+    kOrloTypeList = 0x1000   // VT_VECTOR: added to the type of the items, or to 12 (VT_VARIANT) if their types differ
 };
 
 // Creates an empty set. The caller closes it with OrloPropsetClose, like those of the following functions.
@@ -341,6 +422,27 @@ typedef struct OrloProperty {
     size_t bytes;        // size of the value without its type code
 } OrloProperty;
 
+// An irregularity of the bytes that a set was read from.
+typedef struct OrloFinding {
+    uint32_t size;     // sizeof(OrloFinding)
+    uint32_t severity; // kOrloFindingNote and others
+    uint32_t code;     // the number by which the guide of property sets lists it
+    uint64_t offset;   // in the stream
+} OrloFinding;
+
+enum {
+    kOrloFindingNote = 0,      // unusual, but accepted by all readers
+    kOrloFindingIrregular = 1, // readers differ, or it deserves attention
+    kOrloFindingDamaged = 2    // cannot be read: the set cannot be changed or saved
+};
+
+// Stores 1 if a set is damaged, else 0.
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetIsDamaged(OrloPropset set, uint32_t* isDamaged);
+// Stores a finding by index, and its text. Fails with kOrloNotFound if the index is out of range. The caller sets the
+// record's size first; for the buffer see OrloPropsetSaveMemory.
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, OrloFinding* finding,
+                                                      char* buffer, size_t* size);
+
 // Stores the number of sections.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count);
 // Stores a section, and a property of a section, by index. Fails with kOrloNotFound if the index is out of range, so
@@ -354,6 +456,11 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGu
                                                    size_t* size);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
                                                     uint32_t* id);
+
+// Stores an entry of the dictionary of a section by index: the property and its name, which is empty if it is not text
+// in the code page of the section. Fails with kOrloNotFound if the index is out of range.
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetNameAt(OrloPropset set, uint32_t section, uint32_t index, uint32_t* id,
+                                                     char* buffer, size_t* size);
 
 // Store a value of the first section of that format. For buffers see OrloPropsetSaveMemory; the size of a text includes
 // its NUL. Fail with kOrloNotFound if the section or the property does not exist and with kOrloWrongType for another
@@ -370,6 +477,19 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGu
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
                                                     size_t* size);
 
+// The same for an item of a list. Fail with kOrloWrongType if the property is not a list, and with kOrloNotFound if the
+// index is out of range.
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountItems(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                                      uint32_t* count);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetItemType(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                                       uint32_t index, uint32_t* type);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetItemInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                                          uint32_t index, int64_t* value);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetItemReal(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                                       uint32_t index, double* value);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetItemText(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                                       uint32_t index, char* buffer, size_t* size);
+
 // Add or replace a property; its section is created if it does not exist. A new section has the code page 65001
 // (UTF-8). For another code page, set kOrloCodePage first; it cannot be changed later. An existing property can only be
 // replaced by a value of the same type. Fail with kOrloWrongType if the type cannot represent the value; a double is
@@ -382,6 +502,13 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGu
                                                    const char* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                                     const void* data, size_t size);
+// The same for a list; type is that of its items, without kOrloTypeList. values can be null if count is 0.
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetIntegers(OrloPropset set, const OrloGuid* format, uint32_t id,
+                                                       uint32_t type, const int64_t* values, uint32_t count);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetReals(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                                    const double* values, uint32_t count);
+ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetTexts(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
+                                                    const char* const* values, uint32_t count);
 // Names a property in the dictionary of its section, which must exist. Two properties cannot have the same name.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);

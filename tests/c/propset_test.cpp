@@ -7,6 +7,7 @@
 
 #include <objbase.h>
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -208,6 +209,113 @@ TEST(CPropset, StreamContainsOnlyTheSetAfterSaving) {
     EXPECT_EQ(Text(read, kOrloSummary, kOrloTitle), "short");
     OrloPropsetClose(read);
     stream->Release();
+}
+
+// Returns the findings as "severity code", and expects each to have a text.
+std::vector<std::string> Findings(OrloPropset set) {
+    std::vector<std::string> all;
+    for (uint32_t i = 0;; ++i) {
+        OrloFinding finding = ORLO_INIT(OrloFinding);
+        char text[256] = "";
+        size_t size = sizeof text;
+        if (OrloPropsetGetFinding(set, i, &finding, text, &size) != kOrloOk) return all;
+        EXPECT_EQ(size, strlen(text) + 1);
+        EXPECT_GT(size, 1u);
+        all.push_back(std::to_string(finding.severity) + " " + std::to_string(finding.code));
+    }
+}
+
+TEST(CPropset, SaysThatASetIsDamagedAndWhy) {
+    OrloPropset set = Opened(kDocument), cut = nullptr;
+    uint32_t isDamaged = 9;
+    EXPECT_EQ(OrloPropsetIsDamaged(set, &isDamaged), kOrloOk);
+    EXPECT_EQ(isDamaged, 0u);
+    size_t size = 0;
+    OrloPropsetSaveMemory(set, nullptr, &size);
+    std::vector<char> bytes(size);
+    OrloPropsetSaveMemory(set, bytes.data(), &size);
+    ASSERT_EQ(OrloPropsetOpenMemory(bytes.data(), size - 8, &cut), kOrloOk);
+    EXPECT_EQ(OrloPropsetIsDamaged(cut, &isDamaged), kOrloOk);
+    EXPECT_EQ(isDamaged, 1u);
+    EXPECT_EQ(Findings(cut), (std::vector<std::string>{"1 203", "2 300"}));
+    OrloPropsetClose(cut);
+    OrloPropsetClose(set);
+}
+
+TEST(CPropset, ReadsAndStoresLists) {
+    OrloPropset set = nullptr;
+    ASSERT_EQ(OrloPropsetOpenFile(kDocument, "\005DocumentSummaryInformation", &set), kOrloOk) << ErrorText();
+    const auto text = [&](uint32_t id, uint32_t index) {
+        char buffer[64] = "";
+        size_t size = sizeof buffer;
+        const OrloResult result = OrloPropsetGetItemText(set, &kOrloDocumentSummary, id, index, buffer, &size);
+        return result == kOrloOk ? std::string(buffer) : OrloGetResultName(result);
+    };
+    uint32_t count = 0, type = 0;
+    int64_t number = 0;
+    // Of variants: a text and a number.
+    EXPECT_EQ(OrloPropsetCountItems(set, &kOrloDocumentSummary, kOrloHeadingPairs, &count), kOrloOk);
+    EXPECT_EQ(count, 2u);
+    EXPECT_EQ(text(kOrloHeadingPairs, 0),
+              "\xE0\xB9\x81\xE0\xB8\x9C\xE0\xB9\x88\xE0\xB8\x99\xE0\xB8\x87\xE0\xB8\xB2\xE0\xB8\x99");
+    EXPECT_EQ(text(kOrloHeadingPairs, 1), "kOrloWrongType");
+    EXPECT_EQ(text(kOrloHeadingPairs, 2), "kOrloNotFound");
+    EXPECT_EQ(text(kOrloCompany, 0), "kOrloWrongType") << "not a list";
+    EXPECT_EQ(OrloPropsetGetItemType(set, &kOrloDocumentSummary, kOrloHeadingPairs, 1, &type), kOrloOk);
+    EXPECT_EQ(type, static_cast<uint32_t>(kOrloTypeInt32));
+    EXPECT_EQ(OrloPropsetGetItemInteger(set, &kOrloDocumentSummary, kOrloHeadingPairs, 1, &number), kOrloOk);
+    EXPECT_EQ(number, 3);
+
+    const char* const titles[] = {"Plan", "Section A-A", ""};
+    EXPECT_EQ(OrloPropsetSetTexts(set, &kOrloDocumentSummary, kOrloPartTitles, kOrloTypeText, titles, 3), kOrloOk)
+        << ErrorText();
+    EXPECT_EQ(text(kOrloPartTitles, 1), "Section A-A");
+    EXPECT_EQ(text(kOrloPartTitles, 3), "kOrloNotFound");
+    const int64_t numbers[] = {1, 40000};
+    EXPECT_EQ(OrloPropsetSetIntegers(set, &kOrloDocumentSummary, 100, kOrloTypeInt16, numbers, 2), kOrloWrongType);
+    EXPECT_EQ(OrloPropsetSetIntegers(set, &kOrloDocumentSummary, 100, kOrloTypeUInt16, numbers, 2), kOrloOk);
+    EXPECT_EQ(OrloPropsetGetItemInteger(set, &kOrloDocumentSummary, 100, 1, &number), kOrloOk);
+    EXPECT_EQ(number, 40000);
+    const double reals[] = {0.5, -1e300};
+    double real = 0;
+    EXPECT_EQ(OrloPropsetSetReals(set, &kOrloDocumentSummary, 101, kOrloTypeFloat, reals, 2), kOrloWrongType);
+    EXPECT_EQ(OrloPropsetSetReals(set, &kOrloDocumentSummary, 101, kOrloTypeDouble, reals, 2), kOrloOk);
+    EXPECT_EQ(OrloPropsetGetItemReal(set, &kOrloDocumentSummary, 101, 1, &real), kOrloOk);
+    EXPECT_EQ(real, -1e300);
+    EXPECT_EQ(OrloPropsetSetTexts(set, &kOrloDocumentSummary, 102, kOrloTypeText, nullptr, 0), kOrloOk);
+    EXPECT_EQ(OrloPropsetCountItems(set, &kOrloDocumentSummary, 102, &count), kOrloOk);
+    EXPECT_EQ(count, 0u);
+    const char* const none[] = {nullptr};
+    EXPECT_EQ(OrloPropsetSetTexts(set, &kOrloDocumentSummary, 103, kOrloTypeText, none, 1), kOrloBadArgument);
+    EXPECT_EQ(OrloPropsetSetTexts(set, &kOrloDocumentSummary, 103, kOrloTypeText, nullptr, 1), kOrloBadArgument);
+    OrloPropsetClose(set);
+}
+
+TEST(CPropset, WalksTheNamesOfASection) {
+    OrloPropset set = nullptr;
+    OrloPropsetNew(&set);
+    OrloPropsetSetText(set, &kOrloUserDefined, 2, kOrloTypeText, "oak");
+    OrloPropsetSetName(set, &kOrloUserDefined, 2, "Wood");
+    OrloPropsetSetText(set, &kOrloUserDefined, 7, kOrloTypeText, "north");
+    OrloPropsetSetName(set, &kOrloUserDefined, 7, "Side");
+    std::string all;
+    char name[16];
+    size_t size = sizeof name;
+    uint32_t index = 0, id = 0;
+    for (; OrloPropsetGetNameAt(set, 1, index, &id, name, &size) == kOrloOk; ++index, size = sizeof name)
+        all += std::to_string(id) + name + " ";
+    EXPECT_EQ(all, "2Wood 7Side ");
+    EXPECT_EQ(OrloPropsetGetNameAt(set, 1, index, &id, name, &size), kOrloNotFound);
+    EXPECT_EQ(OrloPropsetGetNameAt(set, 9, 0, &id, name, &size), kOrloNotFound);
+    EXPECT_EQ(OrloPropsetGetNameAt(set, 0, 0, &id, name, &size), kOrloNotFound) << "a section without names";
+    OrloPropsetClose(set);
+}
+
+TEST(CPropset, ResultsHaveNames) {
+    EXPECT_STREQ(OrloGetResultName(kOrloOk), "kOrloOk");
+    EXPECT_STREQ(OrloGetResultName(kOrloChanged), "kOrloChanged");
+    EXPECT_STREQ(OrloGetResultName(static_cast<OrloResult>(kOrloInvalidInput + 1)), "unknown result");
+    EXPECT_STREQ(OrloGetResultName(static_cast<OrloResult>(-1)), "unknown result");
 }
 
 TEST(CPropset, DoesNotChangeDamagedSets) {
