@@ -1,6 +1,8 @@
 // A host for any compiler: C99, orlo_c.h, and its own declarations of a few functions of the system.
 //
-//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have the same pen color; else the error
+//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have the same pen color and the rating 7; else
+//   the
+//                                             error
 //
 // The functions of the database are looked up by name. If drawcore32.dll is the adapter, they are passed to it first.
 
@@ -22,6 +24,8 @@ __declspec(dllimport) int WINAPI IsWindowEnabled(HWND window);
 __declspec(dllimport) HWND WINAPI GetActiveWindow(void);
 __declspec(dllimport) void WINAPI ExitProcess(unsigned int code);
 #endif
+
+int _fltused = 1; // programs with floating-point numbers refer to it; it is part of the C library, which is not linked
 
 // The functions in a graphic's property table, as the contract defines them.
 typedef struct Slots {
@@ -75,27 +79,68 @@ static int OneColor(const Database* database, struct GraphicStruct* set) {
 // Leaves the control of layers empty.
 static void ORLO_CALL Fill(void* context, OrloFill* fill) {
     ++*(int*)context;
-    if (fill->kind == 0x7D08) fill->table = 0;
+    if (fill->kind == kOrloControlLayers) fill->table = 0;
+}
+
+// The host's own data: a rating that all graphics share, and how often the sheet has set it.
+typedef struct Ratings {
+    double rating;
+    int writes;
+} Ratings;
+
+static int32_t ORLO_CALL GetRating(void* context, struct GraphicStruct* graphic, uint32_t field, OrloValue* value) {
+    (void)graphic;
+    value->number = ((Ratings*)context)->rating;
+    return field == 0;
+}
+
+static int32_t ORLO_CALL SetRating(void* context, struct GraphicStruct* graphic, uint32_t field,
+                                   const OrloValue* value) {
+    Ratings* ratings = context;
+    (void)graphic;
+    ratings->rating = value->number;
+    ++ratings->writes;
+    return field == 0;
+}
+
+static OrloPage RatingPage(const OrloField* field, Ratings* ratings) {
+    OrloPage page = ORLO_INIT(OrloPage);
+    page.number = 1;
+    page.caption = "Rating";
+    page.fields = field;
+    page.fieldCount = 1;
+    page.get = GetRating;
+    page.set = SetRating;
+    page.context = ratings;
+    return page;
 }
 
 static int RunSheet(const Database* database, struct DrawingStruct* drawing) {
     struct GraphicStruct* all = database->root(drawing);
     int filled = 0;
     int32_t code = 99;
-    OrloSheet sheet = {0};
+    Ratings ratings = {1, 0};
+    OrloField field = ORLO_INIT(OrloField);
+    const OrloPage page = RatingPage(&field, &ratings);
+    OrloSheet sheet = ORLO_INIT(OrloSheet);
     HWND owner = CreateWindowExA(0, "STATIC", "Host", 0x10CF0000u, 50, 50, 400, 300, 0, 0, 0, 0);
     if (OneColor(database, all)) return 3; // OK would change nothing
-    sheet.size = sizeof sheet;
-    sheet.filter = kAllGraphics;
+    field.kind = kOrloFieldInteger;
+    field.flags = kOrloFieldByCallback;
+    field.label = "&Rating:";
+    sheet.filter = kOrloAllGraphics;
     sheet.owner = owner;
     sheet.drawing = drawing;
     sheet.selection = all;
     sheet.fill = Fill;
     sheet.context = &filled;
+    sheet.pages = &page;
+    sheet.pageCount = 1;
     if (OrloRunSheet(&sheet, &code) != kOrloOk) return 4;
     if (code != 1) return 5;
     if (!IsWindowEnabled(owner) || GetActiveWindow() != owner) return 6;
     if (filled < 3) return 7;
+    if (ratings.rating != 7 || ratings.writes < 2) return 9;
     return OneColor(database, all) ? 0 : 8;
 }
 

@@ -11,8 +11,21 @@ namespace {
 
 constexpr char kDrawing[] = " " TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf";
 
-class CHost : public HostProcess {};
-class ForeignHost : public HostProcess, public ::testing::WithParamInterface<const char*> {};
+class CHost : public HostProcess {
+protected:
+    // Shows the last page, which is the host's own, and replaces the text of its first field.
+    void TypeOnOwnPage(HWND sheet, const char* keys) {
+        const HWND tabs = ::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr);
+        while (Ask(tabs, TCM_GETCURSEL) < Ask(tabs, TCM_GETITEMCOUNT) - 1)
+            PressInTabs(sheet, VK_RIGHT);
+        const HWND field = Visible(sheet, CFieldPage::FieldID(0));
+        ASSERT_NE(field, nullptr);
+        ::PostMessageA(field, EM_SETSEL, 0, -1);
+        for (; *keys != '\0'; ++keys)
+            ::PostMessageA(field, WM_CHAR, static_cast<WPARAM>(*keys), 1);
+    }
+};
+class ForeignHost : public CHost, public ::testing::WithParamInterface<const char*> {};
 
 TEST_F(CHost, GuideExampleShowsTheTablesOfItsDrawing) {
     Start(std::string("c_host.exe") + kDrawing);
@@ -27,19 +40,12 @@ TEST_F(CHost, GuideExampleHasACustomPage) {
     Start(std::string("c_page.exe") + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);
-    const HWND tabs = ::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr);
-    for (LRESULT page = Ask(tabs, TCM_GETITEMCOUNT); page > 1; --page) // to the last one
-        PressInTabs(sheet, VK_RIGHT);
-    const HWND price = Visible(sheet, CFieldPage::FieldID(0));
-    ASSERT_NE(price, nullptr);
-    ::PostMessageA(price, EM_SETSEL, 0, -1);
-    for (const char key : {'1', '9', '.', '9', '9'})
-        ::PostMessageA(price, WM_CHAR, static_cast<WPARAM>(key), 1);
+    TypeOnOwnPage(sheet, "19.99");
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(ExitCode(), 0u);
 }
 
-TEST_P(ForeignHost, EditsThePenColorOverItsOwnWindow) {
+TEST_P(ForeignHost, EditsThePenColorAndItsOwnPage) {
     Start(std::string(GetParam()) + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr) << ExitCode();
@@ -52,6 +58,7 @@ TEST_P(ForeignHost, EditsThePenColorOverItsOwnWindow) {
     const HWND color = Visible(sheet, IDC_COLOR);
     EXPECT_GT(Ask(color, CB_GETCOUNT), 200);
     ::PostMessageA(color, WM_KEYDOWN, VK_DOWN, 1);
+    TypeOnOwnPage(sheet, "7");
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(ExitCode(), 0u);
 }
