@@ -30,7 +30,7 @@ install(DIRECTORY packaging/licenses DESTINATION ${CMAKE_INSTALL_DOCDIR})
 set(examples ${CMAKE_INSTALL_DATADIR}/orlo/examples)
 install(DIRECTORY packaging/example/ DESTINATION ${examples})
 install(FILES demo/example_host.cpp docs/examples/check_list.cpp docs/examples/end_codes.cpp docs/examples/wizard.cpp
-        docs/examples/field_page.cpp docs/examples/c_host.c docs/examples/c_page.c
+        docs/examples/field_page.cpp docs/examples/c_host.c docs/examples/c_page.c docs/examples/orlo.rs docs/examples/rust_page.rs
         DESTINATION ${examples})
 install(DIRECTORY skeleton DESTINATION ${CMAKE_INSTALL_DATADIR}/orlo)
 install(FILES tests/data/dxf/kabeja-draft4-roof-details.dxf DESTINATION ${examples} RENAME roof.dxf)

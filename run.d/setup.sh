@@ -11,6 +11,9 @@ case $command in
 demo | setup) command -v xdg-open firefox dillo >/dev/null || packages="$packages dillo" ;;
 esac
 
+# Tests build a host in Rust if there is a compiler for Windows.
+if [ "$command" = setup ]; then packages="$packages rustc libstd-rust-dev-windows"; fi
+
 setup() {
     local package missing=()
     for package in $packages; do

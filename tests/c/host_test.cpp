@@ -16,7 +16,7 @@ protected:
     // Shows the last page, which is the host's own, and replaces the text of its first field.
     void TypeOnOwnPage(HWND sheet, const char* keys) {
         const HWND tabs = ::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr);
-        while (Ask(tabs, TCM_GETCURSEL) < Ask(tabs, TCM_GETITEMCOUNT) - 1)
+        for (LRESULT page = Ask(tabs, TCM_GETITEMCOUNT); page > 1; --page)
             PressInTabs(sheet, VK_RIGHT);
         const HWND field = Visible(sheet, CFieldPage::FieldID(0));
         ASSERT_NE(field, nullptr);
@@ -36,14 +36,20 @@ TEST_F(CHost, GuideExampleShowsTheTablesOfItsDrawing) {
     EXPECT_EQ(ExitCode(), 0u);
 }
 
-TEST_F(CHost, GuideExampleHasACustomPage) {
-    Start(std::string("c_page.exe") + kDrawing);
+// In C and in Rust.
+class PageHost : public CHost, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(PageHost, OfTheGuideKeepsWhatWasEdited) {
+    Start(std::string(GetParam()) + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);
     TypeOnOwnPage(sheet, "19.99");
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(ExitCode(), 0u);
+    EXPECT_EQ(Output(), "first price: 19.99\n");
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, PageHost, ::testing::Values(PAGE_HOSTS));
 
 TEST_P(ForeignHost, EditsThePenColorAndItsOwnPage) {
     Start(std::string(GetParam()) + kDrawing);

@@ -44,6 +44,7 @@ build_project examples "$prefix/share/orlo/examples"
 run "$work/examples/page_host.exe"
 drive "$work/examples/example_host.exe"
 drive "$work/examples/c_host.exe"
+drive "$work/examples/c_page.exe"
 mkdir "$work/alone" # without DLLs
 cp "$work/examples/author.exe" "$source/tests/data/ole/25695--d41532.xls" "$work/alone"
 [ "$(cd "$work/alone" && run author.exe 25695--d41532.xls | tr -d '\r')" = Sompop ]
@@ -68,6 +69,14 @@ drive "$prefix/bin/bare_host.exe"
 "$compiler" -std=c++17 -o "$work/own-database/bare_host.exe" "$here/own_database/own_database.cpp" \
     -I "$prefix/share/orlo/skeleton" $(pkg-config --define-prefix --cflags --libs orlo)
 run "$work/own-database/bare_host.exe"
+
+rustc=$(sed -n 's/^ORLO_RUSTC:FILEPATH=\(\/.*\)/\1/p' "$build/CMakeCache.txt")
+if [ -n "$rustc" ]; then
+    step "a host in Rust"
+    "$rustc" --target x86_64-pc-windows-gnu -C linker="${compiler/g++/gcc}" -L "$prefix/lib" -o "$prefix/bin/rust_page.exe" \
+        "$prefix/share/orlo/examples/rust_page.rs"
+    drive "$prefix/bin/rust_page.exe"
+fi
 
 if command -v clang-14 lld-link-14 llvm-dlltool-14 >/dev/null; then
     step "a host of another compiler"

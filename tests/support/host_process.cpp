@@ -21,6 +21,7 @@ BOOL CALLBACK IsVisibleChild(HWND window, LPARAM parameter) {
 } // namespace
 
 HostProcess::~HostProcess() {
+    if (m_output != nullptr) ::CloseHandle(m_output);
     if (m_process.hProcess == nullptr) return;
     ::TerminateProcess(m_process.hProcess, 99); // still running only if the test has failed
     ::CloseHandle(m_process.hProcess);
@@ -32,9 +33,18 @@ void HostProcess::Start(const std::string& command) {
     ::GetModuleFileNameA(nullptr, own, MAX_PATH);
     std::string line = command;
     if (command.find(':') != 1) line.insert(0, own, std::string(own).rfind('\\') + 1);
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    HANDLE write = nullptr;
+    ASSERT_TRUE(::CreatePipe(&m_output, &write, &inherited, 0));
     STARTUPINFOA start = {};
     start.cb = sizeof start;
-    ASSERT_TRUE(::CreateProcessA(nullptr, &line[0], nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &m_process));
+    start.dwFlags = STARTF_USESTDHANDLES;
+    start.hStdOutput = write;
+    start.hStdError = ::GetStdHandle(STD_ERROR_HANDLE);
+    const BOOL started =
+        ::CreateProcessA(nullptr, &line[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &m_process);
+    ::CloseHandle(write);
+    ASSERT_TRUE(started);
 }
 
 DWORD HostProcess::ExitCode() {
@@ -42,6 +52,15 @@ DWORD HostProcess::ExitCode() {
     if (::WaitForSingleObject(m_process.hProcess, 60000) == WAIT_OBJECT_0)
         ::GetExitCodeProcess(m_process.hProcess, &code);
     return code;
+}
+
+std::string HostProcess::Output() {
+    ExitCode();
+    std::string output;
+    char byte;
+    for (DWORD read = 0; ::ReadFile(m_output, &byte, 1, &read, nullptr) && read == 1;)
+        if (byte != '\r') output += byte;
+    return output;
 }
 
 template <class Find>

@@ -13,6 +13,8 @@ protected:
     // command: the name of a program in or below the folder of the test program, and its arguments.
     void Start(const std::string& command);
     DWORD ExitCode();
+    // Waits for the end of the program and returns its standard output, without carriage returns.
+    std::string Output();
     // Returns the sheet, with a visible control. Returns null if the program ends earlier or never shows it.
     HWND Sheet();
     HWND Visible(HWND sheet, int id);
@@ -24,6 +26,7 @@ private:
     HWND Wait(Find find);
 
     PROCESS_INFORMATION m_process = {};
+    HANDLE m_output = nullptr; // a pipe that the program writes to
 };
 
 LRESULT Ask(HWND control, UINT message);
