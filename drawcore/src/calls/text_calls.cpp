@@ -13,8 +13,10 @@ int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* vertex, double width, do
                   const char* text) {
     auto* of = graphic ? dynamic_cast<TextGraphic*>(Graphic::From(graphic)) : nullptr;
     if (!of || !vertex || !text || !std::isfinite(width) || !std::isfinite(height) || !std::isfinite(angle)) return 0;
+    const Vec3 position = Vertex::From(vertex)->Position();
+    if (!IsFinite(position)) return 0;
     of->ChangingShape();
-    of->state.position = Vertex::From(vertex)->Position();
+    of->state.position = position;
     of->state.fitWidth = width;
     if (height > 0) of->state.height = height;
     of->state.along = {std::cos(angle), std::sin(angle), 0};
