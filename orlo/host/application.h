@@ -5,10 +5,17 @@
 #include "orlo/host/records.h"
 
 // Returns the application of this process. It belongs to the host. Never null while a drawing is open.
+// Called: by pages, and when colors and previews are drawn.
+// Failure: null: lists of tables are empty, and previews have the background of windows.
 DRAWCORE_API AppStruct* AppGetCurrentApp(void);
 
 // Copies the path of the host's configuration file, at most size bytes including the NUL. Returns 0 if there is none.
+// Called: when the Pen and the Text page fill their lists.
+// Stub: return 0. Lost: the lists of common widths and heights; the user types the values.
+// Failure: 0: the list is empty.
 DRAWCORE_API int AppGetINIFileName(AppStruct* application, char* buffer, int size);
 
 // Returns non-zero if the device has a palette.
+// Called: when colors and previews are drawn.
+// Stub: return 0. Lost: exact colors on a device with a palette.
 DRAWCORE_API int IsPaletteSupported(HDC dc);

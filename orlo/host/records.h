@@ -97,13 +97,13 @@ static_assert(offsetof(VertexStruct, z) == 0x28);
 //   VT_I4, VT_UI4   32 bits
 //   VT_UI1, VT_UI2  8 or 16 bits
 //   VT_R4, VT_R8    float or double
-//   VT_BOOL         PropGet stores 16 bits; PropSet receives a 32-bit 0 or 1
+//   VT_BOOL         PropGet stores 16 bits, 0 for false; PropSet receives a 32-bit 0 or 1
 //   VT_BSTR         PropGet frees the string that the char* variable points to, if any, and stores a new 8-bit string,
 //                   which the caller frees with BStringNULL. PropSet receives the characters, which the host copies
 struct PropertyTable {
     void* slot0; // not used by the library
-    // Stores the number of the property named *ppszName, which is valid for this graphic only. Returns 0 if the graphic
-    // has no such property. count is 1, reserved is 0.
+    // Stores the number of the property named *ppszName, which is valid for this graphic only. Names differ by the case
+    // of their letters too. Returns 0 if the graphic has no such property. count is 1, reserved is 0.
     int (*PropLookup)(GraphicStruct*, const char* const* ppszName, int count, int reserved, int32_t* pNumber);
     // Stores the value in *pValue and returns non-zero. Pages set the variable to 0 beforehand and ignore the result.
     int (*PropGet)(GraphicStruct*, int32_t number, int vt, void* pValue);

@@ -6,7 +6,11 @@
 #include "orlo/host/records.h"
 
 // Lets the method add its pages to the sheet (a CGraphicPropertySheet*). The result is returned by
-// AddGraphicPropertyPage.
+// AddGraphicPropertyPage. Returns 0 for an unknown method.
+// Called: by AddGraphicPropertyPage, if the graphic has a method.
+// Stub: return 0. Lost: custom pages from regen methods.
 DRAWCORE_API int RegenMethodGetPropPage(void* methods, uint16_t method, GraphicStruct* graphic, void* sheet);
-// Rebuilds the graphic.
+// Rebuilds the graphic. Ignores an unknown method.
+// Called: after a preview with a method has changed.
+// Stub: do nothing. Lost: previews that methods rebuild.
 DRAWCORE_API void RegenMethodRegen(void* methods, uint16_t method, GraphicStruct* graphic);

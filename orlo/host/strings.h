@@ -6,4 +6,6 @@
 
 // Copies a string, at most size bytes including the NUL. Returns the number of characters copied, or 0 if there is no
 // such string.
+// Called: when lists and previews are filled.
+// Failure: the result is ignored; the text is empty.
 DRAWCORE_API int DrawCoreLoadString(unsigned int id, char* buffer, int size);

@@ -12,10 +12,13 @@
 //
 // A host may evaluate calculations. The reference database reads the longest valid calculation with + - * / and
 // parentheses at the start: in "2*" that is the 2.
+// Called: when a field with a number is read.
+// Failure: text after the number is an error: the user is told, and nothing is written.
 DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
 // Writes value with that many significant digits, as mantissa and exponent if exponentForm is 1. The buffer has at
 // least 32 bytes. context and reserved are 0; trim is 1: trailing zeros are omitted.
+// Called: when a field with a number is shown.
 DRAWCORE_API void DoubleToString(int context, double value, int digits, char* buffer, int reserved, int exponentForm,
                                  int trim);
 
@@ -29,18 +32,28 @@ DRAWCORE_API void DoubleToString(int context, double value, int digits, char* bu
 // Where the host evaluates calculations, a single unit at the end applies to the whole text: "100+50 mm" is 150 mm. If
 // other numbers have units, a number without one is in the unit of display ("2 ft + 3").
 //
-// reserved is 0. suffix is 1: the name of the unit follows the number.
+// reserved is 0. suffix is 1: the name of the unit follows the number; 0: the number only.
+// Called: when a field or a list with lengths on paper is shown or read.
+// Failure: a text that cannot be read is refused with a beep or a message; a length without a text leaves its field
+// blank.
 DRAWCORE_API int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
                                       double* value);
 DRAWCORE_API int UnitsNumericToTextEx(TableStruct* units, uint16_t display, uint16_t number, double value, char* buffer,
                                       int size, int reserved, int suffix);
 
 // Returns the factor of a drawing scale ("1 in = 1 ft", "1 : 48"), or 0.0 if the text is not a scale.
+// Called: by DDX_CBScale and DDX_CBVarScale, which the library's pages do not use.
+// Stub: return 0.0. Lost: DDX_CBScale and DDX_CBVarScale.
 DRAWCORE_API double UnitsGetScaleValue(TableStruct* units, const char* text);
 // Writes a factor as a drawing scale.
+// Called: by DDX_CBScale, which the library's pages do not use.
+// Stub: return 0. Lost: DDX_CBScale.
 DRAWCORE_API int UnitsMakeScaleString(TableStruct* units, double scale, char* buffer, int size);
 
 // Stores the number of millimeters in the unit that the variable names. Returns 0 if it does not name a unit.
+// Called: by DDX_TextPaperWorld, which the library's pages do not use.
+// Stub: return 0. Lost: DDX_TextPaperWorld.
 DRAWCORE_API int UnitsGetLUnitValue(TableStruct* units, uint16_t variable, double* value);
 // Returns the angular system of the drawing: 0 degrees; 1 degrees, minutes and seconds; 2 grads; 3 radians; 4 bearings.
+// Called: when the Brush page opens.
 DRAWCORE_API uint16_t UnitsGetAngularSystem(TableStruct* units);
