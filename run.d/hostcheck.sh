@@ -1,14 +1,10 @@
-# ./run hostcheck DATABASE.dll [--drawing FILE]
+# ./run hostcheck DATABASE.dll [--drawing FILE] [--allow stubs]
 # Checks a host's drawing database against the contract and returns hostcheck's exit code.
 
-usage() { echo "usage: ./run hostcheck DATABASE.dll [--drawing FILE]" >&2; exit 2; }
-
-case $#:${2-} in 1:|3:--drawing) ;; *) usage ;; esac
 arguments=()
 for argument in "$@"; do
     case $argument in
-        --drawing) arguments+=(--drawing) ;;
-        -*) usage ;;
+        -* | stubs) arguments+=("$argument") ;;
         *) arguments+=("Z:$(cd "$ORLO_CALLER_DIR" && realpath -m -- "$argument")") ;;
     esac
 done

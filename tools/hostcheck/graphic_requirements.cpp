@@ -21,7 +21,7 @@ Value Read(const Subject& s, GraphicStruct* graphic, const char* name, int vt) {
 }
 
 void CreatesTheThreeTypes(const Subject& s) {
-    for (const int type : {kGraphicText, kGraphicVertices, kGraphicInsert}) {
+    for (const int type : {kGraphicVertices, kGraphicText, kGraphicInsert}) {
         const auto graphic = s.NewGraphic(type);
         Require(graphic->bType == type, "bType is 0x%02X instead of 0x%02X", graphic->bType, type);
         Require(!OwnerOf(graphic.get()), "a new graphic has an owner");
@@ -66,12 +66,38 @@ void ReturnsMembersInOrder(const Subject& s) {
     Require(s.Members(s.NewSquare(1).get()).empty(), "a graphic without members has some");
 }
 
+void KeepsItsStateInThePosition(const Subject& s) {
+    const auto set = s.NewGraphic(kGraphicVertices), other = s.NewGraphic(kGraphicVertices);
+    for (int i = 0; i < 3; ++i) {
+        CALL(s.host, GraphicAdd)(set.get(), s.NewSquare(1).release());
+        CALL(s.host, GraphicAdd)(other.get(), s.NewSquare(1).release());
+    }
+    const auto alone = s.Members(set.get());
+    std::vector<GraphicStruct*> nested;
+    uint32_t position;
+    for (GraphicStruct* member = CALL(s.host, GraphicFirst)(set.get(), &position, 1, kAllGraphics);
+         member && nested.size() <= alone.size();
+         member = CALL(s.host, GraphicNext)(set.get(), &position, 1, kAllGraphics)) {
+        nested.push_back(member);
+        Require(s.Members(set.get()) == alone, "an iteration within another one returned other members");
+        s.Members(other.get());
+    }
+    Require(nested == alone, "returned %zu of %zu members with other iterations between the calls", nested.size(),
+            alone.size());
+}
+
+Owned<GraphicStruct> Copy(const Subject& s, const Owned<GraphicStruct>& original) {
+    Owned<GraphicStruct> copy(CALL(s.host, GraphicCopyEx)(original.get(), 0, 0, 7), original.get_deleter());
+    RequireNoStub(copy != nullptr, "GraphicCopyEx");
+    return copy;
+}
+
 void CopiesWithMembers(const Subject& s) {
     const auto original = s.NewSquare(1);
     CALL(s.host, GraphicSetPenColor)(original.get(), 0x123456);
     CALL(s.host, GraphicAdd)(original.get(), s.NewSquare(2).release());
-    Owned<GraphicStruct> copy(CALL(s.host, GraphicCopyEx)(original.get(), 0, 0, 7), original.get_deleter());
-    Require(copy && copy.get() != original.get(), "did not return a copy");
+    const auto copy = Copy(s, original);
+    Require(copy.get() != original.get(), "returned the graphic itself");
     Require(copy->bType == original->bType && !OwnerOf(copy.get()), "the copy has another type or an owner");
     Require(Read<uint32_t>(s, copy.get(), kPropPenColor, VT_UI4) == 0x123456, "the copy has another pen color");
     Require(s.Vertices(copy.get()).size() == 5, "the copy has %zu of 5 vertices", s.Vertices(copy.get()).size());
@@ -86,15 +112,19 @@ void CopiesWithMembers(const Subject& s) {
 void AttachesToADrawing(const Subject& s) {
     const auto graphic = s.NewGraphic(kGraphicVertices);
     GraphicStruct* part = CALL(s.host, GraphicAdd)(graphic.get(), s.NewGraphic(kGraphicVertices).release());
-    CALL(s.host, GraphicAttach)(graphic.get(), s.drawing);
-    Require(CALL(s.host, GraphicGetDrawing)(graphic.get()) == s.drawing, "GraphicGetDrawing returned another drawing");
-    Require(CALL(s.host, GraphicGetDrawing)(part) == s.drawing, "a member of the graphic is not attached");
+    CALL(s.host, GraphicAttach)(graphic.get(), s.Drawing());
+    Require(CALL(s.host, GraphicGetDrawing)(graphic.get()) == s.Drawing(),
+            "GraphicGetDrawing returned another drawing");
+    Require(CALL(s.host, GraphicGetDrawing)(part) == s.Drawing(), "a member of the graphic is not attached");
     CALL(s.host, GraphicAttach)(graphic.get(), nullptr);
     Require(!CALL(s.host, GraphicGetDrawing)(graphic.get()), "null did not detach the graphic");
 }
 
 void DetectsGroups(const Subject& s) {
     Require(!CALL(s.host, GraphicGetIsGroup)(s.NewSquare(1).get()), "a vertex list is reported as a group");
+    const auto set = s.NewGraphic(kGraphicVertices);
+    CALL(s.host, GraphicAdd)(set.get(), s.NewSquare(1).release());
+    RequireNoStub(CALL(s.host, GraphicGetIsGroup)(Copy(s, set).get()), "GraphicGetIsGroup");
 }
 
 void AcceptsDirtyMarks(const Subject& s) {
@@ -110,8 +140,10 @@ void AcceptsDirtyMarks(const Subject& s) {
 template <class Value, class Argument>
 void Sets(const Subject& s, void (*call)(GraphicStruct*, Argument), const char* name, int vt, Value value) {
     const auto square = s.NewSquare(1);
+    const auto before = Read<Value>(s, square.get(), name, vt);
     call(square.get(), static_cast<Argument>(value));
     const auto found = Read<Value>(s, square.get(), name, vt);
+    if (found == before) s.NewViewport(); // without viewports the function can be a stub
     Require(found == value, "%s is %g instead of %g", name, static_cast<double>(found), static_cast<double>(value));
 }
 
@@ -127,9 +159,10 @@ const Requirement kRows[] = {
     {"GraphicAdd", "returns the child, which the parent then owns", OwnsWhatIsAdded},
     {"GraphicDelete", "removes the child without changing it", ReleasesWhatIsDeleted},
     {"GraphicFirst", "and GraphicNext return all members in the order of GraphicAdd", ReturnsMembersInOrder},
+    {"GraphicNext", "stores the position in the caller's 32 bits only", KeepsItsStateInThePosition},
     {"GraphicCopyEx", "copies a graphic with its attributes, vertices and members", CopiesWithMembers},
     {"GraphicAttach", "attaches a graphic and its members; null detaches them", AttachesToADrawing},
-    {"GraphicGetIsGroup", "returns 0 for a vertex list", DetectsGroups},
+    {"GraphicGetIsGroup", "returns 0 for a vertex list and non-zero for the copy of a set", DetectsGroups},
     {"GraphicSetDirty", "and GraphicSetExtentsDirty do not change the graphic", AcceptsDirtyMarks},
     SETS(GraphicSetPenColor, kPropPenColor, VT_UI4, 0x123456u),
     SETS(GraphicSetPenStyle, kPropPenStyle, VT_UI4, static_cast<uint32_t>(kLineStyleByBlock)),

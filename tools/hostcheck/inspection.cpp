@@ -2,7 +2,9 @@
 
 #include "inspection.h"
 
+#include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "requirement.h"
 
@@ -41,27 +43,41 @@ DrawingStruct* CurrentDrawing(const Host& host, const std::wstring& file) {
     DrawingStruct* drawing = OpenDrawing(host, file);
     if (drawing && host.Has("AppSetCurrentDrawing"))
         host.Function<AppSetCurrentDrawing>("AppSetCurrentDrawing")(drawing);
+    if (!host.Has("AppGetCurrentApp")) return nullptr;
     const AppStruct* application = CALL(host, AppGetCurrentApp)();
-    if (!application || !application->pCurrentDrawing)
-        throw std::runtime_error(
-            "the database has no current drawing; export DrawingNew and AppSetCurrentDrawing, or set one "
-            "when the database is loaded");
-    return application->pCurrentDrawing;
+    return application ? application->pCurrentDrawing : nullptr;
 }
 
-// Returns the violation of a requirement, or an empty string if it is met.
-std::string ViolationOf(const Requirement& requirement, const Subject& subject) try {
-    if (!subject.host.Has(requirement.function)) return "the function is not exported";
-    if (requirement.check) requirement.check(subject);
-    return {};
+// Throws std::runtime_error if the module has none of the functions.
+void ReportMissing(const Host& host, HANDLE report) {
+    const auto& functions = AllFunctions();
+    std::string lines;
+    const auto missing = std::count_if(functions.begin(), functions.end(), [&](const ContractFunction& function) {
+        if (host.Has(function.name)) return false;
+        lines += std::string("missing ") + function.name + '\n';
+        return true;
+    });
+    if (missing == static_cast<ptrdiff_t>(functions.size()))
+        throw std::runtime_error("the file exports no function of the contract, such as AppGetCurrentApp");
+    if (missing) WriteLine(report, lines.substr(0, lines.size() - 1));
+}
+
+// Returns the line that reports the result, without its number and line end: the word, and the text that follows the
+// number.
+std::pair<std::string, std::string> ResultOf(const Requirement& requirement, const Subject& subject) try {
+    if (!subject.host.Has(requirement.function)) return {"broken", "the function is not exported"};
+    requirement.check(subject);
+    return {"kept", ""};
 } catch (const Violation& violation) {
-    return violation.found;
+    return {"broken", violation.found};
+} catch (const StubFound& stub) {
+    return {"stub", stub.function};
 } catch (const Missing& missing) {
-    return "the check requires " + missing.name + ", which is not exported";
+    return {"broken", "the check requires " + missing.name + ", which is not exported"};
 } catch (const std::exception& exception) {
-    return std::string("the function threw an exception: ") + exception.what();
+    return {"broken", std::string("the function threw an exception: ") + exception.what()};
 } catch (...) {
-    return "the function threw an exception";
+    return {"broken", "the function threw an exception"};
 }
 
 void CheckRequirements(const Subject& subject, size_t first, HANDLE report) {
@@ -69,8 +85,8 @@ void CheckRequirements(const Subject& subject, size_t first, HANDLE report) {
     for (size_t i = first; i < requirements.size(); ++i) {
         const std::string number = std::to_string(i);
         WriteLine(report, "start " + number);
-        const std::string violation = ViolationOf(requirements[i], subject);
-        WriteLine(report, violation.empty() ? "passed " + number : "failed " + number + " " + violation);
+        const auto [word, text] = ResultOf(requirements[i], subject);
+        WriteLine(report, word + " " + number + " " + text);
     }
 }
 
@@ -80,11 +96,14 @@ void Inspect(const std::wstring& database, const std::wstring& drawingFile, size
     ::SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
     ::SetUnhandledExceptionFilter(EndWithCode);
     const Host host(database.c_str());
+    if (first == 0) ReportMissing(host, report);
     const Subject subject(host, CurrentDrawing(host, drawingFile));
+    if (first == 0 && !subject.HasDrawing())
+        WriteLine(report,
+                  "note the database has no current drawing; export DrawingNew and AppSetCurrentDrawing, or set "
+                  "one when the database is loaded");
     CheckRequirements(subject, first, report);
     WriteLine(report, "end");
-} catch (const Missing& missing) {
-    WriteLine(report, "error the database does not export " + missing.name);
 } catch (const std::exception& exception) {
     WriteLine(report, std::string("error ") + exception.what());
 }

@@ -9,12 +9,17 @@
 
 #include "inspection.h"
 #include "report.h"
+#include "requirement.h"
 
 namespace {
 
-constexpr char kUsage[] = "usage: hostcheck DATABASE.dll [--drawing FILE]\n"
-                          "Checks a drawing database against the contract and prints a line for each requirement.\n"
-                          "Exit code: 0 all checks passed, 1 some failed, 2 nothing was checked.\n";
+constexpr char kUsage[] =
+    "usage: hostcheck DATABASE.dll [--drawing FILE] [--allow stubs]\n"
+    "Checks a drawing database against the contract and prints a line for each requirement:\n"
+    "  kept     the requirement is met\n"
+    "  broken   it is not; the line below says what was found\n"
+    "  stub     a function is not implemented, which the contract permits; the line below says what the sheet loses\n"
+    "Exit code: 0 all requirements are kept (with --allow stubs: or stubs), 1 some are not, 2 nothing was checked.\n";
 
 // Returns the absolute path.
 std::wstring FullPath(const std::wstring& path) {
@@ -23,14 +28,39 @@ std::wstring FullPath(const std::wstring& path) {
     return length > 0 && length < MAX_PATH ? std::wstring(full, length) : path;
 }
 
-int Run(const std::wstring& database, const std::wstring& drawingFile) {
-    const Inspected inspected = InspectInProcesses(database, drawingFile);
-    if (!inspected.error.empty()) {
-        std::fprintf(stderr, "hostcheck: %s\n", inspected.error.c_str());
-        return inspected.failed ? 1 : 2;
+struct Options {
+    std::wstring database, drawingFile;
+    bool allowStubs = false;
+};
+
+// Returns false if the arguments are not valid.
+bool Parse(const std::vector<std::wstring>& arguments, Options& options) {
+    for (size_t i = 0; i < arguments.size(); ++i) {
+        const std::wstring& argument = arguments[i];
+        const bool isOption = argument[0] == L'-';
+        const std::wstring value = isOption && i + 1 < arguments.size() ? arguments[++i] : L"";
+        if (!isOption && options.database.empty())
+            options.database = FullPath(argument);
+        else if (argument == L"--drawing" && !value.empty())
+            options.drawingFile = FullPath(value);
+        else if (argument == L"--allow" && value == L"stubs")
+            options.allowStubs = true;
+        else
+            return false;
     }
-    std::printf("%zu passed, %zu failed\n", inspected.passed, inspected.failed);
-    return inspected.failed ? 1 : 0;
+    return !options.database.empty();
+}
+
+int Run(const Options& options) {
+    const Inspected inspected = InspectInProcesses(options.database, options.drawingFile);
+    const bool complete = inspected.error.empty();
+    if (!complete) std::fprintf(stderr, "hostcheck: %s\n", inspected.error.c_str());
+    if (!complete && inspected.kept + inspected.broken + inspected.stubs == 0) return 2;
+    const size_t all = AllFunctions().size();
+    std::printf("functions: %zu of %zu exported\n", all - inspected.missing, all);
+    std::printf("requirements: %zu kept, %zu broken, %zu stubs\n", inspected.kept, inspected.broken, inspected.stubs);
+    const bool kept = complete && inspected.missing == 0 && inspected.broken == 0;
+    return kept && (inspected.stubs == 0 || options.allowStubs) ? 0 : 1;
 }
 
 } // namespace
@@ -46,9 +76,8 @@ int wmain(int count, wchar_t** values) try {
         std::printf("%s", kUsage);
         return 0;
     }
-    const bool hasDrawing = arguments.size() == 3 && arguments[1] == L"--drawing";
-    if (arguments.size() == 1 && arguments[0][0] != L'-') return Run(FullPath(arguments[0]), L"");
-    if (hasDrawing) return Run(FullPath(arguments[0]), FullPath(arguments[2]));
+    Options options;
+    if (Parse(arguments, options)) return Run(options);
     std::fprintf(stderr, "%s", kUsage);
     return 2;
 } catch (const std::exception& exception) {

@@ -1,6 +1,8 @@
 // Requirements of matrices: row vectors; the given matrix is applied first.
 
 #include <cmath>
+#include <cstring>
+#include <utility>
 
 #include "requirement.h"
 
@@ -26,39 +28,71 @@ void RequireAt(const Point& found, const Point& expected) {
             expected.x, expected.y, expected.z);
 }
 
+// The five functions with a distinct transformation each.
+Owned<MatrixStruct> Scaled(const Subject& s, const MatrixStruct* matrix) {
+    return s.Own(CALL(s.host, MatrixScale)(matrix, s.NewVertex(2, 3, 4).get(), 0), "MatrixScale");
+}
+Owned<MatrixStruct> Moved(const Subject& s, const MatrixStruct* matrix) {
+    return s.Own(CALL(s.host, MatrixOffset)(matrix, s.NewVertex(2, 3, 4).get()), "MatrixOffset");
+}
+Owned<MatrixStruct> TurnedAboutX(const Subject& s, const MatrixStruct* matrix) {
+    return s.Own(CALL(s.host, MatrixRotateX)(matrix, kRightAngle, 0), "MatrixRotateX");
+}
+Owned<MatrixStruct> TurnedAboutY(const Subject& s, const MatrixStruct* matrix) {
+    return s.Own(CALL(s.host, MatrixRotateY)(matrix, kRightAngle, 0), "MatrixRotateY");
+}
+Owned<MatrixStruct> TurnedAboutZ(const Subject& s, const MatrixStruct* matrix) {
+    return s.Own(CALL(s.host, MatrixRotateZ)(matrix, kRightAngle, 0), "MatrixRotateZ");
+}
+
 void Scales(const Subject& s) {
-    const auto factors = s.NewVertex(2, 3, 4);
-    const auto matrix = s.Own(CALL(s.host, MatrixScale)(nullptr, factors.get(), 0));
-    RequireAt(Transform(*matrix, {1, 1, 1}), {2, 3, 4});
+    RequireAt(Transform(*Scaled(s, nullptr), {1, 1, 1}), {2, 3, 4});
 }
-
 void Translates(const Subject& s) {
-    const auto by = s.NewVertex(2, 3, 4);
-    const auto matrix = s.Own(CALL(s.host, MatrixOffset)(nullptr, by.get()));
-    RequireAt(Transform(*matrix, {1, 1, 1}), {3, 4, 5});
+    RequireAt(Transform(*Moved(s, nullptr), {1, 1, 1}), {3, 4, 5});
 }
-
 void TurnsYToZ(const Subject& s) {
-    RequireAt(Transform(*s.Own(CALL(s.host, MatrixRotateX)(nullptr, kRightAngle, 0)), {1, 2, 0}), {1, 0, 2});
+    RequireAt(Transform(*TurnedAboutX(s, nullptr), {1, 2, 0}), {1, 0, 2});
 }
 void TurnsZToX(const Subject& s) {
-    RequireAt(Transform(*s.Own(CALL(s.host, MatrixRotateY)(nullptr, kRightAngle, 0)), {0, 1, 2}), {2, 1, 0});
+    RequireAt(Transform(*TurnedAboutY(s, nullptr), {0, 1, 2}), {2, 1, 0});
 }
 void TurnsXToY(const Subject& s) {
-    RequireAt(Transform(*s.Own(CALL(s.host, MatrixRotateZ)(nullptr, kRightAngle, 0)), {2, 0, 1}), {0, 2, 1});
+    RequireAt(Transform(*TurnedAboutZ(s, nullptr), {2, 0, 1}), {0, 2, 1});
 }
 
+// Each function, applied to a matrix that scales x by 5 and translates by 1, 2, 3.
 void AppliesTheGivenMatrixFirst(const Subject& s) {
-    const auto by = s.NewVertex(1, 0, 0), factors = s.NewVertex(5, 5, 5);
-    const auto first = s.Own(CALL(s.host, MatrixOffset)(nullptr, by.get()));
-    const auto both = s.Own(CALL(s.host, MatrixScale)(first.get(), factors.get(), 0));
-    RequireAt(Transform(*both, {1, 1, 1}), {10, 5, 5});
-    RequireAt(Transform(*first, {1, 1, 1}), {2, 1, 1});
+    const MatrixStruct given = {{{5, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {1, 2, 3, 1}}};
+    const Point from = Transform(given, {1, 1, 1}); // 6, 3, 4
+    RequireAt(Transform(*Scaled(s, &given), {1, 1, 1}), {2 * from.x, 3 * from.y, 4 * from.z});
+    RequireAt(Transform(*Moved(s, &given), {1, 1, 1}), {from.x + 2, from.y + 3, from.z + 4});
+    RequireAt(Transform(*TurnedAboutX(s, &given), {1, 1, 1}), {from.x, -from.z, from.y});
+    RequireAt(Transform(*TurnedAboutY(s, &given), {1, 1, 1}), {from.z, from.y, -from.x});
+    RequireAt(Transform(*TurnedAboutZ(s, &given), {1, 1, 1}), {-from.y, from.x, from.z});
+}
+
+void KeepsTheGivenMatrix(const Subject& s) {
+    const MatrixStruct before = {{{5, 0, 0, 0}, {0, 1, 0, 0}, {0, 0, 1, 0}, {1, 2, 3, 1}}};
+    const std::pair<const char*, Owned<MatrixStruct> (*)(const Subject&, const MatrixStruct*)> functions[] = {
+        {"MatrixScale", Scaled},
+        {"MatrixOffset", Moved},
+        {"MatrixRotateX", TurnedAboutX},
+        {"MatrixRotateY", TurnedAboutY},
+        {"MatrixRotateZ", TurnedAboutZ}};
+    Violations violations;
+    for (const auto& [name, function] : functions)
+        violations.Collect([&, name = name, function = function] {
+            MatrixStruct given = before;
+            const auto result = function(s, &given);
+            Require(std::memcmp(&given, &before, sizeof given) == 0, "%s changed the given matrix", name);
+            Require(result.get() != &given, "%s returned the given matrix", name);
+        });
+    violations.Report();
 }
 
 void ClearsThePointer(const Subject& s) {
-    const auto by = s.NewVertex(1, 0, 0);
-    MatrixStruct* matrix = CALL(s.host, MatrixOffset)(nullptr, by.get());
+    MatrixStruct* matrix = Moved(s, nullptr).release();
     CALL(s.host, MatrixDispose)(&matrix);
     Require(!matrix, "the pointer is %p afterwards", static_cast<void*>(matrix));
 }
@@ -69,7 +103,8 @@ constexpr Requirement kRows[] = {
     {"MatrixRotateX", "turns y to z for a positive angle in radians", TurnsYToZ},
     {"MatrixRotateY", "turns z to x for a positive angle in radians", TurnsZToX},
     {"MatrixRotateZ", "turns x to y for a positive angle in radians", TurnsXToY},
-    {"MatrixScale", "returns a new matrix that applies the given one first", AppliesTheGivenMatrixFirst},
+    {"MatrixScale", "and the others return a matrix that applies the given one first", AppliesTheGivenMatrixFirst},
+    {"MatrixOffset", "and the others do not change the given matrix", KeepsTheGivenMatrix},
     {"MatrixDispose", "sets the pointer to null", ClearsThePointer},
 };
 

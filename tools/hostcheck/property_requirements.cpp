@@ -1,5 +1,6 @@
 // Requirements of property tables, for all types of graphics and with the value types that the library uses.
 
+#include <algorithm>
 #include <cstring>
 #include <iterator>
 
@@ -39,7 +40,7 @@ public:
             Require(bytes[i] == 0xAB, "%s: PropGet wrote more than %zu bytes for type 0x%02X", name_, SizeOf(vt), vt);
         uint64_t value = 0;
         std::memcpy(&value, bytes, SizeOf(vt));
-        return value;
+        return vt == VT_BOOL ? value != 0 : value; // 1 and VARIANT_TRUE mean the same
     }
     bool Set(int vt, uint64_t value) const { return table_->PropSet(graphic_, number_, vt, &value) != 0; }
 
@@ -111,26 +112,87 @@ uint64_t BitsOf(const PropertyInfo& property) {
     return bits;
 }
 
-// Calls visit(property, info) for all properties of a graphic of each type.
+// Calls visit(graphic, type) for a new graphic of each type that the database has. Reports the violations of all types.
+template <class Visit>
+void ForEachType(const Subject& s, Visit visit) {
+    Violations violations;
+    for (const Type& type : kTypes)
+        violations.Collect([&] {
+            const auto graphic = s.NewGraphic(type.type);
+            CALL(s.host, GraphicAttach)(graphic.get(), s.Drawing());
+            visit(graphic.get(), type);
+        });
+    violations.Report();
+}
+
+// Calls visit(property, info) for all properties of a graphic of each type, and reports the violations of all of them.
 template <class Visit>
 void ForEachProperty(const Subject& s, Visit visit) {
-    for (const Type& type : kTypes) {
-        const auto graphic = s.NewGraphic(type.type);
-        CALL(s.host, GraphicAttach)(graphic.get(), s.drawing);
-        for (const PropertyInfo& info : kPropertyList) {
-            const Property property(s, graphic.get(), info.name);
-            if (property) visit(property, info);
-        }
-    }
+    ForEachType(s, [&](GraphicStruct* graphic, const Type&) {
+        Violations violations;
+        for (const PropertyInfo& info : kPropertyList)
+            violations.Collect([&] {
+                const Property property(s, graphic, info.name);
+                if (property) visit(property, info);
+            });
+        violations.Report();
+    });
 }
 
 void HasThePropertiesOfPreviews(const Subject& s) {
-    for (const Type& type : kTypes) {
-        const auto graphic = s.NewGraphic(type.type);
+    ForEachType(s, [&](GraphicStruct* graphic, const Type& type) {
         for (const PropertyInfo& info : kPropertyList)
-            Require(!IsInPreview(info, type) || Property(s, graphic.get(), info.name),
-                    "a graphic of type 0x%02X has no %s", type.type, info.name);
+            Require(!IsInPreview(info, type) || Property(s, graphic, info.name), "a graphic of type 0x%02X has no %s",
+                    type.type, info.name);
+    });
+}
+
+// A page of the host can have a property whose name differs from one of these by its case only.
+void DistinguishesCase(const Subject& s) {
+    ForEachType(s, [&](GraphicStruct* graphic, const Type&) {
+        for (const PropertyInfo& info : kPropertyList) {
+            std::string name = info.name;
+            for (char& letter : name)
+                letter ^= 0x20;
+            Require(!Property(s, graphic, name.c_str()), "PropLookup found \"%s\"", name.c_str());
+        }
+    });
+}
+
+bool IsEntry(const Subject& s, const char* table, uint64_t value) {
+    const auto entries = s.Entries(s.Table(table));
+    return std::find(entries.begin(), entries.end(), value) != entries.end();
+}
+
+// Returns whether a value is one that the page of the property can show.
+bool IsMeaningful(const Subject& s, const PropertyInfo& info, uint64_t value) {
+    switch (info.meaning) {
+    case PropertyMeaning::Layer:
+        return IsEntry(s, kTableLayers, value);
+    case PropertyMeaning::LineStyle:
+        return value == kLineStyleNone || value == kLineStyleByLayer || value == kLineStyleByBlock ||
+               IsEntry(s, kTableLineStyles, value);
+    case PropertyMeaning::BrushStyle:
+        return value == kBrushStyleNone || IsEntry(s, kTableBrushStyles, value);
+    case PropertyMeaning::Block:
+        return value == 0 || IsEntry(s, kTableBlocks, value);
+    case PropertyMeaning::Color:
+        return value <= 0xFFFFFF || value == kColorByLayer || value == kColorByBlock ||
+               (value == kColorOfPen && info.part == PropertyPart::Brush);
+    case PropertyMeaning::ScaleSystem:
+        return value == kScaleWorld || value == kScalePaper;
+    default:
+        return info.IsReal() || (value >= info.low && value <= info.high);
     }
+}
+
+void HasMeaningfulDefaults(const Subject& s) {
+    ForEachProperty(s, [&](const Property& property, const PropertyInfo& info) {
+        if (info.IsText()) return;
+        const uint64_t value = property.Get(TypeOf(info));
+        Require(IsMeaningful(s, info, value), "%s of a new graphic is %llu, which its page cannot show", info.name,
+                value);
+    });
 }
 
 void RejectsUnknownNames(const Subject& s) {
@@ -203,6 +265,9 @@ void KeepsRejectedProperties(const Subject& s) {
 constexpr Requirement kRows[] = {
     {"GraphicGetVtbl", "returns a table with the properties that previews need", HasThePropertiesOfPreviews},
     {"GraphicGetVtbl", "PropLookup returns 0 for an unknown name", RejectsUnknownNames},
+    {"GraphicGetVtbl", "PropLookup distinguishes names by the case of their letters", DistinguishesCase},
+    {"GraphicGetVtbl", "PropGet returns a layer, styles and colors that exist for a new graphic",
+     HasMeaningfulDefaults},
     {"GraphicGetVtbl", "PropSet accepts each value that PropGet returns", AcceptsReturnedValues},
     {"GraphicGetVtbl", "PropGet returns each value that PropSet has set", ReturnsSetValues},
     {"GraphicGetVtbl", "PropSet accepts the value types of previews", AcceptsPreviewTypes},

@@ -2,6 +2,7 @@
 
 #include "report.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <stdexcept>
@@ -108,35 +109,43 @@ std::string DescribeEnd(DWORD code) {
     }
 }
 
-void Print(const Requirement& requirement, const std::string& violation) {
-    std::printf("%-7s %-26s %s", violation.empty() ? "passed" : "FAILED", requirement.function, requirement.what);
-    if (!violation.empty()) std::printf("\n%35s%s", "", ("found: " + violation).c_str());
-    std::printf("\n");
+// Prints a line for the requirement and, unless it is kept, one that says why.
+void Print(const Requirement& requirement, const std::string& word, const std::string& text) {
+    std::printf("%-6s  %-26s %s\n", word.c_str(), requirement.function, requirement.what);
+    if (word == "broken") std::printf("%35sfound: %s\n", "", text.c_str());
+    if (word == "stub") std::printf("%35s%s is a stub; lost: %s\n", "", text.c_str(), LostByStub(text));
     std::fflush(stdout);
+}
+
+void Report(size_t number, const std::string& word, const std::string& text, Inspected& inspected) {
+    Print(AllRequirements()[number], word, text);
+    ++(word == "kept" ? inspected.kept : word == "stub" ? inspected.stubs : inspected.broken);
 }
 
 // Reads the results of one child process. `next` is the number of the next requirement to check.
 void ReadResults(CheckProcess& child, size_t& next, Inspected& inspected) {
-    const auto& requirements = AllRequirements();
     bool checking = false;
     std::string line;
     while (child.NextLine(line)) {
-        if (line.rfind("error ", 0) == 0) inspected.error = line.substr(6);
-        if (line == "end" || !inspected.error.empty()) return;
-        checking = line.rfind("start ", 0) == 0;
-        if (checking) continue;
-        const bool passed = line.rfind("passed ", 0) == 0;
-        const size_t text = line.find(' ', line.find(' ') + 1);
-        Print(requirements[next++], passed ? "" : line.substr(text + 1));
-        ++(passed ? inspected.passed : inspected.failed);
+        const std::string word = line.substr(0, line.find(' '));
+        const std::string rest = line.substr(std::min(word.size() + 1, line.size()));
+        if (word == "error") inspected.error = rest;
+        if (word == "end" || word == "error") return;
+        if (word == "note") {
+            std::fprintf(stderr, "hostcheck: %s\n", rest.c_str());
+        } else if (word == "missing") {
+            std::printf("missing %s\n", rest.c_str());
+            ++inspected.missing;
+        } else {
+            checking = word == "start";
+            if (!checking) Report(next++, word, rest.substr(rest.find(' ') + 1), inspected);
+        }
     }
     const std::string ended = DescribeEnd(child.ExitCode());
-    if (!checking) {
+    if (checking)
+        Report(next++, "broken", ended, inspected);
+    else
         inspected.error = "while the database was loaded or its drawing created, " + ended;
-        return;
-    }
-    Print(requirements[next++], ended);
-    ++inspected.failed;
 }
 
 } // namespace

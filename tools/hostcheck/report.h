@@ -5,9 +5,10 @@
 #include <string>
 
 struct Inspected {
-    size_t passed = 0, failed = 0;
-    std::string error; // why nothing could be checked, or empty
+    size_t missing = 0;                     // functions that are not exported
+    size_t kept = 0, broken = 0, stubs = 0; // requirements
+    std::string error;                      // why nothing could be checked, or empty
 };
 
-// Prints a line for each requirement.
+// Prints a line for each missing function and for each requirement.
 Inspected InspectInProcesses(const std::wstring& database, const std::wstring& drawingFile);

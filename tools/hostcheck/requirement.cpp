@@ -1,4 +1,4 @@
-// Support for the checks: creates objects of the database and reports violations.
+// Support for the checks: creates objects of the database, reports violations and stubs.
 
 #include "requirement.h"
 
@@ -22,12 +22,6 @@ void DisposeMatrix(MatrixStruct* matrix) {
     CALL(*disposing, MatrixDispose)(&matrix);
 }
 
-constexpr const char* kFunctions[] = {
-#include "functions.inc"
-};
-
-constexpr const char kIsExported[] = "is exported";
-
 } // namespace
 
 void Require(bool condition, const char* format, ...) {
@@ -40,19 +34,30 @@ void Require(bool condition, const char* format, ...) {
     throw Violation{text};
 }
 
-Subject::Subject(const Host& of, DrawingStruct* current) : host(of), drawing(current) {
+void RequireNoStub(bool condition, const char* function) {
+    if (condition) return;
+    if (LostByStub(function)) throw StubFound{function};
+    throw Violation{std::string(function) + " returned 0"};
+}
+
+Subject::Subject(const Host& of, DrawingStruct* current) : host(of), drawing_(current) {
     disposing = &of;
 }
 
+DrawingStruct* Subject::Drawing() const {
+    Require(drawing_, "there is no current drawing");
+    return drawing_;
+}
+
 TableStruct* Subject::Table(const char* name) const {
-    TableStruct* table = CALL(host, DrawingGetTable)(drawing, name);
+    TableStruct* table = CALL(host, DrawingGetTable)(Drawing(), name);
     Require(table, "the drawing has no table %s", name);
     return table;
 }
 
 Owned<GraphicStruct> Subject::NewGraphic(int type) const {
     Owned<GraphicStruct> graphic(CALL(host, GraphicNewEx)(type, 0, 1), DisposeGraphic);
-    Require(graphic != nullptr, "GraphicNewEx returned null for type 0x%02X", type);
+    RequireNoStub(graphic != nullptr, "GraphicNewEx");
     return graphic;
 }
 
@@ -62,23 +67,23 @@ Owned<VertexStruct> Subject::NewVertex(double x, double y, double z) const {
     return vertex;
 }
 
-Owned<GraphicStruct> Subject::NewSquare(double size) const {
-    Owned<GraphicStruct> square = NewGraphic(kGraphicVertices);
-    const double corners[][2] = {{0, 0}, {size, 0}, {size, size}, {0, size}, {0, 0}};
+Owned<GraphicStruct> Subject::NewRectangle(double width, double height) const {
+    Owned<GraphicStruct> rectangle = NewGraphic(kGraphicVertices);
+    const double corners[][2] = {{0, 0}, {width, 0}, {width, height}, {0, height}, {0, 0}};
     for (const auto& [x, y] : corners)
-        Require(CALL(host, GraphicVertexAdd)(square.get(), NewVertex(x, y, 0).get()), "GraphicVertexAdd returned 0");
-    CALL(host, GraphicAttach)(square.get(), drawing);
-    return square;
+        Require(CALL(host, GraphicVertexAdd)(rectangle.get(), NewVertex(x, y, 0).get()), "GraphicVertexAdd returned 0");
+    CALL(host, GraphicAttach)(rectangle.get(), Drawing());
+    return rectangle;
 }
 
 Owned<ViewportStruct> Subject::NewViewport() const {
     Owned<ViewportStruct> viewport(CALL(host, ViewportNewEx)(), DisposeViewport);
-    Require(viewport != nullptr, "ViewportNewEx returned null");
+    RequireNoStub(viewport != nullptr, "ViewportNewEx");
     return viewport;
 }
 
-Owned<MatrixStruct> Subject::Own(MatrixStruct* matrix) const {
-    Require(matrix, "returned null");
+Owned<MatrixStruct> Subject::Own(MatrixStruct* matrix, const char* function) const {
+    RequireNoStub(matrix, function);
     return {matrix, DisposeMatrix};
 }
 
@@ -115,13 +120,25 @@ std::vector<VertexStruct*> Subject::Vertices(GraphicStruct* graphic) const {
 const std::vector<Requirement>& AllRequirements() {
     static const std::vector<Requirement> all = [] {
         std::vector<Requirement> requirements;
-        for (const char* function : kFunctions)
-            requirements.push_back({function, kIsExported, nullptr});
-        for (const Topic& topic : {kApplicationRequirements, kTableRequirements, kUnitRequirements,
-                                   kGraphicRequirements, kPropertyRequirements, kVertexRequirements,
-                                   kMatrixRequirements, kBlockRequirements, kStyleRequirements, kViewRequirements})
+        for (const Topic& topic :
+             {kApplicationRequirements, kTableRequirements, kUnitRequirements, kGraphicRequirements,
+              kPropertyRequirements, kVertexRequirements, kMatrixRequirements, kBlockRequirements, kStyleRequirements,
+              kViewRequirements, kLeakRequirements})
             requirements.insert(requirements.end(), topic.rows, topic.rows + topic.count);
         return requirements;
     }();
     return all;
+}
+
+const std::vector<ContractFunction>& AllFunctions() {
+    static const std::vector<ContractFunction> all = {
+#include "functions.inc"
+    };
+    return all;
+}
+
+const char* LostByStub(const std::string& function) {
+    for (const ContractFunction& row : AllFunctions())
+        if (function == row.name) return row.lost;
+    return nullptr;
 }

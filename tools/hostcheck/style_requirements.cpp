@@ -1,5 +1,6 @@
 // Requirements of layers, line styles and brush styles.
 
+#include <algorithm>
 #include <cmath>
 
 #include "requirement.h"
@@ -10,27 +11,37 @@ constexpr uint16_t kNoEntry = 0xFFF0;
 constexpr int kMaxDashes = 8;
 
 void LayersHaveColors(const Subject& s) {
+    bool isStub = true;
     for (const uint16_t id : s.Entries(s.Table(kTableLayers))) {
-        const uint32_t color = CALL(s.host, LayerGetColor)(s.drawing, id);
-        Require(color <= 0xFFFFFF, "layer %u has the color 0x%X, which is not a COLORREF", id, color);
+        const uint32_t color = CALL(s.host, LayerGetColor)(s.Drawing(), id);
+        isStub = isStub && color == kColorNone;
+        Require(color <= 0xFFFFFF || isStub, "layer %u has the color 0x%X, which is not a COLORREF", id, color);
     }
-    const uint32_t none = CALL(s.host, LayerGetColor)(s.drawing, kNoEntry);
+    RequireNoStub(!isStub, "LayerGetColor");
+    const uint32_t none = CALL(s.host, LayerGetColor)(s.Drawing(), kNoEntry);
     Require(none == kColorNone, "returned 0x%X instead of kColorNone for a layer that does not exist", none);
 }
 
 void LayersHaveStates(const Subject& s) {
     bool visible = false;
     for (const uint16_t id : s.Entries(s.Table(kTableLayers))) {
-        visible = visible || CALL(s.host, LayerGetVisible)(s.drawing, id);
-        CALL(s.host, LayerGetReadOnly)(s.drawing, id);
+        visible = visible || CALL(s.host, LayerGetVisible)(s.Drawing(), id);
+        CALL(s.host, LayerGetReadOnly)(s.Drawing(), id);
     }
-    Require(visible, "no layer is visible");
-    Require(!CALL(s.host, LayerGetVisible)(s.drawing, kNoEntry), "a layer that does not exist is visible");
+    RequireNoStub(visible, "LayerGetVisible");
+    Require(!CALL(s.host, LayerGetVisible)(s.Drawing(), kNoEntry), "a layer that does not exist is visible");
 }
 
 void CopiesAllItems(const Subject& s) {
     TableStruct* styles = s.Table(kTableLineStyles);
-    for (const uint16_t id : s.Entries(styles)) {
+    const auto ids = s.Entries(styles);
+    RequireNoStub(std::any_of(ids.begin(), ids.end(),
+                              [&](uint16_t id) {
+                                  double pattern[kMaxDashes];
+                                  return CALL(s.host, LineStyleGetPattern)(styles, id, pattern) != 0;
+                              }),
+                  "LineStyleGetPattern");
+    for (const uint16_t id : ids) {
         const int items = CALL(s.host, LineStyleGetDLItems)(styles, id);
         Require(items >= 0 && items <= kMaxDashes, "line style %u has %d items; the maximum is 8", id, items);
         double pattern[kMaxDashes + 1];
@@ -59,6 +70,7 @@ void UnknownStylesHaveNoFlags(const Subject& s) {
 void HatchesHaveLines(const Subject& s) {
     TableStruct* styles = s.Table(kTableBrushStyles);
     constexpr uint16_t kHatch = kBrushVector | kBrushHasLines;
+    int hatches = 0, drawn = 0;
     for (const uint16_t id : s.Entries(styles)) {
         if ((CALL(s.host, BrushStyleGetFlags)(styles, id) & kHatch) != kHatch) continue;
         int cookie = 0, families = 0;
@@ -75,8 +87,12 @@ void HatchesHaveLines(const Subject& s) {
                     dashCount);
             Require(++families < 10000, "brush style %u: the iteration does not end", id);
         }
-        Require(families > 0, "brush style %u has the flag kBrushHasLines, but no lines", id);
+        ++hatches;
+        drawn += families > 0;
     }
+    RequireNoStub(hatches == 0 || drawn > 0, "BrushStyleGetFirstPattern");
+    Require(drawn == hatches, "%d of %d brush styles with the flag kBrushHasLines have no lines", hatches - drawn,
+            hatches);
 }
 
 constexpr Requirement kRows[] = {

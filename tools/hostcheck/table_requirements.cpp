@@ -20,32 +20,56 @@ std::string NameOf(const Subject& s, TableStruct* table, uint16_t id) {
     return name;
 }
 
+// Calls visit(table, name of the table) for all tables, and reports the violations of all of them.
+template <class Visit>
+void ForEachTable(const Subject& s, Visit visit) {
+    Violations violations;
+    for (const char* name : kTables)
+        violations.Collect([&] { visit(s.Table(name), name); });
+    violations.Report();
+}
+
 // Calls visit(table, name of the table, identifier) for all entries of all tables.
 template <class Visit>
 void ForEachEntry(const Subject& s, Visit visit) {
-    for (const char* name : kTables) {
-        TableStruct* table = s.Table(name);
+    ForEachTable(s, [&](TableStruct* table, const char* name) {
         for (const uint16_t id : s.Entries(table))
             visit(table, name, id);
-    }
+    });
 }
 
 void HasTheTables(const Subject& s) {
-    for (const char* name : kTables)
-        s.Table(name);
-    Require(!CALL(s.host, DrawingGetTable)(s.drawing, "no such table"), "returned a table for an unknown name");
-    for (const char* name : {kTableLayers, kTableLineStyles, kTableBrushStyles, kTableColors})
-        Require(!s.Entries(s.Table(name)).empty(), "%s is empty", name);
+    ForEachTable(s, [&](TableStruct* table, const char* name) {
+        const bool canBeEmpty = table == s.Table(kTableBlocks) || table == s.Table(kTableUnits);
+        Require(canBeEmpty || !s.Entries(table).empty(), "%s is empty", name);
+    });
+    Require(!CALL(s.host, DrawingGetTable)(s.Drawing(), "no such table"), "returned a table for an unknown name");
 }
 
 void ReturnsEachEntryOnce(const Subject& s) {
-    for (const char* name : kTables) {
-        const auto entries = s.Entries(s.Table(name));
+    ForEachTable(s, [&](TableStruct* table, const char* name) {
+        const auto entries = s.Entries(table);
         const std::set<uint16_t> different(entries.begin(), entries.end());
         Require(different.size() == entries.size(), "%s: returned %zu identifiers, of which %zu are different", name,
                 entries.size(), different.size());
-        Require(entries == s.Entries(s.Table(name)), "%s: a second iteration returned other entries", name);
+        Require(entries == s.Entries(table), "%s: a second iteration returned other entries", name);
+    });
+}
+
+void KeepsItsStateInTheCookie(const Subject& s) {
+    TableStruct* colors = s.Table(kTableColors);
+    const auto alone = s.Entries(colors);
+    std::vector<uint16_t> nested;
+    int cookies[2] = {0, 0x5A5A5A5A};
+    for (uint16_t id = CALL(s.host, TableEntryFirst)(colors, cookies); id != 0 && nested.size() <= alone.size();
+         id = CALL(s.host, TableEntryNext)(colors, cookies)) {
+        nested.push_back(id);
+        Require(s.Entries(colors) == alone, "an iteration within another one returned other entries");
+        s.Entries(s.Table(kTableLayers));
     }
+    Require(nested == alone, "returned %zu of %zu entries with other iterations between the calls", nested.size(),
+            alone.size());
+    Require(cookies[1] == 0x5A5A5A5A, "wrote more than an int to the cookie");
 }
 
 void IdentifiersAreBelowTheMarkers(const Subject& s) {
@@ -107,7 +131,7 @@ void ReturnsColors(const Subject& s) {
 
 void BelongsToTheDrawing(const Subject& s) {
     for (const char* name : kTables)
-        Require(CALL(s.host, TableGetOwner)(s.Table(name)) == s.drawing, "%s belongs to another drawing", name);
+        Require(CALL(s.host, TableGetOwner)(s.Table(name)) == s.Drawing(), "%s belongs to another drawing", name);
 }
 
 void TreatsNullAsEmpty(const Subject& s) {
@@ -130,7 +154,7 @@ void TreatsNullAsEmpty(const Subject& s) {
 void StoresIntegers(const Subject& s) {
     for (const long value : {0L, -1L, 0x7FFFFFFFL}) {
         long found = 5;
-        Require(CALL(s.host, TableSetIntVar)(s.Units(), kUnusedVariable, value), "TableSetIntVar returned 0");
+        RequireNoStub(CALL(s.host, TableSetIntVar)(s.Units(), kUnusedVariable, value), "TableSetIntVar");
         Require(CALL(s.host, TableGetIntVar)(s.Units(), kUnusedVariable, &found) && found == value,
                 "returned %ld after setting %ld", found, value);
     }
@@ -138,14 +162,14 @@ void StoresIntegers(const Subject& s) {
 
 void StoresDoubles(const Subject& s) {
     double found = 5;
-    Require(CALL(s.host, TableSetNumericVar)(s.Units(), kUnusedVariable, 0.1), "TableSetNumericVar returned 0");
-    Require(CALL(s.host, TableGetNumericVar)(s.Units(), kUnusedVariable, &found) && found == 0.1,
-            "returned %g after setting 0.1", found);
+    RequireNoStub(CALL(s.host, TableSetNumericVar)(s.Units(), kUnusedVariable, 0.1), "TableSetNumericVar");
+    RequireNoStub(CALL(s.host, TableGetNumericVar)(s.Units(), kUnusedVariable, &found), "TableGetNumericVar");
+    Require(found == 0.1, "returned %g after setting 0.1", found);
 }
 
 void StoresStrings(const Subject& s) {
     char own[] = "text", found[6] = "", cut[4] = {0, 0, 0, kUntouched};
-    Require(CALL(s.host, TableSetStringVar)(s.Units(), kUnusedVariable, own), "TableSetStringVar returned 0");
+    RequireNoStub(CALL(s.host, TableSetStringVar)(s.Units(), kUnusedVariable, own), "TableSetStringVar");
     own[0] = 'n'; // the database must have copied the text
     Require(CALL(s.host, TableGetStringVar)(s.Units(), kUnusedVariable, found, sizeof found) &&
                 std::strcmp(found, "text") == 0,
@@ -157,7 +181,7 @@ void StoresStrings(const Subject& s) {
 void DistinguishesTypes(const Subject& s) {
     long whole = 5;
     double real = 5;
-    CALL(s.host, TableSetStringVar)(s.Units(), kUnusedVariable, "12");
+    RequireNoStub(CALL(s.host, TableSetStringVar)(s.Units(), kUnusedVariable, "12"), "TableSetStringVar");
     Require(!CALL(s.host, TableGetIntVar)(s.Units(), kUnusedVariable, &whole) && whole == 5,
             "TableGetIntVar returned %ld for a string", whole);
     Require(!CALL(s.host, TableGetNumericVar)(s.Units(), kUnusedVariable, &real) && real == 5,
@@ -167,6 +191,7 @@ void DistinguishesTypes(const Subject& s) {
 constexpr Requirement kRows[] = {
     {"DrawingGetTable", "returns six tables; layers, styles and colors are not empty", HasTheTables},
     {"TableEntryNext", "returns each entry once, always in the same order", ReturnsEachEntryOnce},
+    {"TableEntryNext", "stores the position in the cookie only", KeepsItsStateInTheCookie},
     {"TableEntryFirst", "returns identifiers from 1 to 0xFFF0", IdentifiersAreBelowTheMarkers},
     {"TableEntryGetName", "copies a name for each entry", NamesEntries},
     {"TableEntryGetName", "truncates a name to the size of the buffer", TruncatesNames},

@@ -33,11 +33,14 @@ void RequireRoundTrip(std::initializer_list<double> values, Write write, Read re
 
 template <class Read>
 void RequireRejected(std::initializer_list<const char*> texts, Read read) {
-    for (const char* text : texts) {
-        double value = 77;
-        Require(!read(text, &value), "read \"%s\" as %g", text, value);
-        Require(value == 77, "rejected \"%s\", but set the value to %g", text, value);
-    }
+    Violations violations;
+    for (const char* text : texts)
+        violations.Collect([&] {
+            double value = 77;
+            Require(!read(text, &value), "read \"%s\" as %g", text, value);
+            Require(value == 77, "rejected \"%s\", but set the value to %g", text, value);
+        });
+    violations.Report();
 }
 
 void LengthsRoundTrip(const Subject& s) {
@@ -54,7 +57,7 @@ void LengthsRoundTrip(const Subject& s) {
 }
 
 void RejectsInvalidLengths(const Subject& s) {
-    RequireRejected({"", "abc", "1 2", "1 nosuchunit", "--1"}, [&](const char* text, double* value) {
+    RequireRejected({"", "abc", "1 2", "1 nosuchunit", "nan", "inf", "1e999"}, [&](const char* text, double* value) {
         return CALL(s.host, UnitsTextToNumericEx)(s.Units(), kUnitPenWidth, 0, text, value);
     });
 }
@@ -66,10 +69,9 @@ public:
     explicit Centimeters(const Subject& s) : subject_(s) {
         CALL(s.host, TableGetStringVar)(s.Units(), kUnitDrawing, previous_, sizeof previous_);
         CALL(s.host, TableSetStringVar)(s.Units(), kUnitDrawing, "cm");
-        if (CALL(s.host, UnitsGetLUnitValue)(s.Units(), kUnitDrawing, &millimeters)) return;
+        if (Measure()) return;
         Restore();
-        Require(CALL(s.host, UnitsGetLUnitValue)(s.Units(), kUnitDrawing, &millimeters),
-                "UnitsGetLUnitValue returned 0");
+        Require(Measure(), "cannot read \"1 mm\" as a length of the drawing");
     }
     ~Centimeters() { Restore(); }
     Centimeters(const Centimeters&) = delete;
@@ -78,6 +80,12 @@ public:
     double millimeters = 0; // in a drawing unit
 
 private:
+    bool Measure() {
+        double units = 0;
+        if (!CALL(subject_.host, UnitsTextToNumericEx)(subject_.Units(), kUnitDrawing, 0, "1 mm", &units)) return false;
+        millimeters = 1 / units;
+        return units > 0;
+    }
     void Restore() { CALL(subject_.host, TableSetStringVar)(subject_.Units(), kUnitDrawing, previous_); }
 
     const Subject& subject_;
@@ -112,8 +120,8 @@ void PaperIsInMillimeters(const Subject& s) {
 void UnitsHaveLengths(const Subject& s) {
     for (const uint16_t variable : kUnitVariables) {
         double millimeters = 0;
-        Require(CALL(s.host, UnitsGetLUnitValue)(s.Units(), variable, &millimeters) && millimeters > 0,
-                "the unit of variable 0x%X has %g mm", variable, millimeters);
+        RequireNoStub(CALL(s.host, UnitsGetLUnitValue)(s.Units(), variable, &millimeters), "UnitsGetLUnitValue");
+        Require(millimeters > 0, "the unit of variable 0x%X has %g mm", variable, millimeters);
         Require(variable != kUnitMillimeter || millimeters == 1, "a millimeter has %g mm", millimeters);
     }
     double value = 77;
@@ -121,24 +129,65 @@ void UnitsHaveLengths(const Subject& s) {
             "the unit of variable 1, which does not exist, has %g mm", value);
 }
 
+bool EndsWith(const std::string& text, const char* end) {
+    const size_t length = std::strlen(end);
+    return text.size() >= length && text.compare(text.size() - length, length, end) == 0;
+}
+
+void NamesTheUnit(const Subject& s) {
+    for (const int suffix : {0, 1}) {
+        char text[64] = "";
+        Require(CALL(s.host, UnitsNumericToTextEx)(s.Units(), kUnitMillimeter, kUnitMillimeter, 2.5, text, sizeof text,
+                                                   0, suffix),
+                "did not write 2.5 mm");
+        Require(EndsWith(text, "mm") == (suffix == 1), "wrote \"%s\" with suffix %d", text, suffix);
+    }
+}
+
+// A number without a unit, in the drawing's space: drawing units or, for text sizes on paper, their unit.
+void NumbersAreInDrawingUnits(const Subject& s) {
+    const auto space = CALL(s.host, DrawingGetCoordSpace)(s.Drawing());
+    for (const int kind : {0, 1}) {
+        if (space != kSpaceWorld && kind == 1) continue;
+        double found = 0;
+        Require(CALL(s.host, DrawingStdTextToNumeric)(s.Drawing(), "3", &found, kind) && IsNear(found, 3),
+                "read \"3\" as %g with kind %d", found, kind);
+        char text[64] = "";
+        CALL(s.host, DrawingStdNumericToText)(s.Drawing(), 3, text, sizeof text, kind);
+        found = CALL(s.host, StringToDouble)(0, text, nullptr);
+        Require(IsNear(found, 3), "wrote 3 as \"%s\" with kind %d", text, kind);
+    }
+}
+
+void TextSizesOnPaperAreInMillimeters(const Subject& s) {
+    double found = 0;
+    Require(CALL(s.host, DrawingStdTextToNumericEx)(s.Drawing(), "3 mm", &found, kSpacePaper, kUnitTextSize) &&
+                IsNear(found, 3),
+            "read \"3 mm\" as %g", found);
+    char text[64] = "";
+    Require(CALL(s.host, DrawingStdNumericToTextEx)(s.Drawing(), 3, text, sizeof text, kSpacePaper, kUnitMillimeter) &&
+                IsNear(CALL(s.host, StringToDouble)(0, text, nullptr), 3),
+            "wrote 3 mm as \"%s\"", text);
+}
+
 void DrawingLengthsRoundTrip(const Subject& s) {
-    const auto space = CALL(s.host, DrawingGetCoordSpace)(s.drawing);
+    const auto space = CALL(s.host, DrawingGetCoordSpace)(s.Drawing());
     for (const int kind : {0, 1}) {
         if (kind == 1 && space == kSpaceDevice) continue; // text sizes cannot be converted
         RequireRoundTrip(
             {0, 0.25, 1, 12.5, 3000},
             [&](double value, char* text, int size) {
-                return CALL(s.host, DrawingStdNumericToText)(s.drawing, value, text, size, kind);
+                return CALL(s.host, DrawingStdNumericToText)(s.Drawing(), value, text, size, kind);
             },
             [&](const char* text, double* value) {
-                return CALL(s.host, DrawingStdTextToNumeric)(s.drawing, text, value, kind);
+                return CALL(s.host, DrawingStdTextToNumeric)(s.Drawing(), text, value, kind);
             });
     }
 }
 
 void RejectsInvalidDrawingLengths(const Subject& s) {
-    RequireRejected({"", "abc", "1 2"}, [&](const char* text, double* value) {
-        return CALL(s.host, DrawingStdTextToNumeric)(s.drawing, text, value, 0);
+    RequireRejected({"", "abc", "1 2", "nan", "inf", "1e999"}, [&](const char* text, double* value) {
+        return CALL(s.host, DrawingStdTextToNumeric)(s.Drawing(), text, value, 0);
     });
 }
 
@@ -151,25 +200,26 @@ void LengthsInSpacesRoundTrip(const Subject& s) {
         RequireRoundTrip(
             {0, 0.25, 1, 12.5, 3000},
             [&](double value, char* text, int size) {
-                return CALL(s.host, DrawingStdNumericToTextEx)(s.drawing, value, text, size, space, TextUnitIn(space));
+                return CALL(s.host, DrawingStdNumericToTextEx)(s.Drawing(), value, text, size, space,
+                                                               TextUnitIn(space));
             },
             [&](const char* text, double* value) {
-                return CALL(s.host, DrawingStdTextToNumericEx)(s.drawing, text, value, space, TextUnitIn(space));
+                return CALL(s.host, DrawingStdTextToNumericEx)(s.Drawing(), text, value, space, TextUnitIn(space));
             });
 }
 
 void DevicesHaveNoLengths(const Subject& s) {
     double value = 77;
     char text[8];
-    Require(!CALL(s.host, DrawingStdTextToNumericEx)(s.drawing, "1", &value, kSpaceDevice, kUnitTextSize) &&
+    Require(!CALL(s.host, DrawingStdTextToNumericEx)(s.Drawing(), "1", &value, kSpaceDevice, kUnitTextSize) &&
                 value == 77,
             "read \"1\" as %g in device space", value);
-    Require(!CALL(s.host, DrawingStdNumericToTextEx)(s.drawing, 1, text, sizeof text, kSpaceDevice, kUnitTextSize),
+    Require(!CALL(s.host, DrawingStdNumericToTextEx)(s.Drawing(), 1, text, sizeof text, kSpaceDevice, kUnitTextSize),
             "wrote 1 in device space");
 }
 
 void HasASpace(const Subject& s) {
-    const uint16_t space = CALL(s.host, DrawingGetCoordSpace)(s.drawing);
+    const uint16_t space = CALL(s.host, DrawingGetCoordSpace)(s.Drawing());
     Require(space <= kSpaceDevice, "returned %u", space);
 }
 
@@ -177,16 +227,16 @@ void AnglesRoundTrip(const Subject& s) {
     RequireRoundTrip(
         {0, 0.5, 1, 3},
         [&](double value, char* text, int size) {
-            return CALL(s.host, DrawingStdAngleToText)(s.drawing, value, text, size, 0);
+            return CALL(s.host, DrawingStdAngleToText)(s.Drawing(), value, text, size, 0);
         },
         [&](const char* text, double* value) {
-            return CALL(s.host, DrawingStdTextToAngle)(s.drawing, text, value, 0);
+            return CALL(s.host, DrawingStdTextToAngle)(s.Drawing(), text, value, 0);
         });
 }
 
 void RejectsInvalidAngles(const Subject& s) {
-    RequireRejected({"", "abc", "1 2"}, [&](const char* text, double* value) {
-        return CALL(s.host, DrawingStdTextToAngle)(s.drawing, text, value, 0);
+    RequireRejected({"", "abc", "1 2", "nan", "inf", "1e999"}, [&](const char* text, double* value) {
+        return CALL(s.host, DrawingStdTextToAngle)(s.Drawing(), text, value, 0);
     });
 }
 
@@ -197,15 +247,16 @@ void ReturnsTheAngularSystem(const Subject& s) {
     Require(system <= 4, "returned %u", system);
     double found = 0;
     if (const char* text = kRightAngles[system])
-        Require(CALL(s.host, DrawingStdTextToAngle)(s.drawing, text, &found, 0) && IsNear(found, kRightAngle),
+        Require(CALL(s.host, DrawingStdTextToAngle)(s.Drawing(), text, &found, 0) && IsNear(found, kRightAngle),
                 "in system %u, \"%s\" was read as %g instead of a right angle", system, text, found);
 }
 
 void ScalesRoundTrip(const Subject& s) {
     for (const double scale : {1.0, 48.0, 0.125, 2500.0}) {
         char text[64] = "";
-        Require(CALL(s.host, UnitsMakeScaleString)(s.Units(), scale, text, sizeof text), "did not write %g", scale);
+        RequireNoStub(CALL(s.host, UnitsMakeScaleString)(s.Units(), scale, text, sizeof text), "UnitsMakeScaleString");
         const double found = CALL(s.host, UnitsGetScaleValue)(s.Units(), text);
+        RequireNoStub(found != 0, "UnitsGetScaleValue");
         Require(IsNear(found, scale), "wrote %g as \"%s\", but read that text as %g", scale, text, found);
     }
 }
@@ -219,14 +270,14 @@ void RejectsInvalidScales(const Subject& s) {
 
 void SetsTheScale(const Subject& s) {
     char before[64] = "", after[64] = "";
-    Require(CALL(s.host, DrawingGetScaleString)(s.drawing, before, sizeof before), "DrawingGetScaleString returned 0");
-    Require(!CALL(s.host, DrawingSetScaleString)(s.drawing, "abc"), "accepted \"abc\"");
-    CALL(s.host, DrawingGetScaleString)(s.drawing, after, sizeof after);
+    RequireNoStub(CALL(s.host, DrawingGetScaleString)(s.Drawing(), before, sizeof before), "DrawingGetScaleString");
+    Require(!CALL(s.host, DrawingSetScaleString)(s.Drawing(), "abc"), "accepted \"abc\"");
+    CALL(s.host, DrawingGetScaleString)(s.Drawing(), after, sizeof after);
     Require(std::strcmp(before, after) == 0, "rejected \"abc\", but the scale is \"%s\" instead of \"%s\"", after,
             before);
-    Require(CALL(s.host, DrawingSetScaleString)(s.drawing, "1 : 48"), "rejected \"1 : 48\"");
-    CALL(s.host, DrawingGetScaleString)(s.drawing, after, sizeof after);
-    CALL(s.host, DrawingSetScaleString)(s.drawing, before);
+    RequireNoStub(CALL(s.host, DrawingSetScaleString)(s.Drawing(), "1 : 48"), "DrawingSetScaleString");
+    CALL(s.host, DrawingGetScaleString)(s.Drawing(), after, sizeof after);
+    CALL(s.host, DrawingSetScaleString)(s.Drawing(), before);
     Require(std::strcmp(after, "1 : 48") == 0, "returned \"%s\" after setting \"1 : 48\"", after);
 }
 
@@ -265,12 +316,9 @@ void ReadsTheNumberOnly(const Subject& s) {
     char* end = nullptr;
     const double found = CALL(s.host, StringToDouble)(0, text, &end);
     Require(found == 2 && end == text + 3, "read \"%s\" as %g, up to character %td", text, found, end - text);
-    for (const char* none : {"", "abc", "nan", "inf", "0x10", "1e999"}) {
+    for (const char* none : {"", "abc", "nan", "inf", "1e999"}) {
         const double value = CALL(s.host, StringToDouble)(0, none, &end);
-        const bool hexadecimal =
-            none[1] == 'x' && value == 0 && end == none + 1; // reading the leading 0 only is allowed
-        Require((value == 0 && end == none) || hexadecimal, "read \"%s\" as %g, up to character %td", none, value,
-                end - none);
+        Require(value == 0 && end == none, "read \"%s\" as %g, up to character %td", none, value, end - none);
     }
 }
 
@@ -283,12 +331,17 @@ constexpr Requirement kRows[] = {
     {"UnitsTextToNumericEx", "returns 0 if the text is not a length; the value is unchanged", RejectsInvalidLengths},
     {"UnitsTextToNumericEx", "has the variable of the number before that of the text", HasTheNumberFirst},
     {"UnitsNumericToTextEx", "has the variable of the text before that of the number", HasTheDisplayFirst},
+    {"UnitsNumericToTextEx", "writes the name of the unit if suffix is 1", NamesTheUnit},
     {"UnitsTextToNumericEx", "returns millimeters for a length on paper", PaperIsInMillimeters},
     {"UnitsGetLUnitValue", "stores the millimeters of the four units; 0 for another variable", UnitsHaveLengths},
     {"DrawingStdTextToNumeric", "reads what DrawingStdNumericToText writes: lengths and text sizes",
      DrawingLengthsRoundTrip},
     {"DrawingStdTextToNumeric", "returns 0 if the text is not a length; the value is unchanged",
      RejectsInvalidDrawingLengths},
+    {"DrawingStdTextToNumeric", "and DrawingStdNumericToText have drawing units without a unit, also for text sizes",
+     NumbersAreInDrawingUnits},
+    {"DrawingStdTextToNumericEx", "and DrawingStdNumericToTextEx convert text sizes on paper from and to millimeters",
+     TextSizesOnPaperAreInMillimeters},
     {"DrawingStdTextToNumericEx", "reads what DrawingStdNumericToTextEx writes, in world and paper space",
      LengthsInSpacesRoundTrip},
     {"DrawingStdTextToNumericEx", "and DrawingStdNumericToTextEx return 0 in device space", DevicesHaveNoLengths},

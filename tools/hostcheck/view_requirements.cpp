@@ -1,72 +1,25 @@
 // Requirements of extents, viewports and drawing.
 
 #include <cmath>
+#include <cstring>
 
-#include "requirement.h"
+#include "picture.h"
 
 namespace {
 
-constexpr int kWidth = 200, kHeight = 100;
-constexpr COLORREF kBackground = RGB(255, 255, 255), kForeground = RGB(0, 0, 0);
-constexpr RECT kRect = {10, 10, 190, 90};
+constexpr COLORREF kRed = RGB(255, 0, 0);
+constexpr uint16_t kSolidBrush = 1;
 
-// A white bitmap in memory.
-class Picture {
-public:
-    Picture() : dc(::CreateCompatibleDC(nullptr)) {
-        BITMAPINFO info = {};
-        info.bmiHeader = {sizeof info.bmiHeader, kWidth, -kHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-        void* bits = nullptr;
-        bitmap_ = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        previous_ = ::SelectObject(dc, bitmap_);
-        const RECT all = {0, 0, kWidth, kHeight};
-        ::FillRect(dc, &all, static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH)));
-    }
-    ~Picture() {
-        ::SelectObject(dc, previous_);
-        ::DeleteObject(bitmap_);
-        ::DeleteDC(dc);
-    }
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
+MatrixStruct Scaling(double factor) {
+    return {{{factor, 0, 0, 0}, {0, factor, 0, 0}, {0, 0, 1, 0}, {0, 0, 0, 1}}};
+}
 
-    // Returns the bounds of the pixels that are not white; right < left if there are none.
-    RECT Drawn() const {
-        RECT drawn = {kWidth, kHeight, 0, 0};
-        for (LONG y = 0; y < kHeight; ++y)
-            for (LONG x = 0; x < kWidth; ++x)
-                if (::GetPixel(dc, x, y) != kBackground)
-                    drawn = {std::min(drawn.left, x), std::min(drawn.top, y), std::max(drawn.right, x),
-                             std::max(drawn.bottom, y)};
-        return drawn;
-    }
-
-    const HDC dc;
-
-private:
-    HBITMAP bitmap_;
-    HGDIOBJ previous_;
-};
-
-// Draws a black square of ten units, fitted into the rectangle of the viewport.
-struct Scene {
-    explicit Scene(const Subject& s, const MatrixStruct* matrix = nullptr, int preview = 0)
-        : square(s.NewSquare(10)), viewport(s.NewViewport()) {
-        CALL(s.host, GraphicSetPenColor)(square.get(), kForeground);
-        CALL(s.host, GraphicSetPenStyle)(square.get(), s.Entries(s.Table(kTableLineStyles))[0]);
-        CALL(s.host, GraphicSetBrushStyle)(square.get(), kBrushStyleNone);
-        CALL(s.host, ViewportSetRect)(viewport.get(), &kRect);
-        CALL(s.host, ViewportSetExtents)
-        (viewport.get(), CALL(s.host, GraphicGetExtentsSel)(square.get(), 0), kFitWhole);
-        CALL(s.host, ViewportSetGDIStuff)(viewport.get(), nullptr, picture.dc, MM_TEXT, 1);
-        CALL(s.host, ViewportSetDrawing)(viewport.get(), s.drawing);
-        CALL(s.host, GraphicDrawEx2)(square.get(), matrix, viewport.get(), preview, 1);
-    }
-
-    Picture picture;
-    Owned<GraphicStruct> square;
-    Owned<ViewportStruct> viewport;
-};
+// Draws a black square of ten units, as large as the rectangle permits, and measures it.
+Measure DrawSquare(const Subject& s, const MatrixStruct* matrix = nullptr, int preview = 0) {
+    const auto square = s.NewSquare(10);
+    SetPlainAppearance(s, square.get());
+    return Scene(s).Draw(square.get(), matrix, preview).picture.Of();
+}
 
 void HasExtents(const Subject& s) {
     const auto square = s.NewSquare(10);
@@ -96,38 +49,150 @@ void EmptyExtentsAreZero(const Subject& s) {
 }
 
 void Draws(const Subject& s) {
-    for (const int preview : {0, 1}) {
-        const RECT drawn = Scene(s, nullptr, preview).picture.Drawn();
-        Require(drawn.right > drawn.left && drawn.bottom > drawn.top, "nothing is drawn with preview %d", preview);
-    }
+    for (const int preview : {0, 1})
+        Require(DrawSquare(s, nullptr, preview).count > 0, "nothing is drawn with preview %d", preview);
 }
 
 void FitsAndCenters(const Subject& s) {
-    const RECT drawn = Scene(s).picture.Drawn();
-    const double middle = (drawn.left + drawn.right) / 2.0, width = drawn.right - drawn.left,
-                 height = drawn.bottom - drawn.top;
+    const Measure drawn = DrawSquare(s);
+    const double middle = (drawn.bounds.left + drawn.bounds.right) / 2.0;
     Require(std::fabs(middle - 100) <= 2, "the drawing is centered at %g instead of 100", middle);
-    Require(std::fabs(width - height) <= 2, "a square is drawn as %g by %g pixels", width, height);
-    Require(height > 60 && height <= 82, "the square is %g pixels high in a rectangle of 80", height);
+    Require(std::abs(drawn.Width() - drawn.Height()) <= 2, "a square is drawn as %ld by %ld pixels", drawn.Width(),
+            drawn.Height());
+    Require(drawn.Height() > 60 && drawn.Height() <= 83, "the square is %ld pixels high in a rectangle of 80",
+            drawn.Height());
 }
 
 void StaysInItsRectangle(const Subject& s) {
-    const auto factors = s.NewVertex(100, 100, 1);
-    const auto larger = s.Own(CALL(s.host, MatrixScale)(nullptr, factors.get(), 0));
-    const RECT drawn = Scene(s, larger.get()).picture.Drawn();
-    const bool inside = drawn.left >= kRect.left - 1 && drawn.top >= kRect.top - 1 && drawn.right <= kRect.right &&
-                        drawn.bottom <= kRect.bottom;
-    Require(inside || drawn.right < drawn.left, "drew from %ld, %ld to %ld, %ld, outside the rectangle", drawn.left,
-            drawn.top, drawn.right, drawn.bottom);
+    const MatrixStruct larger = Scaling(100);
+    const Measure drawn = DrawSquare(s, &larger);
+    const RECT& in = drawn.bounds;
+    const RECT& limit = Scene::kRect;
+    Require(drawn.count == 0 || (in.left >= limit.left - 1 && in.top >= limit.top - 1 && in.right <= limit.right &&
+                                 in.bottom <= limit.bottom),
+            "drew from %ld, %ld to %ld, %ld, outside the rectangle", in.left, in.top, in.right, in.bottom);
 }
 
 void DrawsByTheMatrix(const Subject& s) {
-    const auto factors = s.NewVertex(0.5, 0.5, 1);
-    const auto half = s.Own(CALL(s.host, MatrixScale)(nullptr, factors.get(), 0));
-    const RECT drawn = Scene(s, half.get()).picture.Drawn(), whole = Scene(s).picture.Drawn();
-    const double ratio = static_cast<double>(drawn.right - drawn.left) / (whole.right - whole.left);
+    const MatrixStruct matrix = Scaling(0.5);
+    const Measure half = DrawSquare(s, &matrix), whole = DrawSquare(s);
+    const double ratio = static_cast<double>(half.Width()) / whole.Width();
     Require(std::fabs(ratio - 0.5) < 0.1, "scaled by 0.5, the drawing is %g times as wide", ratio);
-    Require(drawn.bottom >= whole.bottom - 2, "drawn upside down; y grows upward");
+    Require(half.bounds.bottom >= whole.bounds.bottom - 2, "drawn upside down; y grows upward");
+}
+
+void DrawsMembers(const Subject& s) {
+    const auto set = s.NewGraphic(kGraphicVertices);
+    for (const double size : {2, 10}) {
+        auto square = s.NewSquare(size);
+        SetPlainAppearance(s, square.get());
+        CALL(s.host, GraphicAdd)(set.get(), square.release());
+    }
+    CALL(s.host, GraphicAttach)(set.get(), s.Drawing());
+    Scene scene(s);
+    scene.Draw(set.get());
+    const int inner = scene.picture.Of(Ink::Black, Scene::Area(1, 1, 3, 3)).count;
+    const int outer = scene.picture.Of(Ink::Black, Scene::Area(9, 9, 10.5, 10.5)).count;
+    Require(inner > 0 && outer > 0, "of two members, %s is drawn", inner > 0 || outer > 0 ? "only one" : "none");
+}
+
+void DrawsSegmentsWithTheirFlag(const Subject& s) {
+    const auto square = s.NewSquare(10);
+    SetPlainAppearance(s, square.get());
+    s.Vertices(square.get())[2]->wFlags &= static_cast<uint16_t>(~kVertexDrawn); // the right side
+    Scene scene(s);
+    scene.Draw(square.get());
+    const int right = scene.picture.Of(Ink::Black, Scene::Area(9, 2, 11, 8)).count;
+    const int left = scene.picture.Of(Ink::Black, Scene::Area(-1, 2, 1, 8)).count;
+    Require(left > 0, "a segment with the flag kVertexDrawn is not drawn");
+    Require(right == 0, "a segment without the flag kVertexDrawn is drawn");
+}
+
+// The outline is black, so that a filling in its color is noticed.
+Measure DrawFilling(const Subject& s, uint16_t style, double scale, Ink ink) {
+    const auto square = s.NewSquare(10);
+    SetPlainAppearance(s, square.get());
+    CALL(s.host, GraphicSetBrushStyle)(square.get(), style);
+    CALL(s.host, GraphicSetBrushColor)(square.get(), kRed);
+    CALL(s.host, GraphicSetBrushScale)(square.get(), scale);
+    return Scene(s).Draw(square.get()).picture.Of(ink, Scene::Area(1, 1, 9, 9));
+}
+
+void Fills(const Subject& s) {
+    constexpr int kInside = 64 * 64;
+    const int filled = DrawFilling(s, kSolidBrush, 1, Ink::Red).count;
+    Require(filled > kInside * 9 / 10, "%d of %d pixels inside a square with the solid brush have the brush color",
+            filled, kInside);
+    const int none = DrawFilling(s, kBrushStyleNone, 1, Ink::None).count;
+    Require(none == 0, "%d pixels inside a square without a brush are drawn", none);
+}
+
+// Returns the scale that draws the lines one unit apart.
+double ScaleOf(const Subject& s, TableStruct* styles, uint16_t id) {
+    int cookie = 0, dashCount;
+    double angle, x, y, along, spacing = 1, dashes[8];
+    if (const auto* lines = CALL(s.host, BrushStyleGetFirstPattern)(styles, id, &cookie))
+        CALL(s.host, BrushPatternGetData)(lines, &angle, &x, &y, &along, &spacing, &dashCount, dashes);
+    return 1 / std::fabs(spacing);
+}
+
+void DrawsHatches(const Subject& s) {
+    TableStruct* styles = s.Table(kTableBrushStyles);
+    constexpr uint16_t kHatch = kBrushVector | kBrushHasLines;
+    for (const uint16_t id : s.Entries(styles)) {
+        if ((CALL(s.host, BrushStyleGetFlags)(styles, id) & kHatch) != kHatch) continue;
+        const double scale = ScaleOf(s, styles, id);
+        Require(DrawFilling(s, id, scale, Ink::Red).count > 0, "brush style %u draws nothing in the brush color", id);
+        const int other = DrawFilling(s, id, scale, Ink::Black).count;
+        Require(other == 0, "brush style %u draws %d pixels in the pen color", id, other);
+    }
+}
+
+// A red text with capital letters that are three units high, at 1, 2 or, turned by 90 degrees, at 5, 1.
+Measure DrawText(const Subject& s, bool isTurned) {
+    const auto text = s.NewGraphic(kGraphicText);
+    CALL(s.host, GraphicAttach)(text.get(), s.Drawing());
+    const auto at = isTurned ? s.NewVertex(5, 1, 0) : s.NewVertex(1, 2, 0);
+    char own[] = "HHH";
+    const double angle = isTurned ? 1.5707963267948966 : 0;
+    RequireNoStub(CALL(s.host, TextSetVWHAEx)(text.get(), at.get(), 0, 3, angle, own), "TextSetVWHAEx");
+    std::memset(own, ' ', 3); // the database must have copied the text
+    CALL(s.host, GraphicSetPenColor)(text.get(), kRed);
+    CALL(s.host, TextExternalJustify)(text.get(), 0);
+    return Scene(s).Draw(text.get()).picture.Of(Ink::Red);
+}
+
+void DrawsTexts(const Subject& s) {
+    const Measure text = DrawText(s, false);
+    Require(text.count > 20, "%d pixels of a text have the pen color", text.count);
+    const RECT expected = Scene::Area(1, 2, 9, 5);
+    Require(std::abs(text.bounds.left - expected.left) <= Scene::kUnit &&
+                std::abs(text.bounds.bottom - expected.bottom) <= Scene::kUnit,
+            "the text begins at %ld, %ld instead of %ld, %ld", text.bounds.left, text.bounds.bottom, expected.left,
+            expected.bottom);
+    constexpr LONG kHeight = 3 * Scene::kUnit;
+    Require(text.Height() > kHeight * 2 / 3 && text.Height() < kHeight * 4 / 3,
+            "capital letters of %ld pixels are %ld pixels high", kHeight, text.Height());
+}
+
+void TurnsTexts(const Subject& s) {
+    const Measure text = DrawText(s, true);
+    Require(text.count > 20 && text.Height() > text.Width(), "a text with an angle of 90 degrees is %ld by %ld pixels",
+            text.Width(), text.Height());
+}
+
+// The width of a pen on paper, drawn at the full size of the paper whatever the extents are.
+void DrawsPensAtTheirWidth(const Subject& s) {
+    const auto square = s.NewSquare(10);
+    SetPlainAppearance(s, square.get());
+    CALL(s.host, GraphicSetScaleSystem)(square.get(), kScalePaper);
+    CALL(s.host, GraphicSetPenWidth)(square.get(), 0.1); // inches
+    Scene scene(s);
+    scene.Draw(square.get(), nullptr, 1);
+    const double expected = 0.1 * ::GetDeviceCaps(scene.picture.dc, LOGPIXELSX) / 2; // on the inner side
+    const LONG width = scene.picture.Of(Ink::Black, Scene::Area(0, 4, 5, 6)).Width();
+    Require(width > expected / 2 && width < expected * 2 + 2,
+            "a pen of 0.1 inch is %ld instead of %g pixels wide on the inner side of an outline", width, expected);
 }
 
 void RestoresTheDeviceContext(const Subject& s) {
@@ -152,7 +217,9 @@ void RestoresTheDeviceContext(const Subject& s) {
         return state;
     };
     const State before = stateOf(Picture().dc);
-    const Scene scene(s);
+    const auto square = s.NewSquare(10);
+    Scene scene(s);
+    scene.Draw(square.get());
     const State after = stateOf(scene.picture.dc);
     Require(before.pen == after.pen && before.brush == after.brush && before.font == after.font,
             "a pen, brush or font is still selected");
@@ -163,7 +230,7 @@ void RestoresTheDeviceContext(const Subject& s) {
             "the mapping was not restored");
     RECT clip;
     ::GetClipBox(scene.picture.dc, &clip);
-    Require(clip.right - clip.left == kWidth, "the clipping region was not restored");
+    Require(clip.right - clip.left == Picture::kWidth, "the clipping region was not restored");
 }
 
 void ClearsThePointer(const Subject& s) {
@@ -181,6 +248,13 @@ constexpr Requirement kRows[] = {
     {"ViewportSetExtents", "fits into the rectangle, centered, with the aspect ratio kept", FitsAndCenters},
     {"ViewportSetRect", "limits drawing to the rectangle", StaysInItsRectangle},
     {"GraphicDrawEx2", "transforms by the matrix", DrawsByTheMatrix},
+    {"GraphicDrawEx2", "draws the members of a set", DrawsMembers},
+    {"GraphicDrawEx2", "draws only segments to vertices with the flag kVertexDrawn", DrawsSegmentsWithTheirFlag},
+    {"GraphicDrawEx2", "fills with the solid brush in the brush color, and without a brush not at all", Fills},
+    {"GraphicDrawEx2", "draws hatches in the brush color", DrawsHatches},
+    {"GraphicDrawEx2", "draws a text in the pen color, at its position and in its height", DrawsTexts},
+    {"GraphicDrawEx2", "draws a text in its angle", TurnsTexts},
+    {"GraphicDrawEx2", "draws the width of a pen on paper at full size with preview 1", DrawsPensAtTheirWidth},
     {"ViewportSetGDIStuff", "and drawing do not change the state of the device context", RestoresTheDeviceContext},
 };
 

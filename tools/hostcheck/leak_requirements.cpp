@@ -1,0 +1,125 @@
+// Requirements of memory and GDI objects: what the caller frees does not grow with the number of calls.
+
+#include "picture.h"
+
+namespace {
+
+constexpr int kCalls = 1000;
+constexpr int kMostBytes = 24; // for each call: a table can keep a pointer for each identifier that was in use
+
+// Returns the bytes of all blocks on all heaps of the process.
+size_t HeapBytes() {
+    size_t bytes = 0;
+    HANDLE heaps[256];
+    const DWORD count = std::min<DWORD>(::GetProcessHeaps(256, heaps), 256);
+    for (DWORD i = 0; i < count; ++i) {
+        PROCESS_HEAP_ENTRY entry = {};
+        while (::HeapWalk(heaps[i], &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+    }
+    return bytes;
+}
+
+// Some systems count no objects, but accept the low word of a handle.
+int GdiObjects() {
+    if (const DWORD counted = ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS)) return static_cast<int>(counted);
+    int count = 0;
+    for (uintptr_t word = 1; word <= UINT16_MAX; ++word)
+        count += ::GetObjectType(reinterpret_cast<HGDIOBJ>(word)) != 0;
+    return count;
+}
+
+// Throws Violation if 1,000 calls leave memory or GDI objects behind. Some calls before that fill caches.
+template <class Action>
+void RequireNothingLeft(Action action) {
+    for (int i = 0; i < 20; ++i)
+        action();
+    const size_t bytes = HeapBytes();
+    const int objects = GdiObjects();
+    for (int i = 0; i < kCalls; ++i)
+        action();
+    const int leftObjects = GdiObjects() - objects;
+    const auto leftBytes = static_cast<ptrdiff_t>(HeapBytes() - bytes);
+    Require(leftObjects < kCalls / 2, "%d calls leave %d GDI objects behind", kCalls, leftObjects);
+    Require(leftBytes < kCalls * kMostBytes, "%d calls leave %td bytes behind", kCalls, leftBytes);
+}
+
+void FreesStrings(const Subject& s) {
+    const auto graphic = s.NewSquare(1);
+    const char* name = kPropInfo;
+    const PropertyTable* table = CALL(s.host, GraphicGetVtbl)(graphic.get());
+    int32_t number = 0;
+    if (!table->PropLookup(graphic.get(), &name, 1, 0, &number)) return;
+    Require(table->PropSet(graphic.get(), number, VT_BSTR, "a text that is long enough to need a block"),
+            "PropSet rejects a text");
+    RequireNothingLeft([&] {
+        char* text = nullptr;
+        table->PropGet(graphic.get(), number, VT_BSTR, &text);
+        table->PropGet(graphic.get(), number, VT_BSTR, &text); // replaces the first string
+        CALL(s.host, BStringNULL)(&text);
+    });
+}
+
+void FreesGraphics(const Subject& s) {
+    RequireNothingLeft([&] {
+        const auto group = s.NewSquare(1);
+        CALL(s.host, GraphicAdd)(group.get(), s.NewSquare(1).release());
+    });
+}
+
+void FreesCopies(const Subject& s) {
+    const auto square = s.NewSquare(1);
+    RequireNothingLeft([&] {
+        const Owned<GraphicStruct> copy(CALL(s.host, GraphicCopyEx)(square.get(), 0, 0, 7), square.get_deleter());
+        RequireNoStub(copy != nullptr, "GraphicCopyEx");
+    });
+}
+
+void FreesBlocks(const Subject& s) {
+    TableStruct* blocks = CALL(s.host, BlocksFromDrawing)(s.Drawing());
+    RequireNoStub(blocks, "BlocksFromDrawing");
+    RequireNothingLeft([&] {
+        auto square = s.NewSquare(1);
+        const uint16_t id = CALL(s.host, BlocksAddBlock)(blocks, "$HOSTCHECK", square.get());
+        RequireNoStub(id != 0, "BlocksAddBlock");
+        square.release();
+        CALL(s.host, BlockDispose)(blocks, id);
+    });
+}
+
+void FreesTemporaries(const Subject& s) {
+    RequireNothingLeft([&] { s.NewVertex(1, 2, 3); });
+}
+
+void FreesMatrices(const Subject& s) {
+    const auto by = s.NewVertex(1, 2, 3);
+    RequireNothingLeft([&] { s.Own(CALL(s.host, MatrixOffset)(nullptr, by.get()), "MatrixOffset"); });
+}
+
+void FreesViewports(const Subject& s) {
+    RequireNothingLeft([&] { s.NewViewport(); });
+}
+
+void FreesWhatItDrawsWith(const Subject& s) {
+    const auto square = s.NewSquare(10), text = s.NewGraphic(kGraphicText);
+    CALL(s.host, GraphicSetBrushStyle)(square.get(), 1);
+    CALL(s.host, GraphicAttach)(text.get(), s.Drawing());
+    CALL(s.host, TextSetVWHAEx)(text.get(), s.NewVertex(1, 1, 0).get(), 0, 3, 0, "text");
+    Scene scene(s);
+    RequireNothingLeft([&] { scene.Draw(square.get()).Draw(text.get()); });
+}
+
+constexpr Requirement kRows[] = {
+    {"GraphicGetVtbl", "PropGet and BStringNULL leave no strings behind after 1,000 calls", FreesStrings},
+    {"GraphicDispose", "leaves no members and vertices behind after 1,000 calls", FreesGraphics},
+    {"GraphicCopyEx", "returns copies that GraphicDispose frees completely, after 1,000 calls", FreesCopies},
+    {"BlockDispose", "leaves no contents behind after 1,000 calls", FreesBlocks},
+    {"VertexDispose", "leaves no memory behind after 1,000 calls", FreesTemporaries},
+    {"MatrixDispose", "leaves no memory behind after 1,000 calls", FreesMatrices},
+    {"ViewportDispose", "leaves no memory behind after 1,000 calls", FreesViewports},
+    {"GraphicDrawEx2", "leaves no memory and GDI objects behind after 1,000 calls", FreesWhatItDrawsWith},
+};
+
+} // namespace
+
+const Topic kLeakRequirements = TopicOf(kRows);
