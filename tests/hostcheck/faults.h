@@ -14,7 +14,9 @@ constexpr const char* kVariants[] = {
     "hexadecimal numbers",
     "flags of the host in vertices",
     "insertion without vertices",
+    "no styles and colors",
 };
+constexpr char kNoStyles[] = "no styles and colors";
 
 struct Fault {
     const char* name;

@@ -301,7 +301,10 @@ uint16_t PaletteSize(const void* dib) {
 
 TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* name) {
     if (Is("no colors") && std::strcmp(name, kTableColors) == 0) return nullptr;
-    return Original_DrawingGetTable(drawing, name);
+    TableStruct* table = Original_DrawingGetTable(drawing, name);
+    for (const char* style : {kTableLineStyles, kTableBrushStyles, kTableColors})
+        if (Is(kNoStyles) && table && std::strcmp(name, style) == 0) table->entries.clear();
+    return table;
 }
 
 static int onePlace; // of all iterations over entries

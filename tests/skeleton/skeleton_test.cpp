@@ -150,10 +150,15 @@ TEST_F(Skeleton, DrawsThePreviewInTheSelectedColor) {
     });
 }
 
-class SkeletonWithStubs : public Skeleton {
+class Variant : public Skeleton {
 protected:
-    SkeletonWithStubs() : Skeleton((::_putenv_s(kFaultVariable, kStubs), "faulty\\drawcore32.dll")) {}
-    ~SkeletonWithStubs() override { ::_putenv_s(kFaultVariable, ""); }
+    explicit Variant(const char* name) : Skeleton((::_putenv_s(kFaultVariable, name), "faulty\\drawcore32.dll")) {}
+    ~Variant() override { ::_putenv_s(kFaultVariable, ""); }
+};
+
+class SkeletonWithStubs : public Variant {
+protected:
+    SkeletonWithStubs() : Variant(kStubs) {}
 };
 
 TEST_F(SkeletonWithStubs, LosesOnlyPictures) {
@@ -170,6 +175,25 @@ TEST_F(SkeletonWithStubs, LosesOnlyPictures) {
     EXPECT_NE(Property<uint32_t>(Member(0), kPropBrushStyle, VT_UI4), 0u);
     int cookie;
     EXPECT_DOUBLE_EQ(CALL(host, GraphicVertexFirst)(Member(2), &cookie, 0, 0xFFFF)->x, 30);
+}
+
+class SkeletonWithoutStyles : public Variant {
+protected:
+    SkeletonWithoutStyles() : Variant(kNoStyles) {}
+};
+
+TEST_F(SkeletonWithoutStyles, HasListsOfMarkersOnly) {
+    EXPECT_EQ(Run([](SheetDriver& user) {
+                  user.SelectPage(kPen);
+                  EXPECT_GE(user.Selection(IDC_LINE_STYLE_LIST), 0) << "by layer";
+                  user.Type(IDC_PEN_WIDTH, "0.5");
+                  user.SelectPage(kBrush);
+                  EXPECT_EQ(user.Selection(IDC_BRUSH_STYLE_LIST), 0) << "no brush";
+                  user.Ok();
+              }),
+              IDOK);
+    EXPECT_DOUBLE_EQ(0.5 * kInchesPerMillimeter, Property<double>(Member(0), kPropPenWidth, VT_R8));
+    EXPECT_EQ(Property<uint32_t>(Member(0), kPropPenStyle, VT_UI4), uint32_t{kLineStyleByLayer});
 }
 
 } // namespace

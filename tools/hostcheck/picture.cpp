@@ -80,6 +80,7 @@ RECT Scene::Area(double left, double bottom, double right, double top) {
 
 void SetPlainAppearance(const Subject& s, GraphicStruct* graphic) {
     CALL(s.host, GraphicSetPenColor)(graphic, RGB(0, 0, 0));
-    CALL(s.host, GraphicSetPenStyle)(graphic, s.Entries(s.Table(kTableLineStyles))[0]);
+    const auto styles = s.Entries(s.Table(kTableLineStyles));
+    if (!styles.empty()) CALL(s.host, GraphicSetPenStyle)(graphic, styles[0]);
     CALL(s.host, GraphicSetBrushStyle)(graphic, kBrushStyleNone);
 }

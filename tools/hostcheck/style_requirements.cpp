@@ -35,11 +35,11 @@ void LayersHaveStates(const Subject& s) {
 void CopiesAllItems(const Subject& s) {
     TableStruct* styles = s.Table(kTableLineStyles);
     const auto ids = s.Entries(styles);
-    RequireNoStub(std::any_of(ids.begin(), ids.end(),
-                              [&](uint16_t id) {
-                                  double pattern[kMaxDashes];
-                                  return CALL(s.host, LineStyleGetPattern)(styles, id, pattern) != 0;
-                              }),
+    RequireNoStub(ids.empty() || std::any_of(ids.begin(), ids.end(),
+                                             [&](uint16_t id) {
+                                                 double pattern[kMaxDashes];
+                                                 return CALL(s.host, LineStyleGetPattern)(styles, id, pattern) != 0;
+                                             }),
                   "LineStyleGetPattern");
     for (const uint16_t id : ids) {
         const int items = CALL(s.host, LineStyleGetDLItems)(styles, id);
