@@ -6,7 +6,7 @@
 
 // Returns the application of this process. It belongs to the host. Never null while a drawing is open.
 // Called: by pages, and when colors and previews are drawn.
-// Failure: null: lists of tables are empty, and previews have the background of windows.
+// Failure: null: lists of tables are empty, and previews are black.
 DRAWCORE_API AppStruct* AppGetCurrentApp(void);
 
 // Copies the path of the host's configuration file, at most size bytes including the NUL. Returns 0 if there is none.

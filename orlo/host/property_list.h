@@ -6,7 +6,7 @@
 
 #include "orlo/host/api.h"
 
-// Properties of graphics: names for PropertyTable::PropLookup. The host guide lists their value types.
+// Properties of graphics: names for PropertyTable::PropLookup. The database guide lists their value types.
 ORLO_CONSTANT char kPropLayer[] = "Layer"; // identifier of an entry of kTableLayers
 ORLO_CONSTANT char kPropInfo[] = "Info";   // attribute text
 // Entry of kTableBlocks: the style that the graphic is drawn in, 0 for none.
