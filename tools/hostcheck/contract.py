@@ -104,8 +104,8 @@ def shown(prototype):
 
 HEAD = """# Reference of the host's functions
 
-Generated from the headers in `orlo/host` by `tools/hostcheck/contract.py`; change the headers instead of this file. The
-[database guide](database-guide.md) explains how the functions work together.
+Generated from the headers in `orlo/host`; change these instead of this file. The [database guide](database-guide.md)
+explains how the functions work together.
 
 Each entry says when the library calls the function, whether it can be a stub, and what happens if it fails. Unless
 stated otherwise, lengths are in drawing units and angles in radians, a result of type `int` is non-zero on success, all
