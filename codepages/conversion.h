@@ -11,7 +11,7 @@ namespace codepages {
 constexpr uint16_t kUtf8 = 65001;
 constexpr uint16_t kWesternEuropean = 1252;
 
-// How to convert bytes that are not text in the code page.
+// The treatment of bytes that are not text in the code page.
 enum class Invalid { Refuse, Replace };
 
 // Returns nothing if the code page is unknown or, with Refuse, if the bytes are not text. Code pages 0 to 3 are the

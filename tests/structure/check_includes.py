@@ -134,7 +134,7 @@ def unreached(root, public):
     code = " ".join(re.sub(r"//.*", "", (root / name).read_text(encoding="utf-8")) for name in public)
     known = set(re.findall(r"\w+", code))
     for line in (root / "tests/exports/orlo.exports").read_text().splitlines():
-        symbol = re.sub(r"^(typeinfo|vtable) for |\[abi:cxx11\]|^orlo::|\(.*", "", line)
+        symbol = re.sub(r"^(typeinfo|vtable) for |\[abi:cxx11\]|^orlo::|[(<].*", "", line)
         symbol = re.sub(r"^orlo::", "", symbol).split("::")[0]
         if symbol not in known:
             yield symbol

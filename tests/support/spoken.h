@@ -1,12 +1,12 @@
-// What a screen reader says of windows: each field has a name, and no text contains the key of an item.
+// Reads windows as a screen reader does: each field has a name, and no text contains the key of an item.
 #pragma once
 
 #include <windows.h>
 
 #include <string>
 
-// Returns the name from the window's own accessibility object, else from the label before the window, which Windows uses
-// for fields but Wine does not, else from the system's object.
+// Returns the name from the window's own accessibility object, else from the label before the window, which Windows
+// uses for fields but Wine does not, else from the system's object.
 std::string SpokenName(HWND control);
 
 // Expects that names and values of the window and its items contain neither a tab character nor a hexadecimal key. For

@@ -135,8 +135,8 @@ public:
     RecordName NameOf(const EntityRef& entity) const;
 
     // Returns the names of all properties, in the order in which they are set: a width depends on its scale system.
-    // After those of the sheet: Tag, Text (as stored, with control and inline codes), BlockName, Position (in the world),
-    // Scale and Rotation (of insertions). Tag and BlockName cannot be set.
+    // After those of the sheet: Tag, Text (as stored, with control and inline codes), BlockName, Position (in the
+    // world), Scale and Rotation (of insertions). Tag and BlockName cannot be set.
     static std::vector<std::string> PropertyNames();
     // Returns the name as it is written; none if there is no such property.
     static std::optional<std::string> FindPropertyName(std::string_view name);
