@@ -88,8 +88,8 @@ struct ChangedSource {
     std::map<std::string, size_t> onlyExtended; // DrawingPatch::OnlyExtended
 };
 
-// One conversion of a drawing to the text of its file and back. If this finds graphics that cannot be saved and were
-// not known before, the result is useless and the next pass omits them.
+// One conversion of a drawing to the text of its file and back. If it finds further graphics that cannot be saved, its
+// result is discarded, and the next pass omits them.
 class SavePass {
 public:
     SavePass(const Drawing& drawing, OmittedObjects& omitted, const ProgressReport& report)
