@@ -4,8 +4,8 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Makes a drawing the current one; null for none. Returns 0 if there is no such drawing. When the current drawing is
-// freed, there is none.
+// Sets the current drawing; null for none. Returns 0 if there is no such drawing. Freeing the current drawing sets it
+// to none.
 DRAWCORE_API int AppSetCurrentDrawing(DrawingStruct*);
 // Sets the full path of the configuration file; the string is copied. Null or "" for none.
 DRAWCORE_API void AppSetINIFileName(const char* path);

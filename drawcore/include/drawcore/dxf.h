@@ -15,12 +15,12 @@ typedef struct DxfListener {
     void* context;
     // permille increases from 0 to 1000. Return 0 to cancel.
     int (*progress)(void* context, int permille);
-    // A warning that something was left out. line is 0 if it does not refer to a single line.
+    // Called for each omitted part. line is 0 if the warning does not refer to a single line.
     void (*warning)(void* context, int line, const char* text);
 } DxfListener;
 
-// Creates a drawing from the model space of the file. The caller frees it with DrawingDispose. It does not become the
-// current drawing. If the file cannot be opened completely, returns null and stores an error message (at most size
+// Creates a drawing from the model space of the file, without making it the current one. The caller frees it with
+// DrawingDispose. If the file cannot be opened completely, returns null and stores an error message (at most size
 // bytes, including the NUL); if the listener canceled, the message is "canceled". The listener may be null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
@@ -29,7 +29,7 @@ enum { kSaveFailed = 0, kSaveDone = 1, kSaveFileChanged = 2, kSaveCanceled = 3, 
 // Flags of DrawingSaveDxf.
 enum {
     kSaveOverChanged = 1, // overwrite the file even if another program has changed it since the drawing was opened
-    kSaveRest = 2         // leave out what the file cannot contain and save the rest
+    kSaveRest = 2         // omit what the file cannot contain and save the rest
 };
 
 // Saves the drawing to a file, which may be the one that it was opened from. The text of the original file is copied,
@@ -44,15 +44,16 @@ enum {
 //                     example: the drawing was not opened from a file, the version of the file has no such entity, the
 //                     disk is full, the file is open in another program
 //   kSaveDoneInPart   with kSaveRest only: saved except for the parts that were reported to the listener's `warning`,
-//                     with the entity's kind, handle and line if it has them. An entity that was left out is in the
-//                     file as before, a new one is not; the drawing still counts as modified
+//                     with the entity's kind, handle and line if it has them. The file still contains the previous
+//                     state of an omitted entity, and does not contain an omitted new one; the drawing still counts
+//                     as modified
 //
 // When the file has been written, `warning` is also called with line 0 for each property that is stored in extended
 // data, where other programs do not show it.
 //
-// Saved are properties of graphics, positions of insertions, moved vertices, added and removed graphics, layers and
-// blocks, the style trees of blocks, and the states, colors and line types of layers. Values that are the same as in
-// the file keep their form. The listener may be null.
+// The file then contains the properties of graphics, positions of insertions, moved vertices, added and removed
+// graphics, layers and blocks, the style trees of blocks, and the states, colors and line types of layers. Unchanged
+// values keep their form in the file. The listener may be null.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*, char* message,
                                 int size);
 

@@ -31,7 +31,7 @@ struct Block;
 struct Document;
 struct Entity;
 
-// The file cannot be read. what() names the line if there is one: "line 12: group code 'x' is not a number".
+// Thrown if a file cannot be read. what() names the line if there is one: "line 12: group code 'x' is not a number".
 class ReadError : public std::runtime_error {
 public:
     ReadError(uint32_t line, const std::string& text);
@@ -43,7 +43,7 @@ private:
     std::string text_;
 };
 
-// A value is not valid, or the file cannot contain it. what() is a text for users.
+// Thrown if a value is not valid or cannot be stored in the file. what() is a message for users.
 class SaveError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -65,7 +65,7 @@ struct RecordName {
     std::string Text() const; // "LINE 2F (line 1024)", "LINE 3A (line 512, block DOOR)"
 };
 
-// Something that was left out or repaired while the document was read.
+// A part of the document that was omitted or repaired when it was read.
 struct Warning {
     uint32_t line = 0; // of the file; 0: no particular line
     std::string text;
@@ -116,8 +116,8 @@ class PropertyTexts;
 
 class DocumentReader {
 public:
-    // Reads the bytes of a file. `progress` is called now and then with the share that is done, 0 to 1000. Throws
-    // ReadError, and whatever `progress` throws.
+    // Reads the bytes of a file. `progress` is called repeatedly with the completed share, 0 to 1000. Throws ReadError,
+    // and any exception of `progress`.
     explicit DocumentReader(std::string bytes, const std::function<void(int permille)>& progress = {});
     ~DocumentReader();
 
@@ -127,8 +127,8 @@ public:
     // Returns the entities that have properties, in the order of the file: of model space, with the attributes of its
     // insertions, then of the blocks.
     std::vector<EntityRef> Entities() const;
-    // The same for one block; "" is model space. Throws SaveError, with the names of all blocks, if there is no such
-    // block.
+    // Returns the same for one block; "" is model space. Throws SaveError, with the names of all blocks, if there is no
+    // such block.
     std::vector<EntityRef> EntitiesOf(const std::string& block) const;
     // Returns the same for paper space.
     std::vector<EntityRef> PaperEntities() const;
@@ -138,29 +138,30 @@ public:
     // After those of the sheet: Tag, Text (as stored, with control and inline codes), BlockName, Position (in the
     // world), Scale and Rotation (of insertions). Tag and BlockName cannot be set.
     static std::vector<std::string> PropertyNames();
-    // Returns the name as it is written; none if there is no such property.
+    // Returns the canonical spelling of the name, or nullopt if there is no such property.
     static std::optional<std::string> FindPropertyName(std::string_view name);
 
-    // The name is that of a property. Has returns whether the entity has it, Get its value.
+    // Has returns whether the entity has the property with that canonical name, Get its value.
     static bool Has(const EntityRef& entity, std::string_view name);
     std::string Get(const EntityRef& entity, std::string_view name) const;
-    // Returns the values of those of the properties that the entity has.
+    // Returns the values of the named properties that the entity has.
     std::vector<std::pair<std::string, std::string>> GetAll(const EntityRef& entity,
                                                             const std::vector<std::string>& names) const;
-    // Returns the text in the form that Get returns, if the entity could have it as a value; else as it is.
+    // Returns the text in the format of Get if it is a valid value for the entity, else unchanged.
     std::string Normalized(const EntityRef& entity, std::string_view name, const std::string& text) const;
-    // Returns the number that the text stands for as a value of the entity, none if it is not a number.
+    // Returns the number that the text represents as a value of the entity, or nullopt if it is not a number.
     std::optional<double> NumberOf(const EntityRef& entity, std::string_view name, const std::string& text) const;
-    // Returns the same with " (varies)" if other parts of a text have other values.
+    // Returns the value, followed by " (varies)" if parts of a text have other values.
     std::string GetWithVariety(const EntityRef& entity, std::string_view name) const;
-    // Returns whether all properties of the sheet are the same in two documents. Numbers may differ by rounding.
+    // Returns whether two entities of two documents have the same properties of the sheet. Numbers may differ by
+    // rounding.
     bool IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
-    // Returns the coordinates, lengths and texts of the entity as they are stored, for comparison: two entities of one
+    // Returns the coordinates, lengths and texts of the entity as stored, for comparison: two entities with the same
     // shape have equal ones.
     std::vector<std::string> ShapeOf(const EntityRef& entity) const;
-    // Returns left, bottom, right and top in its own space, none if it shows nothing.
+    // Returns left, bottom, right and top in its own space, or nullopt if nothing of it is visible.
     std::optional<std::array<double, 4>> BoxOf(const EntityRef& entity) const;
-    // Returns the insertion that an attribute belongs to, none for other entities.
+    // Returns the insertion that an attribute belongs to, or nullopt for other entities.
     static std::optional<EntityRef> InsertionOf(const EntityRef& entity);
 
 private:
@@ -178,13 +179,13 @@ private:
     const std::unique_ptr<EntityExtents> extents_;
 };
 
-// The requested values of a layer; absent ones stay as they are.
+// New values for a layer; missing ones are not changed.
 struct LayerValues {
     std::optional<bool> isOn, isFrozen, isLocked, isPlotted;
-    std::optional<std::string> color;      // in the forms of PenColor, but By Layer and By Block
+    std::optional<std::string> color;      // in the formats of PenColor, except By Layer and By Block
     std::optional<std::string> lineType;   // of the document, or Continuous
     std::optional<std::string> lineWeight; // "0.5 mm", or Default
-    std::optional<std::string> name;       // a new one
+    std::optional<std::string> name;       // the new name
 };
 
 // Changes a document: only the groups that contain a changed value differ afterwards. Values without a DXF group are
@@ -193,24 +194,24 @@ class DocumentWriter {
 public:
     using Values = std::vector<std::pair<std::string, std::string>>; // by the names of properties
 
-    // The values that Change sets. Throws SaveError if one is not valid, even if no entity has its property. The reader
-    // must outlive the writer.
+    // `values` are those that Change sets. Throws SaveError if one is not valid, even if no entity has the property.
+    // The reader must outlive the writer.
     DocumentWriter(const DocumentReader& reader, const Values& values);
     ~DocumentWriter();
 
-    // Sets the values that the entity has. Returns whether it was changed. At most once for each entity. Throws
-    // SaveError, with the name of the entity, if the file cannot contain a value.
+    // Sets the values of the properties that the entity has. Returns whether it was changed. Must be called at most
+    // once per entity. Throws SaveError, with the name of the entity, if the file cannot contain a value.
     bool Change(const EntityRef& entity);
-    // Sets these values instead of those of the constructor.
+    // Does the same with these values in place of those of the constructor.
     bool Change(const EntityRef& entity, const Values& values);
-    // Changes a layer of the document, or adds one that it lacks. Returns whether anything changed. Call it once per
-    // layer, and before changes of entities; a new name excludes those. Throws SaveError.
+    // Changes a layer of the document, or adds it if it does not exist. Returns whether anything changed. Call it once
+    // per layer, before changing entities; if a layer is renamed, no entity can be changed. Throws SaveError.
     bool ChangeLayer(const std::string& name, const LayerValues& wanted);
-    // Returns a text for users for each property that is now stored in extended data, where other programs do not show
-    // it.
+    // Returns a message for users for each property that is now stored in extended data, where other programs do not
+    // show it.
     std::vector<std::string> Notes() const;
-    // Returns the bytes of the changed file. They have been read again: throws SaveError if an entity differs from what
-    // was wanted. Nothing can be changed afterwards.
+    // Returns the bytes of the changed file, after verifying them by reading: throws SaveError if an entity does not
+    // have the requested values. Nothing can be changed afterwards.
     std::string Finish();
 
 private:

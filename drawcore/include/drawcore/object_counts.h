@@ -10,5 +10,5 @@ struct DrawCoreObjectCounts {
     long viewports;
 };
 
-// Stores the present counts of the process.
+// Stores the current counts of the process.
 DRAWCORE_API void DrawCoreGetObjectCounts(DrawCoreObjectCounts*);

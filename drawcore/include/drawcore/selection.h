@@ -2,7 +2,7 @@
 // iterate over its members in the order in which they were added, and GraphicDispose frees it without its members.
 //
 //   GraphicStruct* selection = SelectionNew();
-//   SelectionAdd(selection, picked);                       // picked remains the drawing's
+//   SelectionAdd(selection, picked);                       // picked is still owned by the drawing
 //   InitGraphicPropertySheet(..., drawing, selection, 0xFFFFFFFF);
 //
 // A graphic must be removed from all selections before it is freed.

@@ -8,8 +8,8 @@
 //
 // When the steps exceed their memory limit, the oldest ones are dropped; DrawingCountDroppedUndo returns their number.
 //
-// Recorded are properties, attributes and vertices of the graphics that belong to the drawing, but not previews and
-// samples.
+// Properties, attributes and vertices of the graphics that belong to the drawing are recorded; previews and samples are
+// not.
 #pragma once
 
 #include "orlo/host/api.h"

@@ -26,11 +26,11 @@ DRAWCORE_API void ViewportShowLineWeights(ViewportStruct*, int show);
 // ViewportSetExtents does. If none is visible, fits all of them.
 DRAWCORE_API void ViewportFitVisible(ViewportStruct*, GraphicStruct*);
 
-// Draws like GraphicDrawEx2 (preview 0) for about the given time. Returns 0 if there is more to draw. *place is 0 for
-// the first call and is passed unchanged to the next one. Until everything is drawn, the viewport and the clipping
+// Draws like GraphicDrawEx2 (preview 0) for about the given time. Returns 0 if there is more to draw. *position is 0
+// for the first call and is passed unchanged to the next one. Until everything is drawn, the viewport and the clipping
 // region must not be changed, and the viewport must not be used to draw anything else. Graphics that are removed or
 // changed meanwhile may be missing.
-DRAWCORE_API int GraphicDrawTimed(GraphicStruct* set, ViewportStruct*, uint32_t* place, int milliseconds);
+DRAWCORE_API int GraphicDrawTimed(GraphicStruct* set, ViewportStruct*, uint32_t* position, int milliseconds);
 
 // Zooms in (factor above 1) or out. The point under `fixed` stays where it is.
 DRAWCORE_API void ViewportZoom(ViewportStruct*, POINT fixed, double factor);

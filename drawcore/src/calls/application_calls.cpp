@@ -1,4 +1,4 @@
-// Functions of hosts and host programs for the application.
+// Functions of the host contract and of drawcore/include for the application.
 
 #include "orlo/host/application.h"
 

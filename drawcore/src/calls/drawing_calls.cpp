@@ -1,4 +1,4 @@
-// Functions of hosts and host programs for drawings and their tables.
+// Functions of the host contract and of drawcore/include for drawings and their tables.
 
 #include <new>
 

@@ -1,4 +1,4 @@
-// Functions of host programs for property values as text.
+// Functions of drawcore/include for property values as text.
 
 #include "drawcore/include/drawcore/property_text.h"
 #include "drawcore/src/database/drawing.h"

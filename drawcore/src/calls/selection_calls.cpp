@@ -1,4 +1,4 @@
-// Functions of host programs for selections.
+// Functions of drawcore/include for selections.
 
 #include <new>
 

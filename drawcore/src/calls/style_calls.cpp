@@ -1,4 +1,4 @@
-// Functions of hosts and host programs for line styles and brush styles.
+// Functions of the host contract and of drawcore/include for line styles and brush styles.
 
 #include <algorithm>
 #include <cmath>

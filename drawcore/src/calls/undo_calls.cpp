@@ -1,4 +1,4 @@
-// Functions of host programs for undo and redo.
+// Functions of drawcore/include for undo and redo.
 
 #include <functional>
 #include <type_traits>

@@ -1,4 +1,4 @@
-// Functions of hosts and host programs for viewports and extents: view, drawing, picking.
+// Functions of the host contract and of drawcore/include for viewports and extents: view, drawing, picking.
 
 #include <new>
 

@@ -193,16 +193,16 @@ std::optional<std::array<double, 4>> DocumentReader::BoxOf(const EntityRef& enti
 
 namespace {
 
-// Groups of coordinates, lengths, angles, counts and texts, without those of the appearance that are among their codes.
+// Returns whether a group with that code stores a coordinate, length, angle, count or text rather than the appearance.
 bool IsOfShape(int code) {
     constexpr int kLineTypeScale = 48, kColor = 62, kVisibility = 60, kPaperSpace = 67;
     const bool isNumber = (code >= 10 && code < 80) || (code >= 90 && code < 100) || (code >= 210 && code < 240);
     const bool isText = code >= 1 && code <= 3;
-    const bool isLook = code == kLineTypeScale || code == kColor || code == kVisibility || code == kPaperSpace;
-    return (isNumber || isText) && !isLook;
+    const bool isAppearance = code == kLineTypeScale || code == kColor || code == kVisibility || code == kPaperSpace;
+    return (isNumber || isText) && !isAppearance;
 }
 
-// Two programs write one number in many ways.
+// Normalizes numbers, which programs write in different ways.
 std::string Comparable(const Tag& tag) {
     const std::string_view text = tag.Trimmed();
     double number = 0;

@@ -20,7 +20,7 @@ struct DocumentWriter::Parts {
     explicit Parts(const DocumentReader& from)
         : reader(from), patch(reader.Text(), reader.document_->Tables()), known(*reader.document_) {}
 
-    // Throws SaveError unless the changed document has what was wanted.
+    // Throws SaveError unless the changed document has the requested values.
     void RequireRequestedValues(const DocumentReader& after) const;
     void RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
                          const DocumentReader& after) const;
@@ -37,7 +37,7 @@ struct DocumentWriter::Parts {
     };
     Ordered InOrder(const Values& values) const;
     bool Change(const EntityRef& ref, const Ordered& values);
-    // The appearance of the entity with other contents of its text.
+    // Returns the appearance of the entity with other contents of its text.
     Appearance AppearanceWith(const std::string& contents, const Entity& entity);
     std::string LineTypeNamed(const std::string& name) const;
     void Rename(LayerIndex index, const std::string& name);
@@ -52,7 +52,7 @@ struct DocumentWriter::Parts {
     std::map<uint32_t, Wanted> wanted; // by the offsets of entities
 };
 
-// Values in the order in which they are set. Throws SaveError if one is not valid for any entity.
+// Returns the values in the order in which they are set. Throws SaveError if one is not valid for any entity.
 DocumentWriter::Parts::Ordered DocumentWriter::Parts::InOrder(const Values& from) const {
     Ordered result;
     for (const std::string& name : PropertyTexts::Names())

@@ -1,4 +1,4 @@
-// One row for each name.
+// Gets and sets values of entities as text, one table row per name.
 #include "drawcore/src/document/entity_texts.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ std::vector<double> ReadNumbers(const std::string& text) {
     return numbers;
 }
 
-// The shortest text that is read back to the same number.
+// Returns the shortest text that is parsed back as the same number.
 std::string NumberText(double number) {
     char text[32];
     const auto [end, error] = std::to_chars(text, text + sizeof text, number);

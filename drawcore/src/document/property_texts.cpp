@@ -60,7 +60,7 @@ uint32_t ReadWord(const std::vector<PropertyWord>& words, const std::string& tex
     return *value;
 }
 
-// "255,0,0"
+// Parses "255,0,0".
 std::optional<uint32_t> ReadComponents(const std::string& text) {
     uint32_t rgb = 0;
     const char *at = text.data(), *const end = at + text.size();
@@ -75,7 +75,7 @@ std::optional<uint32_t> ReadComponents(const std::string& text) {
     return at == end ? std::optional<uint32_t>(rgb) : std::nullopt;
 }
 
-// As group 62 has it.
+// Parses a color number as stored in group 62.
 std::optional<uint32_t> ReadColorNumber(const std::string& text) {
     int number = 0;
     const char* const end = text.data() + text.size();
@@ -326,7 +326,7 @@ const PropertyForms* PropertyForms::Find(std::string_view name) {
 
 namespace {
 
-// Names of known lengths: it is called for every property of every entity.
+// Compares lengths first (string_view), because this is called for every property of every entity.
 const PropertyInfo& InfoOf(std::string_view name) {
     static const std::vector<std::string_view> kNames = [] {
         std::vector<std::string_view> names;

@@ -22,8 +22,8 @@ public:
     // Returns the names of the sheet's properties in the order in which they are set: a width depends on its scale
     // system.
     static std::vector<std::string> Names();
-    // Returns the name as it is written; none if there is no such property. The other functions take such names in any
-    // case.
+    // Returns the canonical spelling of the name, or nullopt if there is no such property. The other functions ignore
+    // the case of names.
     static std::optional<std::string> NameOf(std::string_view name);
     static bool Has(const Entity& entity, std::string_view name);
     // Returns the value as a number: a length in millimeters of paper or in drawing units, a factor or an angle; none

@@ -46,7 +46,7 @@ bool IsValid(const std::vector<Family>& lines) {
            });
 }
 
-// Patterns computed by other programs are equal if the difference is not visible.
+// Returns whether the difference is not visible, as in patterns that were computed by another program.
 bool Alike(double a, double b) {
     return std::fabs(a - b) <= 1e-6 * (1 + std::max(std::fabs(a), std::fabs(b)));
 }

@@ -25,7 +25,7 @@ TextAppearance TextAppearanceOf(const MText& text, const TextStyle& style, const
 bool IsPartlyMarked(const Text& text);
 // Returns the bits of the values that differ in other parts of the text.
 uint8_t VariedBits(const FormattedText& text, const InlineFormat& most);
-// In drawing units, also if the format has no height.
+// Returns the height in drawing units, even if the format has none.
 double HeightOf(const MText& text, const Document& document);
 
 } // namespace dxf

@@ -37,7 +37,7 @@ Color HueColor(int index) {
     return Rgb(part(0), part(4), part(2));
 }
 
-// By their numbers; a large drawing asks for each of its entities.
+// Returns all colors, indexed by number. Computed once, because a large drawing looks up a color per entity.
 std::array<Color, kColorNumbers + 1> AllColors() {
     std::array<Color, kColorNumbers + 1> colors = {kWhite};
     for (int index = 1; index <= kColorNumbers; ++index) {

@@ -15,7 +15,7 @@ drawcore::Extents ExtentsOf(const Document& drawing);
 // Boxes of single entities in their own space; those of blocks are calculated once.
 class EntityExtents {
 public:
-    // The drawing must exist as long.
+    // The drawing must outlive this object.
     explicit EntityExtents(const Document& drawing);
     ~EntityExtents();
 

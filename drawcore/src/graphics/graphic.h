@@ -118,7 +118,7 @@ protected:
 
     // Returns whether the extents stay valid until InvalidateExtents is called.
     virtual bool KeepsExtents() const { return true; }
-    // Called after one was removed and the following ones have moved up.
+    // Called after a member was removed and the indices of the following ones have changed.
     virtual void MembersMoved() {}
 
 private:

@@ -150,7 +150,7 @@ void TextGraphic::PlaceRows(const TextFace& face) const {
     }
 }
 
-// In the unit of the rows.
+// Returns the width of the text's box in the unit of the rows.
 double TextGraphic::BoxWidth() const {
     if (state.wrapWidth > 0) return state.wrapWidth / (state.height * state.widthFactor);
     double widest = 0;

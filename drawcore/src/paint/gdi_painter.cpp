@@ -163,7 +163,7 @@ void GdiPainter::AddPolyline(const Path& path, size_t line, const PenKey& key, b
     counts_.push_back(static_cast<DWORD>(points_.size() - before));
 }
 
-// A dot with the width of the pen.
+// Adds a dot with the width of the pen.
 void GdiPainter::AddDot(const Point& p, const PenKey& key) {
     const POINT center = ToDevice(p);
     const LONG half = key.width / 2;

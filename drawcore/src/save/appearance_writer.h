@@ -22,7 +22,8 @@ public:
     void MoveTo(const Vec3& position);
     void Place(const AxisEnds& ends);
     void PutContents(const std::string& text);
-    // The vertices are those of the graphic made from the entity, in order. What cannot be moved stays.
+    // `to` has the vertices of the graphic created from the entity, in order. Vertices that cannot be moved are left
+    // unchanged.
     void MoveVertices(const std::vector<Vec3>& to);
 
     Appearance Now() const { return AppearanceOf(drawing_.Known(), entity_); }

@@ -68,7 +68,7 @@ void AppearanceWriter::WriteAngle(double angle, double inGroups) {
     ExtendedNumbers(kPropBrushAngle, {angle, inGroups});
 }
 
-// As far as a hatch can have that brush.
+// Stores the parts of the brush that a hatch can represent.
 void AppearanceWriter::PutBrush(Hatch& hatch, const BrushAppearance& wanted) {
     const BrushAppearance inGroups = BrushOf(hatch);
     if (wanted.style == kSolidBrush && wanted.lines.empty()) {

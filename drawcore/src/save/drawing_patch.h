@@ -57,8 +57,8 @@ public:
     // entities.
     void ChangeLayer(LayerIndex index, const Layer& wanted);
 
-    // Gives the layer another name (UTF-8) in its record and wherever records name it. Without other changes of
-    // entities: both would replace the same groups.
+    // Renames the layer (UTF-8) in its record and in all records that refer to it. Cannot be combined with changes of
+    // entities, because both would replace the same groups.
     void RenameLayer(LayerIndex index, const std::string& name);
 
     // Adds a record for the layer if no table has one.

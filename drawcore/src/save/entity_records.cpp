@@ -35,7 +35,7 @@ void Put(Values& to, int code, const Vec3& point) {
     Put(to, code + 20, point.z);
 }
 
-// In pieces that every program can read: code 3, and code 1 for the last one.
+// Writes the text in pieces that every program can read: code 3, and code 1 for the last one.
 void PutParagraphs(Values& to, const std::string& text) {
     constexpr size_t kLongest = 240;
     size_t at = 0;

@@ -115,7 +115,7 @@ void RecordPatch::Remove(int code) {
     RemoveAll(code, false);
 }
 
-// After the last of the groups that precede it in the usual order.
+// Returns the offset after the last of the groups that precede it in the usual order.
 size_t RecordPatch::CommonPlace(int code) const {
     const auto order = [](int wanted) {
         return std::find(std::begin(kCommonOrder), std::end(kCommonOrder), wanted) - kCommonOrder;

@@ -109,7 +109,7 @@ private:
         return false;
     }
 
-    // Replaces edits made after those.
+    // Removes the record up to `end`, discarding all but the first `edits` edits.
     void RemoveRecord(size_t end, size_t place, size_t edits) {
         const size_t begin = (*groups_)[0].begin;
         of_.edits_.resize(edits);

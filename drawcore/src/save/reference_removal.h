@@ -16,7 +16,8 @@ class ReferenceRemoval {
 public:
     ReferenceRemoval(TextPatch& patch) : patch_(patch) {}
 
-    // Adds records that the caller removes, from begin to end. The offset `place` names them in blocking references.
+    // Adds records that the caller removes, from begin to end. The offset `place` identifies them in
+    // blocking references.
     void Add(size_t begin, size_t end, size_t place);
 
     // Removes all references, or none if one of them cannot be removed.

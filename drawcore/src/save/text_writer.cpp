@@ -241,7 +241,7 @@ void AppearanceWriter::PutText(const MText& now) {
     if (was.text != now.text) PutParagraphs(now.text);
 }
 
-// In pieces: code 3, and code 1 for the last one.
+// Writes the text in pieces: code 3, and code 1 for the last one.
 void AppearanceWriter::PutParagraphs(const std::string& text) {
     std::string stored;
     size_t place = record_.PlaceAfter({72, 71, 41, 40});
