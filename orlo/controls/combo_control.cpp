@@ -105,8 +105,8 @@ bool DropList::HasPointerMoved() const {
     return now.x != m_pointer.x || now.y != m_pointer.y;
 }
 
-// A list that the keyboard opens below the pointer gets WM_MOUSEMOVE although the mouse rests, and would select the
-// item under it.
+// A list that is opened by the keyboard under the pointer receives WM_MOUSEMOVE although the mouse does not move, and
+// would select the item under the pointer.
 LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_WINDOWPOSCHANGED && (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW))
         ::GetCursorPos(&m_pointer);

@@ -71,7 +71,7 @@ public:
     int m_nDropHeight = 0;           // height with the list open, in device pixels
     int m_bAutoDelete = 0;           // delete the object with its window
     TableStruct* m_pTable = nullptr; // owned by the host
-    unsigned int m_nSelected = 0;    // identifier that was last to be selected
+    unsigned int m_nSelected = 0;    // identifier last requested to be selected
     int m_bDialogCtrl = 0;
 
     static WNDPROC lpfnSuperWndProc; // the system combo box's window procedure

@@ -1,4 +1,4 @@
-// Gives the items of combo boxes and list boxes one interface, so that code for both is written once.
+// A common interface to the items of combo boxes and list boxes, so that code for both is written once.
 //
 //   ControlItems items = ControlItems::OfCombo(hWnd);
 //   items.Select(items.FindExact("ByLayer"));   // not found is -1, and selecting -1 clears the selection

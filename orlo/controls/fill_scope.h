@@ -27,5 +27,5 @@ private:
 };
 
 // Returns the height of a row of text in device pixels: GetOwnerDrawFixedTextHeight, or that of the control's own font
-// if it is larger. Measured once per scope, because a list with variable row heights asks for every added item.
+// if it is larger. Measured once per scope, because a list with variable row heights measures every added item.
 int RowTextHeight(HWND window);

@@ -35,7 +35,7 @@ public:
     unsigned long m_dwStyle = 0;     // window style at creation
     int m_bAutoDelete = 0;           // delete the object with its window
     TableStruct* m_pTable = nullptr; // owned by the host
-    unsigned int m_nSelected = 0;    // identifier that was last to be selected
+    unsigned int m_nSelected = 0;    // identifier last requested to be selected
 
     static WNDPROC lpfnSuperWndProc; // the system list box's window procedure
 

@@ -1,4 +1,4 @@
-// The tabbed dialog over the selected graphics of a drawing. Contains the data shared by its pages, owns the preview
+// The tabbed dialog for the selected graphics of a drawing. Contains the data shared by its pages, owns the preview
 // group and the preview window, and places buttons and preview in a column beside the page.
 //
 // Created by InitGraphicPropertySheet (orlo/entry/entry.h). The host runs and deletes the sheet and keeps ownership of

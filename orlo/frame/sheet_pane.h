@@ -1,8 +1,8 @@
-// A window that shows the sheet modeless, over whatever is selected at the time: a pane beside the drawing, or a window
-// of its own. It has the buttons Apply, Reset, Close and Help.
+// A window that shows a modeless sheet for the current selection: a pane beside the drawing, or a separate window. It
+// has the buttons Apply, Reset, Close and Help.
 //
 //   class CMyPane : public CSheetPane {
-//       CGraphicPropertySheet* NewSheet() override { ... }     // over the current selection
+//       CGraphicPropertySheet* NewSheet() override { ... }     // for the current selection
 //       void DeleteSheet() override { m_sheet.reset(); }
 //       ...
 //   };
@@ -10,7 +10,7 @@
 //   pane.Open();
 //   if (pane.Apply()) { ...; pane.Follow(); }                   // before and after another selection
 //
-// A page writes its values when the user leaves it, by Apply or for another page.
+// A page writes its values when it is left: by Apply, or when the user selects another page.
 #pragma once
 
 #include <afxwin.h>
@@ -42,32 +42,33 @@ public:
     // Hides the window and deletes the sheet. Typed values that were not applied are discarded.
     void Close();
 
-    // Replaces the sheet by one over what is selected now. Follow does so after the current message, Renew at once.
+    // Replace the sheet by one for the current selection: Follow after the current message, Renew immediately.
     void Follow();
     void Renew();
-    // Writes what was typed. Returns false if a page refuses it; the user has been told, and the field has the focus.
+    // Writes typed values. Returns false if a page rejects one; the user has then been informed, and the field has the
+    // focus.
     bool Apply();
     // Discards typed values and calls OnReset.
     void Reset();
 
     // Returns the width in pixels at which a pane of that height shows the whole sheet.
     int FittingWidth(int height) const;
-    // Scrolls to the control with the focus if it has just got it. To be called for the messages of the pane.
+    // Scrolls to the control with the focus if it has just received it. Must be called for each message of the pane.
     void RevealFocus();
     bool HasFocus() const { return ::IsChild(m_hWnd, ::GetFocus()) != FALSE; }
     // Sets the focus to the first field of the page.
     void TakeFocus();
 
 protected:
-    // Creates a sheet over what is selected, or over nothing, without a window. The derived class owns it until
-    // DeleteSheet is called. Returns null if nothing can be shown.
+    // Creates a sheet without a window for the current selection, which may be empty. The derived class owns it until
+    // DeleteSheet is called. Returns null if no sheet can be shown.
     virtual CGraphicPropertySheet* NewSheet() = 0;
     virtual void DeleteSheet() = 0;
-    // Returns whether the sheet is over any graphics; if not, a text is shown in its place.
+    // Returns whether the sheet has graphics; otherwise a text is shown in its place.
     virtual bool HasGraphics() const = 0;
     virtual void OnOpen();        // before the first sheet
     virtual void OnClose();       // before the sheet is deleted
-    virtual void OnApplied();     // after an Apply that was not refused
+    virtual void OnApplied();     // after a successful Apply
     virtual void OnReset();       // undo what was written since the last Apply
     virtual void OnCloseButton(); // here: Close
     virtual void OnEscape();      // here: Reset
@@ -96,10 +97,10 @@ private:
                                            DWORD_PTR pane);
 
     CGraphicPropertySheet* m_sheet = nullptr; // the derived class's
-    CWnd m_nothing;                           // says that nothing is selected
+    CWnd m_nothing;                           // the text shown if nothing is selected
     std::unique_ptr<ScrollArea> m_scroll;
     CSize m_sheetSize;
     bool m_isOpen = false;
     bool m_isStale = false;    // the sheet is to be replaced
-    HWND m_revealed = nullptr; // the control that RevealFocus has seen last
+    HWND m_revealed = nullptr; // the control that had the focus at the last RevealFocus
 };

@@ -20,7 +20,7 @@ public:
 
     // Returns the graphics that rejected a value.
     std::set<const GraphicStruct*>& Unchanged() { return m_unchanged; }
-    // Returns the graphics that accepted a value, or null if the sheet does not want to know them.
+    // Returns the graphics that accepted a value, or null if the sheet does not count them.
     std::set<const GraphicStruct*>* Changed() { return m_countsChanged ? &m_changed : nullptr; }
     // Returns the outcome of the page's current write-back, or null.
     static WriteOutcome* Of(CGraphicPropertyPage& page);

@@ -47,7 +47,7 @@ void StoreValue(int vt, void* place, const FieldValue& value) {
     }
 }
 
-// Reads a value as passed to PropSet.
+// Returns a value that is passed to PropSet.
 FieldValue ReadValue(int vt, const void* place) {
     switch (vt) {
     case VT_BSTR:

@@ -16,18 +16,18 @@
 
 // The kind of a row. The second column is the value type of the property, the third the member of FieldValue.
 enum class FieldKind : uint32_t {
-    Text = 1, // VT_BSTR  text    one line
-    Lines,    // VT_BSTR  text    several lines, separated by "\r\n"
-    Integer,  // VT_I4    number
-    Number,   // VT_R8    number  up to 10 significant digits are shown
-    Length,   // VT_R8    number  in drawing units; shown and read as the drawing writes lengths
-    Angle,    // VT_R8    number  in radians; shown and read as the drawing writes angles
-    Scale,    // VT_R8    number  a factor
-    Check,    // VT_BOOL  number  0 or 1
-    Choice,   // VT_I4    number  index in FieldRow::choices; radio buttons up to three choices, else a list
-    Date,     // VT_R8    number  days since 1899-12-30, as in VT_DATE; shown and read as the user's locale writes dates
-    Color,    // VT_UI4   number  a COLORREF or a marker such as kColorByLayer
-    Layer,    // VT_UI4   number  entry of kTableLayers
+    Text = 1,   // VT_BSTR  text    one line
+    Lines,      // VT_BSTR  text    several lines, separated by "\r\n"
+    Integer,    // VT_I4    number
+    Number,     // VT_R8    number  up to 10 significant digits are shown
+    Length,     // VT_R8    number  in drawing units; shown and parsed in the drawing's format of lengths
+    Angle,      // VT_R8    number  in radians; shown and parsed in the drawing's format of angles
+    Scale,      // VT_R8    number  a factor
+    Check,      // VT_BOOL  number  0 or 1
+    Choice,     // VT_I4    number  index in FieldRow::choices; radio buttons up to three choices, else a list
+    Date,       // VT_R8    number  days since 1899-12-30, as in VT_DATE; shown and parsed in the user's locale
+    Color,      // VT_UI4   number  a COLORREF or a marker such as kColorByLayer
+    Layer,      // VT_UI4   number  entry of kTableLayers
     LineStyle,  // VT_UI4   number  entry of kTableLineStyles or a marker such as kLineStyleByLayer
     BrushStyle, // VT_UI4   number  entry of kTableBrushStyles or kBrushStyleNone
     FontFace,   // VT_BSTR  text    name of a face
@@ -37,7 +37,7 @@ enum class FieldKind : uint32_t {
 };
 constexpr FieldKind kLastFieldKind = FieldKind::Note;
 
-// A value of a row. FieldKind defines which member counts.
+// A value of a row. The row's kind determines which member is used.
 struct FieldValue {
     double number = 0.0;
     std::string text; // in the code page of the system

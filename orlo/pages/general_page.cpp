@@ -123,7 +123,7 @@ TableStruct* CGeneralPage::StyleTable() const {
     return control != nullptr ? control->m_pTable : nullptr;
 }
 
-// Returns the name of the style whose graphic the sheet is open over, or an empty string.
+// Returns the name of the style that the sheet edits, or an empty string.
 CString CGeneralPage::CurrentStyleName() const {
     TableStruct* table = StyleTable();
     char name[kNameSize] = "";

@@ -1,4 +1,4 @@
-// The General page, first in every sheet: layer and attribute text of the selected graphics and, over the graphic of a
+// The General page, first in every sheet: layer and attribute text of the selected graphics and, in a sheet for a
 // style, the style's name with New and Delete.
 //
 // The style part changes no properties: selecting, creating or deleting a style ends the sheet with a code

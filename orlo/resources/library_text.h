@@ -1,12 +1,13 @@
-// The library's module, and the texts of its resources, which are preferred to texts of the host with the same number.
+// The library's module, and the strings of its resources, which are used even if the host has strings with the same
+// numbers.
 #pragma once
 
 #include <afx.h>
 
 HINSTANCE LibraryModule();
 
-// Copies a text, at most nSize bytes with the NUL. If the library does not have the number, the modules of the
-// framework are searched. Returns the length, or 0 and an empty text if it was not found.
+// Copies a string, at most nSize bytes including the NUL. If the library has no string with that number, the modules of
+// the framework are searched. Returns the length, or 0 and an empty string if it is not found.
 int LoadLibraryText(UINT nID, char* pszBuffer, int nSize);
-// Returns an empty text if it was not found.
+// Returns an empty string if it is not found.
 CString LibraryText(UINT nID);

@@ -24,7 +24,7 @@
 #define IDS_BITMAP_BRUSH 109
 #define IDS_VECTOR_BRUSH 110
 
-// Buttons of the wizard: text, line feed, width in dialog units. The last is only a text.
+// Buttons of the wizard: text, line feed, width in dialog units. The last string has no width.
 #define IDS_WIZARD_CANCEL 111
 #define IDS_WIZARD_BACK 112
 #define IDS_WIZARD_NEXT 113

@@ -44,7 +44,7 @@ struct CompoundStream {
     bool isLost;         // not reachable from the directory, so invisible to the system
 };
 
-// The root, a storage or a stream, as the directory has it.
+// The root, a storage or a stream, as stored in the directory.
 struct CompoundElement {
     std::u16string path; // as in CompoundStream; empty for the root
     compound::EntryBytes record;
@@ -67,10 +67,10 @@ public:
     // Returns the bytes of one of these streams, up to its first damage.
     ORLO_API std::vector<uint8_t> Read(const CompoundStream& stream) const;
 
-    // Everything that the directory leads to: the root first, the elements of a storage in the order of their names.
-    // Empty for a file without a root.
+    // Returns all elements that are reachable from the directory: the root first, the elements of a storage in name
+    // order. Empty for a file without a root.
     const std::vector<CompoundElement>& Elements() const;
-    // Zeros for a foreign file.
+    // Returns the header; zeros for a foreign file.
     const compound::HeaderBytes& Header() const;
 
 private:
@@ -79,16 +79,16 @@ private:
     std::shared_ptr<const Structure> structure_;
 };
 
-// Reads a stream piece by piece, so that a long one is never in memory as a whole.
+// Reads a stream piece by piece, so that a long one is never completely in memory.
 class CompoundStreamReader {
 public:
     static constexpr size_t kPieceBytes = size_t{1} << 20;
 
-    // The stream, one of the file's Streams(), must exist as long.
+    // The stream must be one of the file's Streams(); both must outlive this object.
     CompoundStreamReader(const CompoundReader& file, const CompoundStream& stream);
 
-    // Stores the next bytes: kPieceBytes, or fewer in the last piece. Returns false at the end of the stream, or before
-    // its damage.
+    // Stores the next bytes: kPieceBytes, or fewer in the last piece. Returns false at the end of the stream or at its
+    // first damaged sector.
     bool Next(std::vector<uint8_t>& piece);
 
 private:

@@ -85,7 +85,7 @@ private:
         }
     }
 
-    // The elements of the root come first, sorted by name; a new one is inserted before the first that follows it.
+    // The elements of the root come first, sorted by name; a new one is inserted in this order.
     void Write(const std::u16string& name, const std::vector<uint8_t>& bytes) {
         size_t end = 1;
         while (end < elements_.size() && elements_[end].storage == 0)

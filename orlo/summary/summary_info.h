@@ -43,21 +43,21 @@ ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // If the storage is open for writing only, the old summary cannot be read: its stream is created anew, and is lost if
 // there is not enough space for the new one.
 //
-// No storage protects its file. In direct mode the system writes step by step: a program that is killed in the middle
-// leaves a mixture of both summaries, and after a full disk the system may have announced sectors that the file does
-// not have. In a transacted storage nothing is on the disk before its Commit; a Commit that fails on a full disk can
-// leave a damaged file. A host that needs the old file or the new one after any failure calls SaveFileSummaryInfo.
+// After a failure the file itself can be damaged. In direct mode the system writes step by step: if the program is
+// killed meanwhile, the stream contains a mixture of both summaries, and if the disk becomes full, the file may refer
+// to sectors that it does not have. In a transacted storage nothing is written before Commit; a Commit that fails on a
+// full disk can leave a damaged file. Use SaveFileSummaryInfo if the file must be either the old or the new one.
 ORLO_API HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
-// Writes the summary into an existing compound file, which must not be open. The file is laid out anew in a copy beside
-// it: all other streams, classes, state bits and times of storages stay byte for byte, and sectors that belong to no
-// stream are left out. The copy is verified and takes the place of the file in one step, so that after any failure, a
-// full disk or the end of the process, the file is the old one or the new one. Returns STG_E_DOCFILECORRUPT for a file
-// that is damaged or not a compound file, HRESULT_FROM_WIN32 of a system error (ERROR_FILE_NOT_FOUND,
-// ERROR_SHARING_VIOLATION, ERROR_DISK_FULL, ...), E_FAIL for a missing argument, a set that can't be written or a
-// read-only file. To write more than one stream in one step, use orlo::EditedDocument (edited_document.h).
+// Writes the summary into an existing compound file, which must not be open. A copy with a new layout is written in the
+// same folder: all other streams, and classes, state bits and times of storages, are preserved byte for byte; sectors
+// that belong to no stream are omitted. The copy is verified and replaces the file in one step, so that after any
+// failure (a full disk, the end of the process) the file is either the old or the new one. Returns STG_E_DOCFILECORRUPT
+// if the file is damaged or not a compound file, HRESULT_FROM_WIN32 of a system error (ERROR_FILE_NOT_FOUND,
+// ERROR_SHARING_VIOLATION, ERROR_DISK_FULL, ...), and E_FAIL for a null argument, a set that cannot be written or a
+// read-only file. To write several streams in one step, use orlo::EditedDocument (edited_document.h).
 ORLO_API HRESULT SaveFileSummaryInfo(const char* pszFileName, CPropertySet* pSumInfo);
-// Opens a compound file for reading and reads its summary, into a new set if the pointer holds null. A file whose
-// header, allocation tables or directory are damaged is refused (STG_E_DOCFILECORRUPT): the system might never return
-// from it. The storage stays open, the caller's. On failure both pointers are null, and a set that was passed in is
-// destroyed, except for a file that can't be opened: then the set stays.
+// Opens a compound file for reading and reads its summary, into a new set if the pointer contains null. The caller owns
+// the open storage. Fails with STG_E_DOCFILECORRUPT if the file's header, allocation tables or directory are damaged,
+// because the system might not return from opening it. On failure both pointers are null; a set that was passed in is
+// destroyed, unless the file cannot be opened.
 ORLO_API HRESULT GetFileSummaryInfo(const char* pszFileName, IStorage** ppStorage, CPropertySet** ppSumInfo);
