@@ -27,13 +27,13 @@ namespace files {
 namespace {
 
 constexpr char kNotReplaced[] = "the file cannot be replaced";
-constexpr char kNotKept[] = "owner, permissions and attributes of the file cannot be kept";
+constexpr char kNotKept[] = "owner, permissions and attributes of the file cannot be preserved";
 
 // The file to remove on an interrupt, or null.
 std::atomic<const fs::path::value_type*> temporaryFile{nullptr};
 
 [[noreturn]] void RefuseIrregular() {
-    throw FileError("it is not a regular file and cannot be replaced");
+    throw FileError("not a regular file; it cannot be replaced");
 }
 
 struct Found {
@@ -238,7 +238,7 @@ FileReplacement::FileReplacement(const fs::path& target) {
         const std::error_code error = LastError();
         if (Exists(error)) continue;
         const bool hasNoFolder = error == std::errc::no_such_file_or_directory;
-        throw FileError("no file can be created in its folder",
+        throw FileError("cannot create a file in its folder",
                         hasNoFolder ? std::make_error_code(std::errc::not_a_directory) : error);
     }
 }

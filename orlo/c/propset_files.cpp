@@ -40,7 +40,7 @@ Bytes ReadToEnd(IStream& stream) {
     Bytes bytes;
     uint8_t part[4096];
     for (ULONG read = 1; read != 0;) {
-        Check(stream.Read(part, sizeof part, &read), "the stream can't be read");
+        Check(stream.Read(part, sizeof part, &read), "the stream cannot be read");
         bytes.insert(bytes.end(), part, part + std::min<ULONG>(read, sizeof part));
         if (bytes.size() > kLongest) Refuse(kOrloDamaged, "the stream is too long for a property set");
     }
@@ -49,7 +49,7 @@ Bytes ReadToEnd(IStream& stream) {
 
 // Replaces the whole contents of the stream.
 void WriteWhole(IStream& stream, const Bytes& bytes) {
-    constexpr char kNotWritten[] = "the stream can't be written";
+    constexpr char kNotWritten[] = "the stream cannot be written";
     ULARGE_INTEGER size;
     size.QuadPart = bytes.size();
     Check(stream.SetSize(size), kNotWritten);

@@ -129,7 +129,7 @@ CompoundReader::Structure::Structure(ReadAt read, uint64_t size) : read_(std::mo
     ReadTable();
     const std::vector<Entry> entries = ReadDirectory();
     if (entries.empty() || entries[0].kind != kRoot) {
-        Damaged("the directory: it has no root");
+        Damaged("the directory: the document has no root");
         return;
     }
     ReadShortStreams(entries[0]);
@@ -187,7 +187,7 @@ void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, cons
     const uint64_t at = At(sector);
     const uint64_t there = sector < sectors_ ? std::min<uint64_t>(sectorBytes_, fileSize_ - at) : 0;
     if (there == sectorBytes_ && read_(at, bytes, sectorBytes_)) return;
-    Damaged(std::string(what) + ": sector " + std::to_string(sector) + " can't be read");
+    Damaged(std::string(what) + ": sector " + std::to_string(sector) + " cannot be read");
     if (there != 0) read_(at, bytes, static_cast<size_t>(there));
 }
 
@@ -222,7 +222,7 @@ bool CompoundReader::Structure::Claim(uint32_t sector, std::vector<bool>& claime
         claimed[sector] = true;
     else
         Damaged("the allocation table: sector " + std::to_string(sector) +
-                (sector < claimed.size() ? " is named twice" : " isn't there"));
+                (sector < claimed.size() ? " is listed twice" : " does not exist"));
     return isFree;
 }
 
@@ -248,7 +248,7 @@ void CompoundReader::Structure::ReadTable() {
     std::vector<uint32_t> next = Numbers(tables, kWhat);
     table_ = SectorTable(std::move(next), sectors_);
     tables.insert(tables.end(), lists.begin(), lists.end());
-    if (!table_.Reserve(tables)) Damaged("the allocation table: it calls sectors of its own free");
+    if (!table_.Reserve(tables)) Damaged("the allocation table: its own sectors are marked as free");
 }
 
 // Follows the chain of a part of the structure, reporting damage.
@@ -309,17 +309,16 @@ void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const
         ++lost;
         if (entries[id].kind == kStream && entries[id].isNamed) AddStream(entries[id], entries[id].name, true);
     }
-    if (lost != 0)
-        Damaged("the directory: " + std::to_string(lost) + " entries belong to no storage", CompoundState::damaged);
+    if (lost != 0) Damaged("the directory: " + std::to_string(lost) + " unreachable entries", CompoundState::damaged);
 }
 
 bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& seen) {
     if (id == kNone) return false;
     const char* fault = nullptr;
     if (id >= entries.size())
-        fault = " isn't there";
+        fault = " does not exist";
     else if (seen[id])
-        fault = " is named twice";
+        fault = " is linked twice";
     else if (!entries[id].isNamed || (entries[id].kind != kStorage && entries[id].kind != kStream))
         fault = " is neither stream nor storage";
     if (fault)
@@ -351,14 +350,14 @@ void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, c
         } else if (storage.depth < kDeepestStorage)
             ahead.push_back({entry.child, std::move(path) + u'/', storage.depth + 1, elements_.size() - 1});
         else
-            Damaged("the directory: storages in storages, more than " + std::to_string(kDeepestStorage) + " deep");
+            Damaged("the directory: storages are nested deeper than " + std::to_string(kDeepestStorage));
     }
 }
 
 // The system finds a name by the sort order; a misplaced or duplicate name could be added a second time.
 void CompoundReader::Structure::CheckName(const Entry& entry, const Entry* before, uint32_t id) {
     if (!entry.isTerminated || (before && !MayFollow(before->name, entry.name)))
-        Damaged("the directory: the name of entry " + std::to_string(id) + " is wrong for its place",
+        Damaged("the directory: the name of entry " + std::to_string(id) + " is not in sort order",
                 CompoundState::damaged);
 }
 

@@ -20,7 +20,7 @@ std::u16string StreamNameFrom(const std::string& utf8) {
     const auto units = Utf8ToCodePage(utf8, kCodePageUtf16);
     const std::u16string name =
         units ? std::u16string(reinterpret_cast<const char16_t*>(units->data()), units->size() / 2) : u"";
-    if (!IsStreamName(name)) throw files::FileError("the stream cannot be written: this is not a name of a stream");
+    if (!IsStreamName(name)) throw files::FileError("the stream cannot be written: invalid stream name");
     return name;
 }
 
@@ -84,7 +84,7 @@ EditedDocument::EditedDocument(Bytes document) : original_(std::make_unique<Orig
 void EditedDocument::RequireIntact() const {
     if (original_->reader.State() == CompoundState::foreign) throw UnfitDocument("the file is not a compound file");
     if (original_->reader.State() != CompoundState::intact)
-        throw UnfitDocument("was left alone: the compound file is damaged, writing could make it worse");
+        throw UnfitDocument("was not changed: the compound file is damaged");
 }
 
 EditedDocument::~EditedDocument() = default;

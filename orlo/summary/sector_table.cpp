@@ -13,13 +13,13 @@ const char* InWords(ChainFault fault) {
     case ChainFault::isShort:
         return "is too short";
     case ChainFault::leadsNowhere:
-        return "leads to where no sector is";
+        return "refers to a sector that does not exist";
     case ChainFault::isShared:
-        return "runs into another one";
+        return "runs into another chain";
     case ChainFault::isCircle:
-        return "runs in a circle";
+        return "is circular";
     case ChainFault::isOfNothing:
-        return "is there, and the stream is empty";
+        return "exists although the stream is empty";
     default:
         return "is whole";
     }

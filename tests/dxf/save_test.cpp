@@ -178,7 +178,7 @@ TEST_F(Save, DistinguishesAnOpenFileFromAChangedOne) {
     const fs::path nowhere = path.parent_path() / "no such folder" / "x.dxf";
     char text[256] = "";
     EXPECT_EQ(DrawingSaveDxf(drawing.get(), nowhere.c_str(), 0, nullptr, text, sizeof text), kSaveFailed);
-    EXPECT_EQ(std::string(text).find("no file can be created in its folder: no such folder"), 0u) << text;
+    EXPECT_EQ(std::string(text).find("cannot create a file in its folder: no such folder"), 0u) << text;
     fs::remove(path);
     EXPECT_EQ(Write(drawing), kSaveDone) << "a file that is gone can be written anew: " << message;
     EXPECT_TRUE(IsWritten(original));

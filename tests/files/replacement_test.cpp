@@ -93,9 +93,9 @@ TEST_F(Replacement, KeepsTheOldFileUntilCommit) {
 }
 
 TEST_F(Replacement, RejectsTargetsThatAreNotWritableFiles) {
-    constexpr char kIrregular[] = "it is not a regular file and cannot be replaced";
+    constexpr char kIrregular[] = "not a regular file; it cannot be replaced";
     ExpectRefused(folder, kIrregular);
-    ExpectRefused(folder / "missing" / "plan.dxf", "no file can be created in its folder: no such folder");
+    ExpectRefused(folder / "missing" / "plan.dxf", "cannot create a file in its folder: no such folder");
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
     ExpectRefused(path, "the file is read-only");

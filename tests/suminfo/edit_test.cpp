@@ -130,7 +130,7 @@ TEST_F(Edit, RemovingDoesNotAffectOtherFields) {
     expected.erase(std::string("\\005DocumentSummaryInformation") + kCustomFormat + "myCustomNumber");
     EXPECT_EQ(expected.size() + 2, before.size());
     EXPECT_EQ(Content(file).Values(), expected);
-    ExpectRefused({"remove", file.string(), "application"}, "it has no application");
+    ExpectRefused({"remove", file.string(), "application"}, "the document has no application");
     ExpectDone({"set", file.string(), "author="});
     EXPECT_EQ(Content(file)["author"], nullptr);
 }
@@ -309,8 +309,8 @@ TEST_F(Edit, RejectedEditsChangeNothing) {
     const std::string name = file.string();
     ExpectRefused({"set", name, "title=New", "pages=many"}, "pages: 'many' is not a whole number");
     ExpectRefused({"set", name, "title=New", "saved=2001-02-30"}, "is not a date");
-    ExpectRefused({"set", name, "title=New", "edit-time=90"}, "is not a span of time");
-    ExpectRefused({"remove", name, "title", "--custom", "Nobody"}, "it has no custom property 'Nobody'");
+    ExpectRefused({"set", name, "title=New", "edit-time=90"}, "is not a duration");
+    ExpectRefused({"remove", name, "title", "--custom", "Nobody"}, "the document has no custom property 'Nobody'");
     EXPECT_EQ(FileBytes(file), before);
 }
 
@@ -363,10 +363,11 @@ TEST_F(Edit, CopyCopiesBothSummaries) {
     for (const char* name : {kSummary, kDocumentSummary})
         expected[name] = source[name];
     EXPECT_EQ(StreamsOf(to), expected);
-    ExpectRefused({"copy", Document("sent--da96eb.msg").string(), to.string()}, "sent--da96eb.msg: it has no summary");
+    ExpectRefused({"copy", Document("sent--da96eb.msg").string(), to.string()},
+                  "sent--da96eb.msg: the document has no summary");
     // Its summary's name is misspelt.
     ExpectRefused({"copy", Document("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt").string(), to.string()},
-                  "it has no summary");
+                  "the document has no summary");
     EXPECT_EQ(StreamsOf(to), expected);
 }
 

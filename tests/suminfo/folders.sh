@@ -20,7 +20,7 @@ status=0
 shown=$(timeout -k 5 60 wine "$program" show -r . 2>errors) || status=$?
 [ $status -eq 1 ] || { echo "ended with $status"; exit 1; }
 [ "$(grep '\.doc$' <<<"$shown")" = $'./a:colon.doc\n./again.doc' ] || { printf 'not each once:\n%s\n' "$shown"; exit 1; }
-[ "$(cat errors)" = "suminfo: ./a?mark.doc: the system can't open a file with this name" ] || { cat errors; exit 1; }
+[ "$(cat errors)" = "suminfo: ./a?mark.doc: the system cannot open a file with this name" ] || { cat errors; exit 1; }
 
 # The reader ends after the first line, so that the missing file at the end is never opened.
 for ((i = 0; i < 2000; i++)); do echo -ne 'inner/plan.doc\0'; done >names

@@ -27,7 +27,7 @@ ln -s plan.doc some/inner/again.doc
 expect "a folder's result" "$(ended suminfo check -r some)" 1 # irregular
 expect "its documents" "$(cut -d: -f1 out | uniq)" \
     "$(printf '%s\n' 'some/inner/a?mark.doc' some/inner/again.doc 'some/inner/latin\xe9.doc' 'some/inner/two\nlines.doc')"
-expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system can't open a file with this name"
+expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system cannot open a file with this name"
 expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: not a compound file'
 
 # Half a surrogate pair in the name of a stream.
@@ -61,7 +61,7 @@ if mknod device c 1 7 2>/dev/null; then targets+=(device); fi # its own device f
                                                               # one of the system
 for target in "${targets[@]}"; do
     expect "$target" "$(ended suminfo rc --stream "$stream" $target; cat err)" \
-        "$(printf "1\nsuminfo: $target: it is not a regular file and cannot be replaced")"
+        "$(printf "1\nsuminfo: $target: not a regular file; it cannot be replaced")"
 done
 if [ ${#targets[@]} = 2 ]; then
     [ -c device ] || fail "the device is gone"
@@ -84,9 +84,9 @@ suminfo set @list --custom "Client=text:A, B"
 expect "a custom property" "$(suminfo get two.doc --custom client)" "A, B"
 suminfo copy one.doc some/inner/plan.doc two.doc
 suminfo remove -r some/inner/plan.doc two.doc title --custom Client
-expect "what has none" "$(ended suminfo get two.doc title; cat out err)" $'1\nsuminfo: two.doc: it has no title'
+expect "what has none" "$(ended suminfo get two.doc title; cat out err)" $'1\nsuminfo: two.doc: the document has no title'
 expect "a missing list" "$(ended suminfo show @nowhere; cat err)" \
-    $'2\nsuminfo: a list of arguments: the file cannot be opened: no such file'
+    $'2\nsuminfo: cannot read the list of arguments: the file cannot be opened: no such file'
 expect "a name like a value" "$(ended suminfo set ./a=b.doc title=x; cat err)" \
     $'1\nsuminfo: ./a=b.doc: the file cannot be opened: no such file'
 
@@ -119,7 +119,7 @@ expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/ful
 suminfo thumbnail --original "$picture" picture.wmf
 expect "a metafile's first bytes" "$(od -An -tx1 -N 4 picture.wmf)" " 01 00 09 00"
 expect "another ending" "$(suminfo thumbnail --original "$picture" picture.png 2>&1)" \
-    "suminfo: warning: picture.png: the file contains a metafile; its usual ending is .wmf"
+    "suminfo: warning: picture.png: the file contains a metafile; the usual extension is .wmf"
 
 # Lines for programs, also of what failed.
 expect "CSV" "$(ended suminfo show --csv one.doc missing.doc; grep -c '^one.doc,' out; grep -e ^file -e Client -e missing out)" \

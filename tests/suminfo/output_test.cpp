@@ -40,8 +40,8 @@ TEST(Thumbnail, MissingOrDamagedThumbnailKeepsTheOldPicture) {
     const struct {
         const char* file;
         const char* why;
-    } rows[] = {{"test11--695187.doc", "it has no thumbnail"},
-                {"sent--da96eb.msg", "it has no summary"},
+    } rows[] = {{"test11--695187.doc", "the document has no thumbnail"},
+                {"sent--da96eb.msg", "the document has no summary"},
                 {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", ""}};
     for (const auto& row : rows) {
         const Outcome run = RunSuminfo({"thumbnail", (kDocuments / row.file).string(), png.string()});
@@ -79,19 +79,19 @@ TEST(ResourceScript, LeavesNoFileOnFailure) {
     const std::string stream = (kStreams / "Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin").string();
     const Outcome empty = RunSuminfo({"rc", "--stream", stream, script.string()});
     EXPECT_EQ(empty.exitCode, 1);
-    EXPECT_EQ(empty.err, "suminfo: " + stream + ": it has no sections\n");
+    EXPECT_EQ(empty.err, "suminfo: " + stream + ": the document has no sections\n");
     EXPECT_TRUE(fs::is_empty(folder.Path()));
     const std::string nowhere = (folder.Path() / "missing" / "out.rc").string();
     const Outcome run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.err, "suminfo: " + nowhere + ": no file can be created in its folder: no such folder\n");
+    EXPECT_EQ(run.err, "suminfo: " + nowhere + ": cannot create a file in its folder: no such folder\n");
 }
 
 TEST(Check, ReportsOffsetsAndFailsForIrregularities) {
     const Outcome fine =
         RunSuminfo({"check", "input-bw-one-band--340370.fpx", "sent--da96eb.msg", "25695--d41532.xls"}, kDocuments);
     EXPECT_EQ(fine.exitCode, 0) << fine.out;
-    EXPECT_EQ(fine.out.rfind("input-bw-one-band--340370.fpx: nothing irregular\nsent--da96eb.msg: no property sets\n"
+    EXPECT_EQ(fine.out.rfind("input-bw-one-band--340370.fpx: no irregularities\nsent--da96eb.msg: no property sets\n"
                              "25695--d41532.xls: \\005SummaryInformation: 0x0000D0: note 105: 3888 unused bytes after",
                              0),
               0u)
@@ -101,9 +101,10 @@ TEST(Check, ReportsOffsetsAndFailsForIrregularities) {
     for (const char* line :
          {"/test11--695187.doc: \\005SummaryInformation: 0x0000C0: irregular 206: section 0: 16 unused bytes",
           ": \\005SummaryInfkrmation: 0x000134: damaged 306: section 0, property 17: VT_CF",
-          ".ppt: damaged: stream \\005SummaryInfkrmation: its chain of sectors leads to where no sector is\n",
-          "/loop-in-alloc--d3743f.bin: damaged: the short streams: its chain of sectors runs in a circle\n",
-          "/bug55030--18fccf.ppt: nothing irregular\n"})
+          ".ppt: damaged: stream \\005SummaryInfkrmation: its chain of sectors refers to a sector that does not "
+          "exist\n",
+          "/loop-in-alloc--d3743f.bin: damaged: the short streams: its chain of sectors is circular\n",
+          "/bug55030--18fccf.ppt: no irregularities\n"})
         EXPECT_NE(odd.out.find(line), std::string::npos) << line << "\nis missing in\n" << odd.out;
 }
 
@@ -126,20 +127,20 @@ TEST(CommandLine, InvalidOnesExitWithTwo) {
         {{"show"}, ""},
         {{"show", "--color", "x.doc"}, ""},
         {{"set", "x.doc"}, ""},
-        {{"set", "x.doc", "title"}, "'title' should be name=value"},
+        {{"set", "x.doc", "title"}, "'title' is not of the form name=value"},
         {{"set", "x.doc", "color=red"}, "unknown field 'color'; see suminfo set --help\n"},
         {{"set", "x.doc", "thumbnail=x"}, "'thumbnail' cannot be set, only removed\n"},
-        {{"set", "x.doc", "--custom", "A=color:red"}, "A: 'color' is not a type"},
-        {{"set", "x.doc", "--custom", "A=red"}, "A: 'red' needs a type"},
+        {{"set", "x.doc", "--custom", "A=color:red"}, "A: unknown type 'color'"},
+        {{"set", "x.doc", "--custom", "A=red"}, "A: 'red' has no type"},
         {{"set", "x.doc", "--custom", "A=int:12x"}, "A: '12x' is not a whole number"},
-        {{"set", "x.doc", "--custom", "A=unsigned:-1"}, "A: '-1' is not a whole number of 0 or more\n"},
+        {{"set", "x.doc", "--custom", "A=unsigned:-1"}, "A: '-1' is not a non-negative integer\n"},
         {{"remove", "x.doc"}, ""},
         {{"remove", "x.doc", "color"}, "unknown field 'color'"},
         {{"thumbnail", "x.doc"}, ""},
         {{"thumbnail", "x.doc", "x.png", "--size", "12"}, ""},
         {{"thumbnail", "x.doc", "x.png", "--size", "0x9"}, ""},
         {{"copy", "x.doc"}, ""},
-        {{"get", "x.doc"}, "get: name one field"},
+        {{"get", "x.doc"}, "get: specify one field"},
         {{"show", "--json", "--csv", "x.doc"}, ""},
         {{"thumbnail", "x.doc", "-", "--original", "--size", "9x9"}, "--size: "},
     };

@@ -76,7 +76,7 @@ Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& fo
     ::CloseHandle(start.hStdOutput);
     ::CloseHandle(start.hStdError);
     if (!started) {
-        ADD_FAILURE() << "suminfo.exe can't be started: " << ::GetLastError();
+        ADD_FAILURE() << "cannot start suminfo.exe: " << ::GetLastError();
         return {-1, "", ""};
     }
     DWORD exitCode = 0;

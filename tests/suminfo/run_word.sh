@@ -20,7 +20,7 @@ chmod u+w ./*
 suminfo() { timeout -k 5 60 ../clone/run suminfo "$@" 2>err; }
 expect_title() {
     [ ! -s err ] || fail "$(cat err)"
-    suminfo show test11--695187.doc >shown || fail "it can't be shown"
+    suminfo show test11--695187.doc >shown || fail "it cannot be shown"
     grep -q "^    title  *$1\$" shown || fail "the title is not $1: $(grep title shown)"
 }
 

@@ -173,7 +173,7 @@ TEST(Show, DamagedDirectoryIsShownPartiallyAndFails) {
         std::fstream stream(file, std::ios::binary | std::ios::in | std::ios::out);
         stream.seekp(1024 + 76).write("\xFF\xFF\xFF\xFF", 4);
     }
-    const std::string damage = "damaged: the directory: 5 entries belong to no storage";
+    const std::string damage = "damaged: the directory: 5 unreachable entries";
     const Outcome shown = RunSuminfo({"show", file.string()});
     EXPECT_EQ(shown.exitCode, 1);
     EXPECT_NE(shown.out.find("  SummaryInformation\n"), std::string::npos) << shown.out;

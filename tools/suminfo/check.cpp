@@ -48,7 +48,7 @@ Report Check(const Source& source) {
             report.clean = report.clean && finding.severity == orlo::Severity::note;
         }
     }
-    if (report.clean) report.text += file + (sets.streams.empty() ? ": no property sets\n" : ": nothing irregular\n");
+    if (report.clean) report.text += file + (sets.streams.empty() ? ": no property sets\n" : ": no irregularities\n");
     return report;
 }
 

@@ -40,7 +40,8 @@ Results: 0 done; 1 a file failed, or check found something irregular; 2 wrong co
 // Splits "name=value". A parse error describes what is wrong with it.
 Assignment Split(const std::string& text) {
     const size_t equals = text.find('=');
-    if (equals == std::string::npos || equals == 0) throw CLI::ValidationError("'" + text + "' should be name=value");
+    if (equals == std::string::npos || equals == 0)
+        throw CLI::ValidationError("'" + text + "' is not of the form name=value");
     return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
@@ -72,7 +73,7 @@ std::optional<Extent> ParseSize(const std::string& text) {
     int used = 0;
     const bool read = std::sscanf(text.c_str(), "%5ux%5u%n", &width, &height, &used) == 2;
     if (!read || static_cast<size_t>(used) != text.size() || width == 0 || height == 0)
-        throw CLI::ValidationError("--size", "'" + text + "' should be WIDTHxHEIGHT in pixels, as in 200x150");
+        throw CLI::ValidationError("--size", "'" + text + "' is not of the form WIDTHxHEIGHT, such as 200x150");
     return Extent{static_cast<int>(width), static_cast<int>(height)};
 }
 
@@ -153,7 +154,7 @@ private:
         case Command::thumbnail:
             line_.size = ParseSize(size_);
             if (line_.size && line_.original)
-                throw CLI::ValidationError("--size", "a picture in its original form keeps its size");
+                throw CLI::ValidationError("--size", "cannot be combined with --original");
             break;
         default:
             break;
@@ -166,7 +167,7 @@ private:
     void CompleteGet() {
         const bool hasField = !field_.empty();
         if (hasField == !line_.customNames.empty())
-            throw CLI::ValidationError("get", "name one field, or one property with --custom");
+            throw CLI::ValidationError("get", "specify one field, or one property with --custom");
         if (hasField) line_.fieldNames = {FieldToRemove(field_).name};
     }
 
@@ -177,7 +178,7 @@ private:
         line_.fields = ParseFields(fields);
         line_.custom = ParseCustom(custom_);
         if (line_.fields.empty() && line_.custom.empty())
-            throw CLI::ValidationError("set", "nothing to set: name a field, as in title=\"Plan B\"");
+            throw CLI::ValidationError("set", "nothing to set: specify a field, such as title=\"Plan B\"");
         RequireFiles();
     }
 
@@ -192,12 +193,12 @@ private:
                 line_.files.push_back(word);
         }
         if (line_.fieldNames.empty() && needsField)
-            throw CLI::ValidationError("remove", "nothing to remove: name a field");
+            throw CLI::ValidationError("remove", "nothing to remove: specify a field");
         RequireFiles();
     }
 
     void RequireFiles() {
-        if (line_.files.empty()) throw CLI::ValidationError("FILE", "no document is named");
+        if (line_.files.empty()) throw CLI::ValidationError("FILE", "no input file");
         FinishFiles();
         CompleteOutput();
     }
@@ -220,7 +221,7 @@ private:
         return sub;
     }
     void AddBare(CLI::App* sub) {
-        sub->add_flag("--stream", line_.bare, "FILE is not a document but one property-set stream");
+        sub->add_flag("--stream", line_.bare, "FILE is a single property-set stream, not a document");
     }
     void AddRecursive(CLI::App* sub) {
         sub->add_flag("-r,--recursive", line_.recursive, "search folders for compound files");
@@ -252,8 +253,8 @@ private:
             return sub->add_flag_callback(
                 name, [this, form] { line_.form = form; }, description);
         };
-        addForm("--json", ReportForm::json, "one line of JSON for each file")
-            ->excludes(addForm("--csv", ReportForm::csv, "one line for each property, after a line of headings"));
+        addForm("--json", ReportForm::json, "print one line of JSON for each file")
+            ->excludes(addForm("--csv", ReportForm::csv, "print CSV: one line for each property, with a header line"));
     }
     void AddGet() {
         CLI::App* sub = Add("get", Command::get, "Print one value");
@@ -266,7 +267,7 @@ private:
         CLI::App* sub = Add("set", Command::set, "Change fields; an empty value removes one");
         sub->footer("Fields: " + FieldNames() + ".\nTypes of custom properties: " + TypeNames() +
                     ".\nDates: 2001-02-03, 2001-02-03T04:05:06Z (UTC) or now; edit-time: h:mm:ss.");
-        sub->add_option("FILE FIELD=VALUE", words_, "documents, and values as in title=\"Plan B\"");
+        sub->add_option("FILE FIELD=VALUE", words_, "documents, and values such as title=\"Plan B\"");
         AddCustom(sub, custom_, "NAME=TYPE:VALUE, a custom property");
         AddRecursive(sub);
         AddOutput(sub);
@@ -283,7 +284,7 @@ private:
         AddFile(sub);
         sub->add_option("OUT.png", line_.output, "the picture; - is standard output")->required();
         sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (default: the original size; 256 for a metafile)");
-        sub->add_flag("--original", line_.original, "the picture as it is stored, in any format, instead of a PNG");
+        sub->add_flag("--original", line_.original, "save the picture in its stored format instead of PNG");
     }
     void AddScript() {
         CLI::App* sub = Add("rc", Command::rc, "Save the summary as a resource script");
@@ -293,7 +294,7 @@ private:
     void AddCopy() {
         CLI::App* sub = Add("copy", Command::copy, "Copy the summary of one document to others");
         sub->add_option("FROM", line_.source, "the document with the summary")->required();
-        sub->add_option("TO", line_.files, "the documents that get it")->required();
+        sub->add_option("TO", line_.files, "the documents to change")->required();
         AddRecursive(sub);
         AddOutput(sub);
     }

@@ -73,7 +73,7 @@ void Print(FILE* stream, const std::string& utf8) {
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (isWritten || stream != stdout) return;
     // If the reader has closed the pipe, the program ends silently; other errors are reported.
-    if (!HasReaderGone()) Print(stderr, "suminfo: the output can't be written\n");
+    if (!HasReaderGone()) Print(stderr, "suminfo: cannot write the output\n");
     std::exit(kFailed);
 }
 

@@ -104,11 +104,11 @@ void RemoveFields(const Target& target, const std::vector<std::string>& fields,
     Edit edit(target);
     for (const std::string& name : fields) {
         const Field& field = FieldToRemove(name);
-        if (!edit.SetWith(field.format).Remove(field.format, field.id)) throw Failure("it has no " + name);
+        if (!edit.SetWith(field.format).Remove(field.format, field.id)) throw Failure("the document has no " + name);
     }
     for (const std::string& name : custom)
         if (!edit.SetWith(kUserDefinedFormat).RemoveCustom(name))
-            throw Failure("it has no custom property '" + name + "'");
+            throw Failure("the document has no custom property '" + name + "'");
     edit.Commit();
 }
 
@@ -118,7 +118,7 @@ void CopySummary(const std::string& from, const Target& target) {
         const Document source(from);
         for (const char* name : {kSummaryStream, kDocumentSummaryStream})
             if (auto bytes = source.Read(name)) streams[name] = RequireUndamaged(std::move(*bytes), name);
-        if (streams.empty()) throw Failure("it has no summary");
+        if (streams.empty()) throw Failure("the document has no summary");
     });
     TargetDocument document(target);
     for (const auto& [name, bytes] : streams)

@@ -49,9 +49,9 @@ Kind KindOf(uint32_t type) {
 
 void RequireUtf8(orlo::ImageSection& section) {
     if (const auto id = orlo::ConvertToUtf8(section))
-        throw Failure("code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage)) +
-                      " can't represent the new text, and property " + std::to_string(*id) +
-                      " is not text of it that could be converted to UTF-8");
+        throw Failure("cannot represent the new text in code page " +
+                      std::to_string(section.codePage.value_or(orlo::kUsualCodePage)) + ", and property " +
+                      std::to_string(*id) + " cannot be converted to UTF-8");
 }
 
 uint32_t FreeCustomId(const orlo::ImageSection& section) {
@@ -64,7 +64,7 @@ uint32_t FreeCustomId(const orlo::ImageSection& section) {
     if (section.dictionary)
         for (const orlo::DictionaryEntry& entry : *section.dictionary)
             pass(entry.id);
-    if (next >= kLinkFlag) throw Failure("no identifier is left for another custom property");
+    if (next >= kLinkFlag) throw Failure("no unused identifier for another custom property");
     return next;
 }
 
@@ -77,7 +77,7 @@ EditedSet::EditedSet(const std::optional<orlo::Bytes>& bytes) {
     const auto damage = std::find_if(findings.begin(), findings.end(), [](const orlo::Finding& finding) {
         return finding.severity == orlo::Severity::damaged;
     });
-    if (damage != findings.end()) throw Failure("it is damaged and was left alone: " + damage->text);
+    if (damage != findings.end()) throw Failure("the property set is damaged and was not changed: " + damage->text);
     if (!image) throw Failure("not a property set; the file was left unchanged");
     set_ = std::move(*image);
 }
@@ -92,7 +92,7 @@ void EditedSet::Store(orlo::ImageSection& section, uint32_t id, const orlo::Valu
         RequireUtf8(section);
         bytes = orlo::EncodeValue(value, section.codePage);
     }
-    if (!bytes) throw Failure("property " + std::to_string(id) + " can't be stored as " + orlo::TypeName(value.type));
+    if (!bytes) throw Failure("property " + std::to_string(id) + " cannot be stored as " + orlo::TypeName(value.type));
     orlo::StoreValue(section, id, value.type, std::move(*bytes));
     changed_ = true;
 }
@@ -107,7 +107,7 @@ void EditedSet::SetField(const GUID& format, uint32_t id, const std::string& tex
     const bool hasValue = there && there->type != VT_EMPTY && there->type != VT_NULL;
     const uint32_t type = hasValue ? there->type : usualType;
     if (KindOf(type) != KindOf(usualType))
-        throw Failure("it is stored as " + orlo::TypeName(type) + ", not as " + orlo::TypeName(usualType));
+        throw Failure("stored as " + orlo::TypeName(type) + ", not as " + orlo::TypeName(usualType));
     constexpr uint32_t kEditTime = 10;
     const bool span = ::IsEqualGUID(format, orlo::kSummaryFormat) && id == kEditTime;
     Store(section, id, span ? ParseSpan(text) : ParseValue(type, text));
@@ -143,7 +143,7 @@ bool EditedSet::RemoveCustom(const std::string& name) {
 
 orlo::Bytes EditedSet::Image() const {
     auto image = orlo::WriteSetImage(set_);
-    if (!image) throw Failure("a name of its dictionary can't be represented in its code page");
+    if (!image) throw Failure("a name in the dictionary cannot be represented in the code page");
     return std::move(*image);
 }
 

@@ -123,10 +123,10 @@ private:
     void AddFolder(const std::string& folder) {
         if (!IsNew(folder)) return;
         const auto entries = EntriesOf(folder);
-        if (!entries) return Miss(folder, "can't read the folder");
+        if (!entries) return Miss(folder, "cannot read the folder");
         for (const std::string& entry : *entries) {
             if (!IsThere(entry)) // Wine lists names that it cannot open, with a question mark
-                Miss(entry, "the system can't open a file with this name");
+                Miss(entry, "the system cannot open a file with this name");
             else if (IsFolder(entry) || MayBeDocument(entry))
                 Add(entry);
         }

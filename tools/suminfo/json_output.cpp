@@ -78,12 +78,12 @@ Json PropertyJson(const orlo::ImageSection& section, const orlo::ImageProperty& 
     if (property.state == orlo::ValueState::partial) {
         json["error"] = "damaged";
     } else if (property.state == orlo::ValueState::opaque) {
-        json["error"] = "a type that is not known";
+        json["error"] = "unknown type";
     } else if (orlo::DecodeValue(property.type, property.bytes.data(), property.bytes.size(), section.codePage,
                                  value)) {
         json["value"] = ValueJson(value);
     } else {
-        json["error"] = "not readable in code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage));
+        json["error"] = "not valid in code page " + std::to_string(section.codePage.value_or(orlo::kUsualCodePage));
     }
     const bool raw = json.contains("error") || property.type == VT_BOOL;
     if (raw) json[property.type == VT_BOOL ? "raw" : "bytes"] = Hex(property.bytes.data(), property.bytes.size());

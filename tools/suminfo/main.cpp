@@ -124,7 +124,7 @@ int RunWith(const std::vector<std::string>& words) {
     try {
         return Run(cli::WithListedArguments(words));
     } catch (const files::FileError& unreadable) {
-        Print(stderr, std::string("suminfo: a list of arguments: ") + unreadable.what() + "\n");
+        Print(stderr, std::string("suminfo: cannot read the list of arguments: ") + unreadable.what() + "\n");
         return kUsage;
     }
 }

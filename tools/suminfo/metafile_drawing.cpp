@@ -16,7 +16,7 @@ public:
     explicit WhiteBitmap(Extent size)
         : size_(size), dc_(::CreateCompatibleDC(nullptr)), bitmap_(Made(dc_.get(), size, pixels_)),
           selected_(dc_.get(), bitmap_.get()) {
-        if (!selected_) throw Failure("can't create a bitmap of that size");
+        if (!selected_) throw Failure("cannot create a bitmap of that size");
         ::PatBlt(dc_.get(), 0, 0, size.width, size.height, WHITENESS);
         ::SetStretchBltMode(dc_.get(), HALFTONE);
     }

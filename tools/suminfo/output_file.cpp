@@ -28,8 +28,8 @@ void WriteOutput(const std::string& file, std::string_view bytes) {
 void WarnOfEnding(const std::string& file, const std::string& ending, const std::string& contents) {
     const std::string has = std::filesystem::u8path(file).extension().u8string();
     if (file == kStandardStream || has.empty() || orlo::IsSameName(has, "." + ending)) return;
-    Print(stderr, "suminfo: warning: " + OneLine(file) + ": the file contains " + contents + "; its usual ending is ." +
-                      ending + "\n");
+    Print(stderr, "suminfo: warning: " + OneLine(file) + ": the file contains " + contents +
+                      "; the usual extension is ." + ending + "\n");
 }
 
 } // namespace suminfo

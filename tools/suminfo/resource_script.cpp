@@ -35,7 +35,7 @@ public:
         orlo::SetImage set;
         set.sections.push_back(section);
         auto bytes = orlo::WriteSetImage(set);
-        if (!bytes) throw Failure("a name of its dictionary can't be represented in its code page");
+        if (!bytes) throw Failure("a name in the dictionary cannot be represented in the code page");
         bytes_.assign(bytes->begin() + kBeforeSection, bytes->end());
     }
 
@@ -114,7 +114,7 @@ private:
 
 void Print(const orlo::SetImage& set, const std::string& title, CRCFile& rc) {
     const auto plain = [&rc](const std::string& text) { rc.CStdioFile::WriteString(text.c_str()); };
-    if (set.sections.empty()) throw Failure("it has no sections");
+    if (set.sections.empty()) throw Failure("the property set has no sections");
     plain("// " + title + "\n");
     rc.PrintWholeTexts();
     int number = 0;

@@ -199,7 +199,8 @@ std::string ValueOf(const Source& source, const std::string& field, const std::s
         if (stream.name.find('/') != std::string::npos) continue; // of an inner storage
         if (const auto value = FindValue(stream, field, customName)) return *value + "\n";
     }
-    throw Failure(field.empty() ? "it has no custom property '" + customName + "'" : "it has no " + field);
+    throw Failure(field.empty() ? "the document has no custom property '" + customName + "'"
+                                : "the document has no " + field);
 }
 
 } // namespace suminfo

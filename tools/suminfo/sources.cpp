@@ -23,7 +23,7 @@ SourceSets SetsOf(const Source& source) {
 NamedStream SummaryOf(const Source& source) {
     if (source.bare) return {"", ReadFile(source.file), ""};
     auto bytes = Document(source.file).Read(kSummaryStream);
-    if (!bytes) throw Failure("it has no summary");
+    if (!bytes) throw Failure("the document has no summary");
     return {kSummaryStream, std::move(*bytes), ""};
 }
 

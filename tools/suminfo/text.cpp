@@ -112,7 +112,7 @@ std::string Sha256(const std::vector<uint8_t>& bytes) {
                       ::BCryptFinishHash(state, hash.data(), static_cast<ULONG>(hash.size()), 0) >= 0;
     if (state) ::BCryptDestroyHash(state);
     if (algorithm) ::BCryptCloseAlgorithmProvider(algorithm, 0);
-    if (!done) throw Failure("can't calculate a SHA-256 hash");
+    if (!done) throw Failure("cannot calculate a SHA-256 hash");
     return Hex(hash.data(), hash.size());
 }
 #else

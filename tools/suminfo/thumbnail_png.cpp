@@ -36,11 +36,11 @@ orlo::Bytes ThumbnailOf(const Source& source) {
     const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
     const orlo::ImageSection* section = set ? set->Find(kSummaryFormat) : nullptr;
     const orlo::ImageProperty* property = section ? section->Find(kThumbnailId) : nullptr;
-    if (!property) throw Failure("it has no thumbnail");
+    if (!property) throw Failure("the document has no thumbnail");
     constexpr size_t kLength = 4;
     if (property->type != VT_CF || property->state != orlo::ValueState::complete ||
         property->bytes.size() < kLength + kPictureOffset)
-        throw Failure("its thumbnail is damaged");
+        throw Failure("the thumbnail is damaged");
     return orlo::Bytes(property->bytes.begin() + kLength, property->bytes.end());
 }
 
@@ -64,7 +64,7 @@ Extent ExtentInside(const orlo::Bytes& value) {
 
 Extent OwnExtent(const orlo::Bytes& value) {
     const Extent extent = ExtentInside(value);
-    if (extent.width <= 0 || extent.height <= 0) throw Failure("its thumbnail is damaged");
+    if (extent.width <= 0 || extent.height <= 0) throw Failure("the thumbnail is damaged");
     const int longer = std::max(extent.width, extent.height);
     if (IsBitmap(value) && longer <= kLargest) return extent;
     const double scale = static_cast<double>(kVectorSide) / longer;
@@ -83,14 +83,14 @@ void RefuseOtherKinds(const orlo::Bytes& value) {
     const std::string kind = tag == kOfMacintosh                                ? "a Macintosh picture"
                              : tag == kOfWindows && format == kEnhancedMetafile ? "an enhanced metafile"
                                                                                 : "of an unknown clipboard format";
-    throw Failure("its thumbnail is " + kind + ", which suminfo can't draw; --original saves it unchanged");
+    throw Failure("cannot draw the thumbnail, which is " + kind + "; use --original to save it unchanged");
 }
 
 std::vector<uint8_t> Drawn(const orlo::Bytes& value, Extent extent) {
     auto colors = IsBitmap(value) ? orlo::DrawDibFitted(value.data() + kPictureOffset, value.size() - kPictureOffset,
                                                         extent.width, extent.height)
                                   : DrawMetafile(value, extent);
-    if (!colors) throw Failure("its thumbnail is damaged");
+    if (!colors) throw Failure("the thumbnail is damaged");
     return std::move(*colors);
 }
 
@@ -114,7 +114,7 @@ StoredPicture PictureIn(const orlo::Bytes& value) {
     if (tag != kOfWindows || format != kBitmap)
         return {"bin", "data of an unknown clipboard format", from(kPictureOffset)};
     auto file = orlo::BitmapFileFrom(value.data() + kPictureOffset, value.size() - kPictureOffset);
-    if (!file) throw Failure("its thumbnail is damaged");
+    if (!file) throw Failure("the thumbnail is damaged");
     return {"bmp", "a bitmap", std::move(*file)};
 }
 
@@ -125,7 +125,7 @@ void SaveThumbnail(const Source& source, const std::string& png, std::optional<E
     RefuseOtherKinds(value);
     const Extent extent = size ? *size : OwnExtent(value);
     if (extent.width <= 0 || extent.height <= 0 || extent.width > kLargest || extent.height > kLargest)
-        throw Failure("a size is between 1x1 and 8192x8192");
+        throw Failure("the size must be between 1x1 and 8192x8192");
     const std::vector<uint8_t> colors = Drawn(value, extent);
     WarnOfEnding(png, "png", "a PNG picture");
     OnFile(png, [&] {

@@ -83,18 +83,18 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
         value.data = text;
         return value;
     case VT_I2:
-        value.data = int64_t{Whole<int16_t>(text, "whole number of 16 bits")};
+        value.data = int64_t{Whole<int16_t>(text, "16-bit integer")};
         return value;
     case VT_I4:
     case VT_INT:
         value.data = int64_t{Whole<int32_t>(text, "whole number")};
         return value;
     case VT_UI2:
-        value.data = uint64_t{Whole<uint16_t>(text, "whole number of 16 bits, 0 or more")};
+        value.data = uint64_t{Whole<uint16_t>(text, "non-negative 16-bit integer")};
         return value;
     case VT_UI4:
     case VT_UINT:
-        value.data = uint64_t{Whole<uint32_t>(text, "whole number of 0 or more")};
+        value.data = uint64_t{Whole<uint32_t>(text, "non-negative integer")};
         return value;
     case VT_R4:
     case VT_R8:
@@ -114,16 +114,16 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
     case VT_I8:
         return Formatted(type, text, "whole number");
     case VT_CY:
-        return Formatted(type, text, "sum of money");
+        return Formatted(type, text, "currency amount");
     case VT_CLSID:
         return Formatted(type, text, "class ID");
     default:
-        throw Failure("values of type " + orlo::TypeName(type) + " can't be entered as text");
+        throw Failure("values of type " + orlo::TypeName(type) + " cannot be entered as text");
     }
 }
 
 orlo::Value ParseSpan(const std::string& text) {
-    constexpr const char* kKind = "span of time (h:mm or h:mm:ss)";
+    constexpr const char* kKind = "duration (h:mm or h:mm:ss)";
     std::array<uint64_t, 3> parts = {};
     size_t count = 0, begin = 0;
     while (begin <= text.size()) {
@@ -142,11 +142,11 @@ orlo::Value ParseSpan(const std::string& text) {
 orlo::Value ParseTyped(std::string_view typed) {
     const size_t colon = typed.find(':');
     if (colon == std::string_view::npos)
-        throw Failure("'" + std::string(typed) + "' needs a type, as in text:" + std::string(typed));
+        throw Failure("'" + std::string(typed) + "' has no type; use for example text:" + std::string(typed));
     const std::string_view word = typed.substr(0, colon);
     for (const TypeWord& known : kTypeWords)
         if (orlo::IsSameName(known.word, word)) return ParseValue(known.type, std::string(typed.substr(colon + 1)));
-    throw Failure("'" + std::string(word) + "' is not a type; the types are " + TypeNames());
+    throw Failure("unknown type '" + std::string(word) + "'; the types are " + TypeNames());
 }
 
 std::string TypeNames() {

@@ -37,7 +37,7 @@ std::string DescribeNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
     const TypeForm& form = FormOf(type);
     if (form.form == Form::fixed) return "needs " + std::to_string(form.size) + " bytes";
     if (size < 4) return "needs 4 bytes for its count";
-    if (IsVector(type)) return "announces " + std::to_string(Load32(bytes)) + " elements";
+    if (IsVector(type)) return "declares " + std::to_string(Load32(bytes)) + " elements";
     return "needs " + std::to_string(CountedSize(form.form, Load32(bytes))) + " bytes";
 }
 
