@@ -44,7 +44,9 @@ int WINAPI WinMain(HINSTANCE instance, HINSTANCE before, char* commandLine, int 
     CLI::App usage{"A small drawing viewer that shows Orlo's property sheets.", "demo"};
     DemoOptions options;
     usage.add_option("drawing", options.drawing, "DXF drawing to open");
-    usage.add_option("--tour", options.tourFolder, "play a tour over the drawing, with pictures in this folder")
+    usage
+        .add_option("--tour", options.tourFolder,
+                    "play the scripted tour with the drawing and save screenshots in this folder")
         ->type_name("FOLDER");
     try {
         std::vector<std::string> arguments = Arguments();

@@ -1,4 +1,4 @@
-// One edit for each page of the library's sheet, made like by a user.
+// One edit for each page of the library's sheet, made with the keyboard and the mouse.
 #pragma once
 
 #include <string>

@@ -22,7 +22,8 @@
 void SaveScreenshot(const RECT& area, const std::string& path) {
     const CRect rect(area);
     MemoryPicture picture;
-    if (rect.IsRectEmpty() || !picture.Resize(rect.Size())) throw std::runtime_error("no picture of that size");
+    if (rect.IsRectEmpty() || !picture.Resize(rect.Size()))
+        throw std::runtime_error("cannot create a bitmap of that size");
     const orlo::WindowDC screen(nullptr);
     if (!::BitBlt(picture.Dc(), 0, 0, rect.Width(), rect.Height(), screen.get(), rect.left, rect.top, SRCCOPY))
         throw std::runtime_error("the screen cannot be read");

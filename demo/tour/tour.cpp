@@ -39,11 +39,11 @@ bool Tour::Play(const std::string& drawing) {
     try {
         Open(drawing);
         if (!SelectVariedSet()) {
-            Report("Nothing in this drawing has a pen: there is nothing to edit.");
+            Report("No graphic in this drawing has a pen; there is nothing to edit.");
             return true;
         }
         if (!EditAndUndo("changed", "undone", [this] { EditPen(); })) return false;
-        Report("Ctrl+Y makes it again.");
+        Report("Ctrl+Y redoes it.");
         m_user.Key('Y', UserInput::kControl);
         MakeStyle();
         Report("Ctrl+A selects all.");
@@ -55,7 +55,7 @@ bool Tour::Play(const std::string& drawing) {
         ShowPaneAndLayers();
         return true;
     } catch (const std::exception& error) {
-        Report(std::string("The tour ends here: ") + error.what());
+        Report(std::string("The tour was stopped: ") + error.what());
         return false;
     }
 }
@@ -160,7 +160,7 @@ void Tour::OpenPage(HWND sheet, const std::string& title) {
 
 // Three wizard pages and Finish.
 void Tour::MakeStyle() {
-    Report("Ctrl+N makes a style after the selection.");
+    Report("Ctrl+N creates a style from the selection.");
     m_user.InDialog([this] { m_user.Key('N', UserInput::kControl); },
                     [this](HWND wizard) {
                         m_user.Type("Tour");

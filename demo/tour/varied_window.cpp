@@ -1,4 +1,4 @@
-// Finds an interesting part of a drawing: graphics around its middle, until enough of them look different.
+// Finds an interesting part of a drawing: graphics around its center, until enough of them differ in appearance.
 
 #include "demo/tour/varied_window.h"
 
@@ -37,7 +37,7 @@ std::optional<WorldBox> FindVariedWindow(const Document& document) {
     graphics.erase(std::remove_if(graphics.begin(), graphics.end(), isUseless), graphics.end());
     if (graphics.empty()) return std::nullopt;
     const WorldBox all = *document.Extents();
-    // Frames and the like come last.
+    // Large graphics such as frames come last.
     const auto distance = [&](GraphicStruct* graphic) {
         const WorldBox box = *ExtentsOf(graphic);
         const double size = std::max(box.Width(), box.Height()), whole = std::max(all.Width(), all.Height());

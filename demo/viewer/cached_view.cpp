@@ -107,7 +107,7 @@ bool CachedView::StartMoving() {
     return m_moving = true;
 }
 
-// The camera has zoomed: the whole frame is made from the scene, which is exact.
+// After zooming, the whole frame is stretched from the scene, which is exact.
 void CachedView::MoveFrame() {
     m_stretch = false;
     const CSize size = m_frame.Size();

@@ -24,10 +24,10 @@ public:
     void Resize(CSize size);
     CRect Bounds() const { return m_picture.Bounds(); }
 
-    // Something else must be shown; the old picture is never displayed again.
+    // Discards the picture, which is never displayed again.
     void InvalidateAll();
     bool IsInvalid() const { return m_invalid; }
-    // The selection changed there.
+    // Discards the highlight in that area, where the selection has changed.
     void InvalidateHighlight(const CRect& area);
 
     // Move the camera.

@@ -20,7 +20,7 @@ public:
 
     // Must be called before use. The owner also owns the tooltips.
     bool Create(HWND owner);
-    // Must be called for each message to a sheet. document has the selection that the sheet is over; null if none is
+    // Must be called for each message to a sheet. document has the selection that the sheet edits; null if none is
     // open.
     void Watch(const MSG& message, const Document* document);
 

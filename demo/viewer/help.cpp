@@ -70,12 +70,12 @@ std::string HelpTopicOf(HWND window) {
 
 bool ShowHelp(HWND owner, const std::string& topic) {
     const std::wstring path = GuidePath();
-    std::string fault = "is not there.";
+    std::string fault = "does not exist.";
     if (::GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES) {
         const std::wstring browser = Browser(), url = UrlOf(path, topic);
         if (!browser.empty() && Start(owner, browser, (L'"' + url + L'"').c_str())) return true;
         if (Start(owner, path, nullptr)) return true;
-        fault = "cannot be shown: there is no program for it.";
+        fault = "cannot be shown: no browser was found.";
     }
     const std::string text = "The user guide, " + SystemText(Utf8(path.c_str())) + ", " + fault;
     ::MessageBoxA(owner, text.c_str(), AfxGetAppName(), MB_OK | MB_ICONEXCLAMATION);

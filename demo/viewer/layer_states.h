@@ -14,7 +14,7 @@ public:
 
     void Restore() const;
 
-    // Returns the change since `before`, or null if there is none. The drawing must outlive the result.
+    // Returns the change since `before`, or null if nothing has changed. The drawing must outlive the result.
     static std::unique_ptr<UndoableChange> ChangeSince(LayerStates before);
 
 private:

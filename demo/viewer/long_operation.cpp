@@ -27,7 +27,7 @@ void ShowWaitCursor(const CWnd& window) {
 void RestoreCursor() {
     POINT point;
     ::GetCursorPos(&point);
-    ::SetCursorPos(point.x, point.y); // makes the window set its cursor
+    ::SetCursorPos(point.x, point.y); // causes WM_SETCURSOR
 }
 
 LongOperation::LongOperation(const CWnd& window, CStatusBar& line, const std::string& text) : m_line(line) {

@@ -40,7 +40,7 @@ std::string ChangedText(int changed, const Document& document) {
     if (!changed) return "Nothing changed";
     std::string text = Counted(changed, "graphic") + " changed";
     if (const int dropped = document.DroppedSteps())
-        text += "; there is no memory left to take back the oldest " + Counted(dropped, "change");
+        text += "; not enough memory to undo the oldest " + Counted(dropped, "change");
     return text;
 }
 
@@ -354,7 +354,7 @@ void CMainFrame::DeselectUnselectable() {
     const int left = m_document->Selected().Count() - static_cast<int>(selectable.size());
     if (left == 0) return;
     m_view.SelectOnly(selectable);
-    m_status.ShowMessage(Counted(left, "graphic") + " on locked or hidden layers left the selection");
+    m_status.ShowMessage(Counted(left, "graphic") + " on locked or hidden layers deselected");
 }
 
 // ---- Styles

@@ -119,7 +119,7 @@ void CMainFrame::OnRecentFile(UINT command) {
         return;
     }
     RecentFiles::Remove(path);
-    AfxMessageBox((SystemText(path) + "\n\nThis file is not there any more.").c_str());
+    AfxMessageBox((SystemText(path) + "\n\nThis file no longer exists.").c_str());
 }
 
 // ---- Saving

@@ -31,7 +31,7 @@ CGraphicPropertySheet* CPropertiesPane::NewSheet() {
     return m_edited->sheet.get();
 }
 
-// A sheet over nothing also has pages, but the user did not choose them.
+// A sheet for an empty selection also has pages, but the user did not select them.
 void CPropertiesPane::DeleteSheet() {
     if (HasGraphics() && m_edited->sheet.get()) m_edited->sheet.RememberPage();
     m_edited.reset();

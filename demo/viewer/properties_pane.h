@@ -1,4 +1,4 @@
-// The properties pane beside the drawing: the library's modeless sheet over the selection of a document.
+// The properties pane beside the drawing: the library's modeless sheet for the selection of a document.
 //
 // Everything written since the last Apply becomes one undo step at the next Apply. Escape and Reset undo it. Typed text
 // is applied before the selection changes or the window closes; Apply returns whether that may proceed.

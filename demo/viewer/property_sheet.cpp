@@ -1,4 +1,4 @@
-// The library's sheet over a set of graphics.
+// The library's sheet for a set of graphics.
 
 #include "demo/viewer/property_sheet.h"
 

@@ -1,4 +1,4 @@
-// The library's sheet over the selection of a document, or over any set of graphics.
+// The library's sheet for the selection of a document or any other set of graphics.
 #pragma once
 
 #include <afxwin.h>

@@ -1,7 +1,7 @@
 // The styles of an open drawing, and the current style.
 //
 // A style is a block of the table "_Blocks_" whose contents have the name of the demo's style tree. The contents are
-// two samples, a shape and a text, whose attributes are those of the style; a sheet over the contents edits them.
+// two samples, a shape and a text, whose attributes are those of the style; a sheet for the contents edits them.
 #pragma once
 
 #include <cstdint>
@@ -39,7 +39,7 @@ public:
     std::string WhyNot(const std::string& name) const;
     // Returns the parts that at least one of the graphics has.
     static Parts PartsOf(const std::vector<GraphicStruct*>& graphics);
-    // For each part the first graphic that has it, or null.
+    // The first graphic that has each part, or null.
     struct Examples {
         GraphicStruct *pen, *brush, *text;
     };

@@ -35,7 +35,7 @@ int EditStyle(CWnd* owner, Document& document, uint16_t style) {
 std::string DeleteStyle(CWnd* owner, Document& document, uint16_t style) {
     const std::string name = Quoted(document, style);
     if (const int uses = document.Styles().Uses(style)) {
-        const std::string text = "The style " + name + " stays: " + std::to_string(uses) +
+        const std::string text = "The style " + name + " cannot be deleted: " + std::to_string(uses) +
                                  (uses == 1 ? " graphic uses it." : " graphics use it.");
         owner->MessageBox(text.c_str(), "Delete Style", MB_OK | MB_ICONEXCLAMATION);
         return "";
@@ -84,6 +84,6 @@ std::string EditStyles(CWnd* owner, Document& document) {
 
 std::string ApplyStyle(Document& document) {
     const int changed = document.Change([&] { document.Styles().ApplyCurrent(document.Selected().Members()); });
-    return std::to_string(changed) + (changed == 1 ? " graphic" : " graphics") + " put into style " +
-           Quoted(document, document.Styles().Current());
+    return "Style " + Quoted(document, document.Styles().Current()) + " applied to " + std::to_string(changed) +
+           (changed == 1 ? " graphic" : " graphics");
 }

@@ -10,8 +10,8 @@ class Document;
 
 // Creates a style from the selection with the wizard.
 std::string NewStyle(CWnd* owner, Document& document);
-// Opens the library's sheet over the current style, and over those that the user creates or selects in it, until it is
-// closed.
+// Opens the library's sheet for the current style, and then for each style that the user creates or selects in it,
+// until the sheet is closed.
 std::string EditStyles(CWnd* owner, Document& document);
 // Applies the current style to the selection as one undo step.
 std::string ApplyStyle(Document& document);

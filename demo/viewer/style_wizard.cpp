@@ -96,7 +96,7 @@ private:
 
 std::string PartText(const char* part, bool kept, GraphicStruct* example, const std::vector<const char*>& properties) {
     std::string line = std::string(part) + ": ";
-    if (!kept) return line + "as each graphic has it\r\n";
+    if (!kept) return line + "unchanged\r\n";
     if (!example) return line + "the default\r\n";
     for (const char* property : properties)
         line += (property == properties.front() ? "" : ", ") + PropertyText(example, property);

@@ -16,7 +16,7 @@ namespace {
 
 using orlo::host::ReadProperty;
 
-// A value as graphics share it: the width of a pen by the scale system, a color by layer with the layer's.
+// A value that several graphics can share: a pen width with its scale system, a color by layer with the layer's color.
 using Value = std::pair<std::variant<uint32_t, double, std::string>, uint32_t>;
 
 struct Holders {
@@ -69,7 +69,7 @@ std::string ValueText(DrawingStruct* drawing, const char* property, uint32_t val
 std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,
                                     const char* name, uint32_t mask) {
     const PropertyInfo& property = *FindPropertyInfo(name);
-    std::map<Value, Holders> values; // texts are made of the few that differ only
+    std::map<Value, Holders> values; // only the few distinct values are formatted
     for (GraphicStruct* graphic : graphics) {
         const std::optional<Value> value = ValueOf(drawing, graphic, property, mask);
         if (value) ++values.insert({*value, {graphic, 0}}).first->second.count;

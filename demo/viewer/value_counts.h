@@ -9,7 +9,7 @@
 
 // Returns the value of a property as text; "-" if the graphic has no such property.
 std::string PropertyText(GraphicStruct* graphic, const char* property);
-// Returns a whole number as the value of a property: the name of a color or of a layer.
+// Returns an integer as the value of a property: the name of a color or of a layer.
 std::string ValueText(DrawingStruct* drawing, const char* property, uint32_t value);
 
 // A value and the number of graphics that have it.

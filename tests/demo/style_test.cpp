@@ -236,7 +236,7 @@ TEST_F(Styles, AreDeletedOnRequestIfUnused) {
     EXPECT_EQ(current(), "Blue");
 
     user.Key('E', UserInput::kControl);
-    EXPECT_EQ(erase("Blue", IDOK), "The style \"Blue\" stays: 4 graphics use it.");
+    EXPECT_EQ(erase("Blue", IDOK), "The style \"Blue\" cannot be deleted: 4 graphics use it.");
     EXPECT_EQ(styles().All().size(), 1u);
     user.Key('Z', UserInput::kControl);
     erase("Blue", IDYES);
