@@ -48,8 +48,8 @@ inline void Print(const char* name, double value, const char* unit) {
     std::fflush(stdout);
 }
 
-// Prints the growth of both with ten times the amount of data: if they grow alike, the reason is the processor's
-// caches.
+// Prints the growth of both with ten times the amount of data: if both grow alike, the processor's caches are the
+// cause.
 inline void PrintGrowth(const std::string& name, const Pair& small, const Pair& large) {
     Print((name + "_growth").c_str(), large.seconds / small.seconds, "x_for_10n");
     Print((name + "_baseline_growth").c_str(), large.baseline / small.baseline, "x_for_10n");

@@ -48,7 +48,7 @@ unsigned long ProcessId() {
 }
 
 struct BlockedSignals {
-    ~BlockedSignals() {} // an interrupt runs in its own thread, which retries
+    ~BlockedSignals() {} // nothing to restore: an interrupt runs in its own thread, which retries
 };
 
 // Returns the file that a name refers to. Device names exist in every folder.

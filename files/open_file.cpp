@@ -117,7 +117,7 @@ OpenFile OpenAgainstWriters(const std::filesystem::path& path) {
         if (!file) FailToOpen(path);
         return file;
     };
-    open(GENERIC_READ | GENERIC_WRITE, 0); // readers, too, would go on with what they have read
+    open(GENERIC_READ | GENERIC_WRITE, 0); // excludes readers too, which would continue with outdated contents
     return open(GENERIC_READ, FILE_SHARE_READ);
 #else
     return OpenToRead(path);

@@ -40,8 +40,8 @@ private:
 
 // Opens an existing file for reading. Other programs can read, write and replace it meanwhile. Throws FileError.
 OpenFile OpenToRead(const std::filesystem::path& path);
-// Opens an existing file for reading. On Windows no other program can write it as long as it is open; a program that
-// has it open already makes the call fail. Throws FileError.
+// Opens an existing file for reading. On Windows no other program can write it as long as it is open. Throws FileError,
+// also if another program already has it open for writing.
 OpenFile OpenAgainstWriters(const std::filesystem::path& path);
 // Opens an existing file for writing at its beginning. Throws FileError.
 OpenFile OpenToWrite(const std::filesystem::path& path);

@@ -1,5 +1,5 @@
-// Compound files: any bytes are walked and read in bounded time and memory, and every stream of a intact file is
-// complete, also after the file was laid out anew.
+// Compound files: any bytes are traversed and read in bounded time and memory, and every stream of an intact file is
+// complete, also after the file was rewritten with a new layout.
 
 #include <cstdint>
 #include <cstdlib>

@@ -71,7 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         changed = patch.Finish();
         CheckStructure(text, drawing);
     } catch (const dxf::SaveError&) {
-        return 0; // reported, with nothing written
+        return 0; // the error is reported and nothing is written
     } catch (const dxf::ReadError&) {
         return 0;
     }

@@ -35,7 +35,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     char* end = nullptr;
     const double number = StringToDouble(0, text.c_str(), &end);
     const std::string taken(text.c_str(), static_cast<const char*>(end));
-    Require(NumberIn(text) == NumberIn(taken) || taken.find('-') != taken.npos); // "6-1/2x" is a difference
+    Require(NumberIn(text) == NumberIn(taken) || taken.find('-') != taken.npos); // "6-1/2x" is a subtraction
     if (!taken.empty() && taken.find('-') == taken.npos) {
         const double alike = NumberIn("1*(" + taken + ")");
         Require(alike == number || taken.find('(') != taken.npos); // unless it is nested too deeply

@@ -46,7 +46,7 @@ int CPropertySheet::DoModal() {
     return RunModal(m_pParentWnd, [this](HWND owner) {
         const DWORD style = WS_SYSMENU | WS_POPUP | WS_CAPTION | DS_MODALFRAME;
         if (!CreateSheetWindow(owner, style, WS_EX_DLGMODALFRAME)) return false;
-        // Not if it was ended during its creation.
+        // A sheet that was ended during its creation is not shown.
         if (IsModal()) Open();
         return true;
     });

@@ -57,7 +57,7 @@ private:
 // Wraps an exception that is not a CException, so that all exceptions are reported in the same way.
 class UnexpectedException : public CException {
 public:
-    // The text must outlive the object; there may be no memory for a copy.
+    // The text must outlive the object, because there may be no memory for a copy.
     explicit UnexpectedException(LPCSTR text) : CException(FALSE), m_text(text) {}
     BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT*) override {
         ::lstrcpynA(lpszError, m_text, static_cast<int>(nMaxError));

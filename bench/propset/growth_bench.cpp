@@ -164,7 +164,7 @@ double Measure(Sized& sized, void (*work)(Sized&)) {
 
 } // namespace
 
-// The last step shows whether time grows faster than the set in general, or only where the set exceeds the processor's
+// The last step shows whether time always grows faster than the set, or only when the set exceeds the processor's
 // caches.
 void BenchGrowth() {
     constexpr struct {

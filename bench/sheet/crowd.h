@@ -13,7 +13,7 @@ public:
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Selection() const { return m_selection.get(); }
-    // The drawing then owns the graphic.
+    // Transfers ownership of the graphic to the drawing.
     void Add(GraphicStruct* graphic) {
         ::SelectionAdd(Selection(), ::GraphicAdd(::DrawingGetRoot(Drawing()), graphic));
     }

@@ -1,4 +1,4 @@
-// Finds and activates the pages of a property sheet like a user.
+// Finds the pages of a property sheet and activates them as a user does.
 #pragma once
 
 #include <afxdlgs.h>

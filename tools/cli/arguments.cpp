@@ -24,7 +24,7 @@ std::string ContentsOf(const std::string& name) {
     const auto contents = [](std::istream& stream) { return std::string(std::istreambuf_iterator<char>(stream), {}); };
     if (name == "-") return contents(std::cin);
     const fs::path path = fs::u8path(name);
-    files::OpenToRead(path); // throws with the reason
+    files::OpenToRead(path); // throws an error with the reason
     std::ifstream stream(path, std::ios::binary);
     return contents(stream);
 }

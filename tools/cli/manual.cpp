@@ -114,7 +114,7 @@ std::string BashCompletion(const CLI::App& app, const CompletedWords& words) {
            function + " " + app.get_name() + "\n";
 }
 
-// Ends the parsing like --version.
+// Adds an option that prints a text and ends parsing, like --version.
 void AddPrinted(CLI::App& app, const char* name, const char* description, const std::function<std::string()>& text) {
     app.add_flag_callback(
         name, [text] { throw CLI::CallForVersion(text(), 0); }, description);

@@ -15,8 +15,8 @@ using CompletedWords = std::map<std::string, std::vector<std::string>>;
 // Adds --version, --man and --completion. Must be called before commands are added, which inherit settings.
 void AddCommonOptions(CLI::App& app, const std::string& version, const CompletedWords& words = {});
 
-// Parses the command line. Returns true if there is something to do. Otherwise `output` is to be printed (help, manual
-// page), or `error` contains the error, preceded by the program's name.
+// The result of parsing a command line. If isParsed is false, `output` is the text to print (help, manual page), or
+// `error` is the error message, preceded by the program's name.
 struct ParseResult {
     bool isParsed = false;
     std::string output, error;

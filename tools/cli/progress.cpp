@@ -31,7 +31,7 @@ void Progress::Show(const std::string& file, int permille) {
     const size_t filled = kBar * (1000 * done_ + static_cast<size_t>(permille)) / (1000 * total_);
     const std::string line = "[" + std::string(filled, '#') + std::string(kBar - filled, '.') + "] " +
                              std::to_string(done_) + "/" + std::to_string(total_) + " " + Shortened(file);
-    // Blanks over what was longer: a console need not know the sequence that clears a line.
+    // Overwrites a longer line with blanks, because some consoles do not support the sequence that clears a line.
     print_("\r" + line + std::string(shown_ > line.size() ? shown_ - line.size() : 0, ' '));
     shown_ = line.size();
 }

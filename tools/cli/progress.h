@@ -1,4 +1,4 @@
-// A bar on the terminal while many files, or a large one, are worked on.
+// A progress bar on the terminal while many files, or a large one, are processed.
 #pragma once
 
 #include <chrono>
@@ -16,19 +16,18 @@ public:
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
 
-    // Called while a file is worked on, with the part that is done; the bar appears when the work takes longer than a
-    // moment.
+    // Must be called while a file is processed, with the completed share. The bar appears after half a second.
     void Show(const std::string& file, int permille = 0);
-    // Called after each file.
+    // Must be called after each file.
     void Finish() { ++done_; }
-    // Called before anything else is printed on the terminal.
+    // Must be called before anything else is printed on the terminal.
     void Hide();
 
 private:
     size_t total_;
     size_t done_ = 0;
     std::function<void(const std::string& text)> print_;
-    size_t shown_ = 0; // bytes of the line on the terminal
+    size_t shown_ = 0; // length of the line on the terminal in bytes
     std::chrono::steady_clock::time_point nextDraw_;
 };
 
