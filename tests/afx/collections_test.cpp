@@ -85,7 +85,7 @@ TEST(StringMap, IteratesInInsertionOrder) {
     EXPECT_TRUE(map.RemoveKey("ant"));
     EXPECT_FALSE(map.RemoveKey("ant"));
     EXPECT_FALSE(map.Lookup("ant", value));
-    EXPECT_EQ(&two, value) << "a failed look-up leaves the value alone";
+    EXPECT_EQ(&two, value) << "a failed lookup does not change the value";
     map.SetAt("ant", &one);
     EXPECT_EQ(Keys(map), (std::vector<std::string>{"zebra", "", "ant"}));
 }
@@ -116,7 +116,7 @@ TEST(WordMap, StoresAll65536Keys) {
     EXPECT_EQ(map.GetCount(), 0x10000);
     EXPECT_EQ(&item, map[0xFFFF]);
     map.RemoveAll();
-    EXPECT_EQ(map[7], nullptr) << "a key that is asked for by [] is made as null";
+    EXPECT_EQ(map[7], nullptr) << "[] inserts a missing key with null";
     EXPECT_EQ(map.GetCount(), 1);
 }
 

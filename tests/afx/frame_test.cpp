@@ -38,7 +38,7 @@ protected:
     }
     void TearDown() override {
         if (!gone) frame->DestroyWindow();
-        EXPECT_TRUE(gone) << "the object goes with its window";
+        EXPECT_TRUE(gone) << "the object is deleted with its window";
         EXPECT_EQ(AfxGetMainWnd(), nullptr);
     }
 };

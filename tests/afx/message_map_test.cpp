@@ -109,7 +109,7 @@ TEST_F(MessageMap, ParametersKeepTheirWidth) {
 
 TEST_F(MessageMap, DerivedHandlersPrecedeInheritedOnes) {
     EXPECT_EQ(Send(WM_COMMAND, 10, 0), "derived greet;");
-    EXPECT_EQ(Send(WM_TIMER, 1, 0), "timer;") << "the base's own";
+    EXPECT_EQ(Send(WM_TIMER, 1, 0), "timer;") << "that of the base class";
 }
 
 struct Command {
@@ -191,7 +191,7 @@ TEST_F(MessageMap, HelpIsRequestedFromTheWindowOutward) {
     inner.answer = 1;
     inner.OnHelp();
     EXPECT_EQ(inner.asked, 2);
-    EXPECT_EQ(outer.asked, 1) << "the inner one gave help";
+    EXPECT_EQ(outer.asked, 1) << "the inner window has shown help";
 }
 
 } // namespace

@@ -16,7 +16,7 @@ const LPCSTR kGroupIcon = reinterpret_cast<LPCSTR>(RT_GROUP_ICON);
 TEST(ModuleChain, IsSearchedFromTheProgramToTheFramework) {
     HINSTANCE program = ::GetModuleHandleA(nullptr);
     EXPECT_EQ(program, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_FORM), reinterpret_cast<LPCSTR>(RT_DIALOG)));
-    EXPECT_EQ(program, AfxFindResourceHandle(kIcon, kGroupIcon)) << "none has it: the program's own";
+    EXPECT_EQ(program, AfxFindResourceHandle(kIcon, kGroupIcon)) << "no module has it: the program's";
     CString text;
     EXPECT_TRUE(text.LoadString(IDS_SHEET));
     EXPECT_STREQ(text, "Sheet of strings");

@@ -53,7 +53,7 @@ const CRect OwnerDraw::kPlace(10, 10, 110, 210);
 TEST_F(OwnerDraw, CallsVirtualFunctionsOfAListBox) {
     Drawn<CListBox> list;
     ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_SORT, kPlace, &parent, 7));
-    EXPECT_EQ(list.calls, "M") << "measured while it is made";
+    EXPECT_EQ(list.calls, "M") << "measured during creation";
     CRect item;
     for (ULONG_PTR data : {3, 1, 2})
         list.AddString(reinterpret_cast<LPCSTR>(data));
@@ -76,13 +76,13 @@ TEST_F(OwnerDraw, CallsVirtualFunctionsOfAComboBox) {
         combo.AddString(reinterpret_cast<LPCSTR>(data));
     EXPECT_EQ(combo.SendMessage(CB_GETITEMHEIGHT, 0), kItemHeight);
     combo.UpdateWindow();
-    EXPECT_EQ(combo.lastDrawn, -1) << "the field of a combo without a selection";
+    EXPECT_EQ(combo.lastDrawn, -1) << "the field of a combo box without a selection";
     combo.SetCurSel(1);
     combo.UpdateWindow();
     EXPECT_EQ(combo.lastDrawn, 1);
     EXPECT_NE(std::string::npos, combo.calls.find('C'));
     combo.DestroyWindow();
-    EXPECT_NE(std::string::npos, combo.calls.find('X')) << "the object is there until its items have gone";
+    EXPECT_NE(std::string::npos, combo.calls.find('X')) << "the object exists until its items are deleted";
 }
 
 TEST_F(OwnerDraw, MeasuresEachItemWithVariableHeights) {

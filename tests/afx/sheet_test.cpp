@@ -95,9 +95,9 @@ TEST_F(Sheet, OpensOnItsFirstPage) {
         EXPECT_EQ(TabText(sheet, 3), "From a string");
         EXPECT_EQ(sheet.GetActiveIndex(), 0);
         EXPECT_EQ(user.Text(IDC_FIELD), "loaded");
-        EXPECT_TRUE(::IsWindowEnabled(user.Page())) << "the template says disabled";
+        EXPECT_TRUE(::IsWindowEnabled(user.Page())) << "disabled by the template";
         EXPECT_EQ(user.Control(IDC_FIELD), ::GetFocus());
-        EXPECT_EQ(second.m_hWnd, nullptr) << "made when it is needed";
+        EXPECT_EQ(second.m_hWnd, nullptr) << "created on demand";
         for (int id : {IDOK, IDCANCEL, ID_APPLY_NOW, ID_HELP})
             EXPECT_TRUE(Exists(id)) << id;
         user.Type(IDC_FIELD, "typed");
@@ -130,7 +130,7 @@ TEST_F(Sheet, ChangesPagesByClickAndByKey) {
         user.Key(VK_PRIOR, false, true);
         EXPECT_EQ(sheet.GetActiveIndex(), 1);
     });
-    EXPECT_EQ(first.log, "aikakc") << "made once, left twice";
+    EXPECT_EQ(first.log, "aikakc") << "created once, left twice";
     EXPECT_EQ(second.log, "aikac");
 }
 
@@ -213,7 +213,7 @@ TEST_F(Sheet, KeyboardClosesItAndReachesButtons) {
                   sheet.SendMessage(WM_NEXTDLGCTL, press, TRUE); // like the Tab key
                   user.Key(VK_RETURN);
                   user.Key(VK_SPACE);
-                  EXPECT_NE(sheet.m_hWnd, nullptr) << "Return is the button's, not that of OK";
+                  EXPECT_NE(sheet.m_hWnd, nullptr) << "Return presses the focused button, not OK";
               }));
     EXPECT_EQ(first.log, "aipppc");
 }
@@ -286,7 +286,7 @@ TEST_F(Sheet, HelpRequestStartsAtTheSheet) {
 
 TEST_F(Sheet, EndsWithAnyCode) {
     EXPECT_EQ(Run([&](SheetDriver&) { sheet.EndDialog(3017); }), 3017);
-    EXPECT_EQ(first.log, "ai") << "nobody is asked";
+    EXPECT_EQ(first.log, "ai") << "no prompt";
 }
 
 TEST_F(Sheet, PagesCanBeRemovedWhileItIsOpen) {
@@ -352,7 +352,7 @@ TEST_F(Sheet, Modeless) {
     EXPECT_TRUE(AfxGetThread()->PreTranslateMessage(&tab));
     EXPECT_EQ(::GetDlgItem(first.m_hWnd, IDC_PRESS), ::GetFocus());
     sheet.SendMessage(WM_COMMAND, IDOK);
-    EXPECT_NE(sheet.m_hWnd, nullptr) << "OK saves and stays";
+    EXPECT_NE(sheet.m_hWnd, nullptr) << "OK saves and keeps the sheet open";
     EXPECT_EQ(first.log, "aiko");
     sheet.SendMessage(WM_COMMAND, IDCANCEL);
     EXPECT_EQ(sheet.m_hWnd, nullptr);

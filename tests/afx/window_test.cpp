@@ -58,7 +58,7 @@ TEST_F(Window, ReceivesItsFirstAndLastMessages) {
     EXPECT_EQ(child.GetDlgCtrlID(), 5);
     CString text;
     child.GetWindowText(text);
-    EXPECT_STREQ(text, "text") << "the class's own procedure has made the window";
+    EXPECT_STREQ(text, "text") << "the window was created by the procedure of its class";
 
     child.messages.clear();
     HWND window = child.m_hWnd;
@@ -67,7 +67,7 @@ TEST_F(Window, ReceivesItsFirstAndLastMessages) {
     EXPECT_EQ(std::vector<UINT>(child.messages.end() - 2, child.messages.end()), (std::vector<UINT>{WM_NCDESTROY, 0}));
     EXPECT_EQ(CWnd::FromHandlePermanent(window), nullptr);
 
-    ASSERT_TRUE(child.Create("BUTTON", "again", WS_CHILD, kPlace, &parent, 6)) << "an object may be used again";
+    ASSERT_TRUE(child.Create("BUTTON", "again", WS_CHILD, kPlace, &parent, 6)) << "an object can be reused";
     EXPECT_EQ(DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON, child.SendMessage(WM_GETDLGCODE));
 }
 
@@ -76,7 +76,7 @@ TEST_F(Window, ObjectStaysEmptyIfCreationFails) {
     refused.refuseCreate = true;
     EXPECT_FALSE(refused.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
     EXPECT_EQ(refused.m_hWnd, nullptr);
-    EXPECT_EQ(refused.messages.back(), 0u) << "told by PostNcDestroy, once";
+    EXPECT_EQ(refused.messages.back(), 0u) << "notified by PostNcDestroy once";
     EXPECT_EQ(std::count(refused.messages.begin(), refused.messages.end(), 0u), 1);
 
     CLog unknown;

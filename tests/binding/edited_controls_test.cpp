@@ -124,7 +124,7 @@ TEST_F(EditedControls, ShowSomethingOtherThanWhatWasLoaded) {
             EXPECT_EQ(back ? 0 : 2, kit.Writes());
             EXPECT_EQ(back, before == kit[0].properties);
             if (back && kind.id == kEdit) {
-                EXPECT_EQ(width, kThird) << "not what the text says";
+                EXPECT_EQ(width, kThird) << "not the value of the text";
             }
             for (size_t i : {0, 1}) {
                 kit[i].properties = before;
@@ -214,7 +214,7 @@ TEST_F(EditedControls, AreComparedWithTheLastWrittenValue) {
             EXPECT_EQ(kit[0].Number("Width"), 5);
             user.Type(kEdit, first);
             save();
-            EXPECT_NEAR(kThird, kit[0].Number("Width"), 1e-6) << "typed, so another value now";
+            EXPECT_NEAR(kThird, kit[0].Number("Width"), 1e-6) << "typed, so the value has changed";
             EXPECT_NE(kit[0].Number("Width"), 5);
         });
     }
@@ -244,7 +244,7 @@ TEST_F(EditedControls, AsterisksInPlaceOfANumberWriteNothing) {
     }),
               IDOK);
     EXPECT_EQ(kit[0].Number("Width"), kThird);
-    EXPECT_EQ(kit[0].Text("Text"), "****") << "stars are a text like any other";
+    EXPECT_EQ(kit[0].Text("Text"), "****") << "asterisks are ordinary text";
 }
 
 } // namespace

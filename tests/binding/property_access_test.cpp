@@ -70,7 +70,7 @@ TEST(Merge, ExceptionOfTheHostLeaksNoString) {
         kit[1].onGet = [] { AfxThrowUserException(); };
         try {
             page.GetPropText("Name", &text, 0);
-            ADD_FAILURE() << "the exception did not come out";
+            ADD_FAILURE() << "the exception was not thrown";
         } catch (CException* exception) {
             exception->Delete();
         }

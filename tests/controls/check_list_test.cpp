@@ -43,7 +43,7 @@ TEST_F(CheckList, StoresTheFlagUnchanged) {
     EXPECT_EQ(m_list.AddString("off", 0), 0);
     EXPECT_EQ(m_list.AddString("seven", 7), 1);
     EXPECT_EQ(m_list.InsertString(0, "first", 1), 0);
-    EXPECT_EQ(m_list.checks, 3) << "through the virtual";
+    EXPECT_EQ(m_list.checks, 3) << "by the virtual function";
     EXPECT_EQ(m_list.IsItemChecked(0), 1);
     EXPECT_EQ(m_list.IsItemChecked(1), 0);
     EXPECT_EQ(m_list.IsItemChecked(2), 1);
@@ -52,7 +52,7 @@ TEST_F(CheckList, StoresTheFlagUnchanged) {
     EXPECT_EQ(m_list.GetItemData(2), 0u);
     m_list.ToggleItem(2);
     EXPECT_EQ(m_list.GetItemData(2), 1u) << "not the seven";
-    EXPECT_EQ(m_list.IsItemChecked(99), 1) << "of an item that does not exist the list box gives -1";
+    EXPECT_EQ(m_list.IsItemChecked(99), 1) << "LB_ERR for an item that does not exist";
     EXPECT_EQ(m_list.InsertString(99, "nowhere", 1), LB_ERR);
     EXPECT_EQ(m_list.GetCount(), 3);
     EXPECT_EQ(m_list.InvalidateItem(99, 0), 0);
@@ -152,7 +152,7 @@ TEST_F(CheckList, DrawsTheCheckMarkInABoxInTheWindowColor) {
         EXPECT_EQ(gray, m_pixels.At(on.left, on.top));
         Draw(1, ODA_DRAWENTIRE, state);
         const COLORREF window = ::GetSysColor(COLOR_WINDOW);
-        EXPECT_LE(23, m_pixels.CountWhere(off, [=](COLORREF c) { return c != window; })) << "sunken as well";
+        EXPECT_LE(23, m_pixels.CountWhere(off, [=](COLORREF c) { return c != window; })) << "also sunken";
         EXPECT_EQ(m_pixels.Count({off.left + 2, off.top + 2, off.right - 2, off.bottom - 2}, window), 8 * 8);
         const CRect text(40, off.top, 120, off.bottom);
         EXPECT_LT(200, m_pixels.Count(text, ::GetSysColor(state ? COLOR_HIGHLIGHT : COLOR_WINDOW)));
@@ -163,7 +163,7 @@ TEST_F(CheckList, DrawsTheCheckMarkInABoxInTheWindowColor) {
     Draw(0, ODA_DRAWENTIRE, 0);
     const CRect inside(on.left + 2, on.top + 2, on.right - 2, on.bottom - 2);
     EXPECT_LT(10, m_pixels.Count(inside, white)) << "the mark";
-    EXPECT_LT(20, m_pixels.Count(inside, black)) << "the box";
+    EXPECT_LT(20, m_pixels.Count(inside, black)) << "the check box";
     const int objects = GdiObjectCount();
     for (int i = 0; i < 100; ++i)
         Draw(0, ODA_DRAWENTIRE, ODS_FOCUS | ODS_SELECTED);

@@ -79,7 +79,7 @@ TEST_F(ColorControl, ItemsAreInsertedInOrderBeforeTheExtraEntries) {
     FillColors();
     EXPECT_EQ(m_control.AddControlItem("00808080\tMiddle"), 1);
     EXPECT_EQ(Color(1), RGB(0x80, 0x80, 0x80));
-    EXPECT_EQ(m_control.AddControlItem("000A0A0A\tDark again"), 0) << "ahead of its equal";
+    EXPECT_EQ(m_control.AddControlItem("000A0A0A\tDark again"), 0) << "before an equal item";
 }
 
 TEST_F(ColorControl, ExtraEntriesFollowTheColors) {
@@ -191,7 +191,7 @@ TEST_F(Swatch, WhiteHasABlackFrame) {
         EXPECT_EQ(m_pixels.At(at.x, at.y), kBlack) << at.x << "," << at.y;
     EXPECT_EQ(m_pixels.At(50, 19), kUntouched) << "within its row";
     DrawOnly(kWhite, "", kField);
-    EXPECT_EQ(m_pixels.At(50, 19), kBlack) << "over the border of the field";
+    EXPECT_EQ(m_pixels.At(50, 19), kBlack) << "covers the border of the field";
     EXPECT_EQ(m_pixels.At(50, 28), kWhite);
 }
 
@@ -245,10 +245,10 @@ TEST_F(Swatch, TheCurrentRowIsMarkedOnAnyColor) {
         EXPECT_LT(100, std::max(m_pixels.Count(kRow, highlight) - highlighted, m_pixels.Count(kRow, other) - others))
             << color;
         Draw(0, kRow, ODA_SELECT, 0);
-        EXPECT_EQ(highlighted, m_pixels.Count(kRow, highlight)) << "and without the mark where it has gone on";
+        EXPECT_EQ(highlighted, m_pixels.Count(kRow, highlight)) << "and without the marker where it continues";
     }
     Draw(0, kRow, ODA_FOCUS, ODS_FOCUS);
-    EXPECT_NE(m_pixels.Count(kRow, kUntouched), 100 * 16) << "the focus rectangle alone";
+    EXPECT_NE(m_pixels.Count(kRow, kUntouched), 100 * 16) << "only the focus rectangle";
     EXPECT_EQ(m_pixels.At(50, 28), kUntouched);
 }
 

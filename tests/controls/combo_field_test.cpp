@@ -34,7 +34,7 @@ protected:
     void ExpectFocusAndDisabledState(int id) {
         const Picture plain = Draw(id, 0), focused = Draw(id, ODS_FOCUS), disabled = Draw(id, ODS_DISABLED);
         EXPECT_LE(50, Differences(plain, focused)) << id;
-        EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_FOCUS)) << id << ": drawn whole";
+        EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_FOCUS)) << id << ": drawn completely";
         EXPECT_EQ(focused, Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2)) << id;
         EXPECT_EQ(Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 1, -1), Draw(id, ODS_FOCUS, ODA_DRAWENTIRE, 2, -1)) << id;
         Draw(id, ODS_DISABLED);

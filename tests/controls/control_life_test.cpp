@@ -142,7 +142,7 @@ TEST(ControlLife, FrameworkCreatesControlsByName) {
         EXPECT_EQ(made, object->GetRuntimeClass());
         delete object;
     }
-    EXPECT_EQ(RUNTIME_CLASS(CComboControl)->m_pfnCreateObject, nullptr) << "a base is not made by name";
+    EXPECT_EQ(RUNTIME_CLASS(CComboControl)->m_pfnCreateObject, nullptr) << "a base class cannot be created by name";
 }
 
 // A page of the program with one control created by its class, and one that the exchange subclasses and fills.

@@ -91,7 +91,7 @@ TEST_F(Fonts, ListsTrueTypeFacesSortedWithoutDuplicates) {
     EXPECT_EQ(installed.size(), texts.size()) << "each once";
     for (size_t i = 1; i < texts.size(); ++i)
         EXPECT_GE(0, ::lstrcmpiA(texts[i - 1].c_str(), texts[i].c_str()));
-    EXPECT_EQ(installed.count("System"), 0u) << "bitmap fonts are not offered";
+    EXPECT_EQ(installed.count("System"), 0u) << "bitmap fonts are not listed";
 }
 
 TEST_F(Fonts, MissingFaceIsAddedToTheList) {
@@ -103,7 +103,7 @@ TEST_F(Fonts, MissingFaceIsAddedToTheList) {
     m_faces.GetLBText(m_faces.GetCurSel(), shown);
     EXPECT_EQ(CString("Nobody's Face"), shown);
     FillFaces("dejavu sans", 1);
-    EXPECT_EQ(installed, m_faces.GetCount()) << "one that it has does not; case does not count";
+    EXPECT_EQ(installed, m_faces.GetCount()) << "a known one does not; case is ignored";
     EXPECT_LE(0, m_faces.GetCurSel());
     for (const unsigned none : {0u, 0xFFFFu}) {
         FillFaces("Nobody's Face", none);
@@ -118,7 +118,7 @@ TEST_F(Fonts, SizesInWorldSpaceAreInDrawingUnits) {
     TableSetStringVar(Units(), kUnitDrawing, "cm");
     FillSizes(5.0f);
     const double expected[] = {2.5, 3.5, 5};
-    ASSERT_EQ(m_sizes.GetCount(), 3) << "a size that comes twice stands once, and 5 is in the list";
+    ASSERT_EQ(m_sizes.GetCount(), 3) << "a duplicate size is listed once, and 5 is listed";
     for (size_t i = 0; i < 3; ++i)
         EXPECT_NEAR(expected[i], HeightOf(Texts(m_sizes)[i].c_str()), 1e-9);
     EXPECT_EQ(Texts(m_sizes)[2], Shown());
@@ -126,7 +126,7 @@ TEST_F(Fonts, SizesInWorldSpaceAreInDrawingUnits) {
 
     FillSizes(7.0f);
     ASSERT_EQ(m_sizes.GetCount(), 4);
-    EXPECT_EQ(Texts(m_sizes)[3], Shown()) << "a height that is in no list joins at the end";
+    EXPECT_EQ(Texts(m_sizes)[3], Shown()) << "an unlisted height is added at the end";
     m_sizes.ShowDropDown(TRUE);
     FillSizes(7.0f);
     EXPECT_EQ(m_sizes.GetCurSel(), 3) << "in the open list it is selected";
@@ -149,7 +149,7 @@ TEST_F(Fonts, WithoutASizeOrAFontNothingIsShown) {
     TableSetStringVar(Units(), kUnitFontName, "");
     FillSizes(5.0f);
     EXPECT_EQ(m_sizes.GetCount(), 0);
-    EXPECT_EQ(m_drawing.Get(), m_sizes.m_pDrawing) << "heights can be converted all the same";
+    EXPECT_EQ(m_drawing.Get(), m_sizes.m_pDrawing) << "heights can be converted nevertheless";
 }
 
 TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
@@ -164,7 +164,7 @@ TEST_F(Fonts, TheListOfSizesFollowsTheFace) {
         EXPECT_EQ(m_sizes.GetCount(), 0);
     }
     FillSizesOf("System");
-    ASSERT_LE(1, m_sizes.GetCount()) << "a bitmap font has the sizes that it has";
+    ASSERT_LE(1, m_sizes.GetCount()) << "a bitmap font has fixed sizes";
     EXPECT_LT(0.0, HeightOf(Texts(m_sizes)[0].c_str()));
     TEXTMETRICA metrics = {};
     metrics.tmHeight = 20;
@@ -237,7 +237,7 @@ TEST_F(Fonts, RowsAreDrawnInTheSystemsColors) {
         EXPECT_LT(area / 2, pixels.Count(row, ::GetSysColor(COLOR_HIGHLIGHT)));
         control->m_nSelected = 5;
         draw(*control, -1, ODS_FOCUS);
-        EXPECT_EQ(area, pixels.Count(row, DrawnPixels::kUntouched)) << "there is no name at hand";
+        EXPECT_EQ(area, pixels.Count(row, DrawnPixels::kUntouched)) << "no name is available";
         control->m_nSelected = 0;
     }
     draw(m_faces, -1, 0);

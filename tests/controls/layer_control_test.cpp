@@ -58,7 +58,7 @@ TEST_F(Layers, ShowEyeBookAndNameInColumns) {
             const int back = state ? COLOR_HIGHLIGHT : COLOR_WINDOW;
             EXPECT_EQ(row.eye, InkFrom(0, 16, back) > 30) << row.name;
             EXPECT_EQ(row.book, InkFrom(16, 32, back) > 30) << row.name;
-            EXPECT_LT(10, InkFrom(32, 140, back)) << row.name << ": the name stands at 32 in any case";
+            EXPECT_LT(10, InkFrom(32, 140, back)) << row.name << ": the name always begins at 32";
             EXPECT_EQ(m_pixels.CountWhere({0, 0, 150, 8}, [](COLORREF c) { return c != kUntouched; }), 0);
         }
     }
@@ -131,7 +131,7 @@ TEST_F(Layers, FocusChangeRedrawsOnlyTheFocus) {
     EXPECT_EQ(m_pixels.Count(kAll, RGB(200, 0, 0)), 0);
     EXPECT_LT(50, m_pixels.CountWhere(kAll, [](COLORREF c) { return c != kUntouched; }));
     Draw(Index(id), ODA_SELECT, 0);
-    EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "a change of selection draws all";
+    EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "a selection change redraws everything";
 }
 
 TEST_F(Layers, SubclassedWindowHasIcons) {

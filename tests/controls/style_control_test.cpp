@@ -161,7 +161,7 @@ TYPED_TEST(StyleControls, WithoutATableOnlyTheBackgroundIsDrawn) {
     const int item = this->IndexOf("Own");
     this->m_control.m_pTable = nullptr;
     this->Draw(item, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS);
-    EXPECT_EQ(this->Ink(), 0) << "no frame and no focus either";
+    EXPECT_EQ(this->Ink(), 0) << "neither frame nor focus";
     this->Draw(-1, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS, kField);
     EXPECT_EQ(this->Ink(), 0);
 }
@@ -183,12 +183,12 @@ TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeRemoved) {
                 colors.push_back(this->m_pixels.At(x, y));
         return colors;
     };
-    EXPECT_EQ(picture(ODA_DRAWENTIRE), picture(ODA_SELECT)) << "the sample has no marks of the frame that goes";
+    EXPECT_EQ(picture(ODA_DRAWENTIRE), picture(ODA_SELECT)) << "the removed frame leaves no traces on the sample";
     this->Draw(item, ODA_FOCUS, ODS_FOCUS);
     EXPECT_EQ(this->m_pixels.Count(kAll, highlight), 0);
-    EXPECT_LT(this->m_pixels.Count(kAll, kUntouched), 150 * 60) << "the focus rectangle alone";
+    EXPECT_LT(this->m_pixels.Count(kAll, kUntouched), 150 * 60) << "only the focus rectangle";
     this->Draw(item, ODA_FOCUS, ODS_SELECTED | ODS_FOCUS, kField);
-    EXPECT_LT(100, this->m_pixels.Count(kAll, highlight)) << "the closed field is always drawn whole";
+    EXPECT_LT(100, this->m_pixels.Count(kAll, highlight)) << "the closed field is always drawn completely";
 }
 
 TYPED_TEST(StyleControls, SubclassedWindowHasASampleWhenFilled) {
@@ -201,7 +201,7 @@ TYPED_TEST(StyleControls, SubclassedWindowHasASampleWhenFilled) {
     EXPECT_EQ(control.Graphic(), nullptr);
     this->FillControl(control);
     ASSERT_NE(control.Graphic(), nullptr);
-    EXPECT_NEAR(this->m_control.Width(), control.Width(), 1e-9) << "as if it had been made with the window";
+    EXPECT_NEAR(this->m_control.Width(), control.Width(), 1e-9) << "as if it had been created with the window";
     control.DestroyWindow();
 }
 
@@ -226,7 +226,7 @@ TYPED_TEST(StyleControls, DrawingCanBeClosedWhileTheControlExists) {
     this->m_table = nullptr;
     this->Fill();
     EXPECT_EQ(this->m_control.GetCount(), 0);
-    EXPECT_EQ(GraphicGetDrawing(this->m_control.Graphic()), nullptr) << "the sample has left the drawing";
+    EXPECT_EQ(GraphicGetDrawing(this->m_control.Graphic()), nullptr) << "the sample is detached from the drawing";
 }
 
 TYPED_TEST(StyleControls, ManyPaintsLeakNothing) {
@@ -355,7 +355,7 @@ TYPED_TEST(BrushStyles, SampleOfAComboBoxFitsItsCell) {
         double last = 0;
         for (const VertexStruct* vertex : orlo::host::Vertices(this->m_control.Graphic()))
             last = vertex->x;
-        EXPECT_NEAR(0.01, last, 1e-12) << "the outline closes where it began";
+        EXPECT_NEAR(0.01, last, 1e-12) << "the outline is closed at its start";
     }
 }
 
@@ -375,7 +375,7 @@ TYPED_TEST(BrushStyles, SamplesAreFilledWithinTheCell) {
     EXPECT_LT(area * 8 / 10, solid);
     EXPECT_LT(area / 40, hatch);
     EXPECT_LT(hatch, solid * 7 / 10);
-    EXPECT_EQ(solid, inkIn("Solid")) << "not the filling of the item before";
+    EXPECT_EQ(solid, inkIn("Solid")) << "not the fill of the previous item";
 }
 
 // ---- Sizes

@@ -34,10 +34,10 @@ TEST_F(StyleNames, ListTheTreeOfTheSelectedBlockSorted) {
     Fill(IDC_STYLE_NAME, m_blocks, zebra);
     ASSERT_EQ(m_control.GetCount(), 2) << "case counts";
     EXPECT_EQ(Shown(), "Zebra");
-    EXPECT_EQ(m_control.GetCurSel(), 1) << "where sorting has put it";
+    EXPECT_EQ(m_control.GetCurSel(), 1) << "at its sorted position";
     Fill(IDC_STYLE_NAME, m_blocks, arch);
     EXPECT_EQ(m_control.GetCurSel(), 0);
-    EXPECT_EQ(m_control.m_nSelected, 0u) << "not kept";
+    EXPECT_EQ(m_control.m_nSelected, 0u) << "not preserved";
     for (const unsigned none : {0u, 0xFFFFu, 0x7777u, static_cast<unsigned>(plain)}) {
         Fill(IDC_STYLE_NAME, m_blocks, none);
         EXPECT_EQ(m_control.GetCount(), 0) << none;

@@ -65,7 +65,7 @@ TYPED_TEST(TableControl, ShowsTheEntriesInTheTablesOrder) {
     EXPECT_EQ(amber, this->m_control.m_nSelected);
 
     this->Fill(this->m_table, zinc);
-    EXPECT_EQ(this->m_control.GetCount(), 2) << "filled anew, not added to";
+    EXPECT_EQ(this->m_control.GetCount(), 2) << "replaced, not appended";
     EXPECT_EQ(this->m_control.GetCurSel(), 0);
 }
 
@@ -73,7 +73,7 @@ TYPED_TEST(TableControl, SelectsNothingForIdentifiersWithoutEntries) {
     TableEntryAdd(this->m_table, "Zinc", nullptr);
     this->m_control.AddString("00000000\tZero");
     this->m_control.AddString("0000FFFF\tIndeterminate");
-    EXPECT_EQ(this->m_control.Find(0), -1) << "whatever the list holds";
+    EXPECT_EQ(this->m_control.Find(0), -1) << "whatever the list contains";
     EXPECT_EQ(this->m_control.Find(kEntryIndeterminate), -1);
     for (const unsigned none : {0u, 0xFFFFu, 0xFFFFFFFFu, 0x7777u}) {
         this->Fill(this->m_table, none);
@@ -93,7 +93,7 @@ TYPED_TEST(TableControl, IsEmptiedByANullTableOrRecord) {
     EXPECT_EQ(this->m_control.m_pTable, nullptr);
     this->m_drawing.Close();
     this->Fill(this->m_table, id);
-    EXPECT_EQ(this->m_control.GetCount(), 0) << "the table of a closed drawing answers as an empty one";
+    EXPECT_EQ(this->m_control.GetCount(), 0) << "the table of a closed drawing behaves like an empty one";
 }
 
 TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
@@ -130,7 +130,7 @@ TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
             control.rowHeight = made.rowHeight = 30;
             this->m_host.notifications.clear();
             ASSERT_TRUE(made.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
-            EXPECT_EQ(this->m_host.Count(kControlReady), 0) << "what is made waits for its dialog";
+            EXPECT_EQ(this->m_host.Count(kControlReady), 0) << "a created control waits for its dialog";
             made.SendMessage(WM_INITIALUPDATE);
             this->m_host.notifications.clear();
             CDataExchange load(&this->m_host, FALSE);
@@ -147,7 +147,7 @@ TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
             EXPECT_EQ(window, this->m_host.notifications.back().control);
             EXPECT_EQ(control.m_nControlID, this->m_host.notifications.back().kind);
             EXPECT_EQ(this->m_table, control.m_pTable);
-            EXPECT_EQ(control.GetCount(), 1) << "filled anew";
+            EXPECT_EQ(control.GetCount(), 1) << "filled again";
             CRect rect;
             control.GetWindowRect(rect);
             EXPECT_NEAR(combo ? rect.Height() : listHeight, rect.Height(), 30);
@@ -230,7 +230,7 @@ TYPED_TEST(TableControl, SelectsByTypedNames) {
         other.AddString(item);
     other.SetCurSel(this->m_control.GetCurSel());
     other.SendMessage(WM_CHAR, 'e', 1);
-    EXPECT_EQ(other.GetCurSel(), 0) << "not the letters of another control";
+    EXPECT_EQ(other.GetCurSel(), 0) << "not the characters of another control";
     other.DestroyWindow();
 }
 
@@ -371,7 +371,7 @@ TEST_F(DropDown, EscapeRestoresTheChoice) {
     m_control.ShowDropDown(TRUE);
     m_host.notifications.clear();
     key(VK_ESCAPE);
-    EXPECT_EQ(m_host.Count(CBN_SELCHANGE), 0) << "nothing was chosen";
+    EXPECT_EQ(m_host.Count(CBN_SELCHANGE), 0) << "nothing was selected";
     m_control.ShowDropDown(TRUE);
     key(VK_DOWN);
     key(VK_RETURN);

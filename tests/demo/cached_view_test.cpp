@@ -114,7 +114,7 @@ TEST_F(MovingPicture, StretchesTheOldPicture) {
         size_t same = 0;
         for (size_t i = 0; i < moved.size(); ++i)
             same += moved[i] == wanted[i];
-        EXPECT_GT(same * 100, moved.size() * (factor > 10 ? 80 : 90)) << "but for edges and letters";
+        EXPECT_GT(same * 100, moved.size() * (factor > 10 ? 80 : 90)) << "except for edges and letters";
         Rest();
     }
 }

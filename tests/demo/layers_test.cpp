@@ -53,8 +53,8 @@ TEST_F(Layers, AreLockedByKeysAndStayVisible) {
         EXPECT_EQ(Row(dialog, 1), "A & B yes - yes 1");
         user.Key(VK_RETURN);
     });
-    EXPECT_EQ(selection().Count(), 3) << "the text left the selection";
-    EXPECT_EQ(WindowText(frame->m_hWnd)[0], '*') << "the file will have it";
+    EXPECT_EQ(selection().Count(), 3) << "the text was deselected";
+    EXPECT_EQ(WindowText(frame->m_hWnd)[0], '*') << "the file will contain it";
     EXPECT_EQ(SelectAll(), 3);
     user.Click(view(), Pixel(26, 31));
     EXPECT_EQ(selection().Count(), 0);
@@ -94,7 +94,7 @@ TEST_F(Layers, AreSortedByColumnAndFilteredByName) {
         user.Mnemonic('k'); // locks "0"
         clickTitle(dialog, 4);
         EXPECT_EQ(names(dialog), "A & B;0;") << "1 and 3 graphics";
-        EXPECT_EQ(Box(dialog, IDC_LAYER_LOCKED), BST_CHECKED) << "the chosen layer stays";
+        EXPECT_EQ(Box(dialog, IDC_LAYER_LOCKED), BST_CHECKED) << "the selected layer is kept";
         clickTitle(dialog, 4);
         EXPECT_EQ(names(dialog), "0;A & B;");
         clickTitle(dialog, 0);
@@ -154,7 +154,7 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndRestoredByCancel) {
             user.Key(VK_DOWN, UserInput::kShift); // both rows
             EXPECT_EQ(Box(dialog, state), BST_INDETERMINATE);
             user.Click(::GetDlgItem(dialog, state));
-            EXPECT_EQ(Box(dialog, state), BST_CHECKED) << "all of them, before none";
+            EXPECT_EQ(Box(dialog, state), BST_CHECKED) << "all of them; previously none";
             EXPECT_EQ(Cell(dialog, 0, 1 + state - IDC_LAYER_ON), "yes");
             user.Click(::GetDlgItem(dialog, state));
             EXPECT_EQ(Cell(dialog, 1, 1 + state - IDC_LAYER_ON), "-");

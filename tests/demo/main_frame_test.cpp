@@ -93,7 +93,7 @@ TEST_F(Viewer, CancelUndoesWrittenPages) {
     EXPECT_EQ(seen, Seen());
     EXPECT_EQ(document().UndoSteps(), 0);
     user.Key('Y', UserInput::kControl);
-    EXPECT_FALSE(before == Properties()) << "what was taken back before can still be made again";
+    EXPECT_FALSE(before == Properties()) << "what was undone before can still be redone";
 }
 
 TEST_F(Viewer, BrokenFileKeepsTheOldDrawing) {
@@ -168,7 +168,7 @@ TEST_F(Viewer, FollowsTheResolutionOfItsMonitor) {
     ::SendMessageA(frame->m_hWnd, WM_DPICHANGED, MAKEWPARAM(192, 192), reinterpret_cast<LPARAM>(&wanted));
     CRect message;
     ::SendMessageA(status, SB_GETRECT, 0, reinterpret_cast<LPARAM>(static_cast<RECT*>(message)));
-    EXPECT_GT(message.Width(), 600 / 5) << "room for what the window says";
+    EXPECT_GT(message.Width(), 600 / 5) << "the pane is wide enough for the text";
 }
 
 TEST_F(Viewer, PropertiesNeedASelection) {
@@ -376,7 +376,7 @@ TEST_F(Saving, EscapeCancelsWithoutAnyChange) {
     pressEscape();
     EXPECT_FALSE(frame->Open(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf"));
     EXPECT_EQ(&document(), before);
-    EXPECT_EQ(selection().Count(), 4) << "the key means the task alone";
+    EXPECT_EQ(selection().Count(), 4) << "the key has only its function";
     Widen(0.5);
     const std::string content = file.Read();
     pressEscape();

@@ -44,7 +44,7 @@ protected:
 
 TEST_F(Pane, ApplyByKeysIsOneStepForAllPages) {
     const DrawingState before = Properties();
-    EXPECT_EQ(::GetFocus(), view()) << "the drawing keeps the keys";
+    EXPECT_EQ(::GetFocus(), view()) << "the drawing keeps the focus";
     user.Key(VK_F6);
     ASSERT_TRUE(::IsChild(pane(), ::GetFocus()));
     FocusByTab(IDC_INFO);
@@ -55,14 +55,14 @@ TEST_F(Pane, ApplyByKeysIsOneStepForAllPages) {
     user.Key(VK_RETURN);
     EXPECT_EQ(before.ChangesTo(Properties()).size(), 2u);
     EXPECT_EQ(document().UndoSteps(), 1);
-    EXPECT_EQ(focused(), IDC_COLOR) << "the sheet stays, and the focus in it";
+    EXPECT_EQ(focused(), IDC_COLOR) << "the sheet stays open and keeps the focus";
     user.Key(VK_F6);
     EXPECT_EQ(::GetFocus(), view());
     user.Key('Z', UserInput::kControl);
     EXPECT_TRUE(before == Properties());
     user.Wait(0);
     ASSERT_TRUE(ClickTab(user, sheet(), 0));
-    EXPECT_EQ(WindowText(control(IDC_INFO)), "") << "the pane shows what undo has made";
+    EXPECT_EQ(WindowText(control(IDC_INFO)), "") << "the pane shows the undone value";
 }
 
 TEST_F(Pane, SelectingAppliesTypedText) {
@@ -122,7 +122,7 @@ TEST_F(Pane, ResetUndoesToTheLastApply) {
     ShowPen();
     TypeScale("4/2");
     user.Key(VK_RETURN);
-    EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "2") << "what was written";
+    EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "2") << "the written value";
     TypeScale("3");
     user.Key(VK_TAB, UserInput::kControl); // leaving the page writes
     EXPECT_EQ(ScaleOf(0), 3);
@@ -159,7 +159,7 @@ TEST_F(Pane, CommitsItsStepBeforeTheModalSheet) {
                 user.Key(VK_RETURN, UserInput::kAlt);
             },
             [&](HWND modal) {
-                EXPECT_FALSE(::IsWindowEnabled(frame->m_hWnd)) << "the pane with it";
+                EXPECT_FALSE(::IsWindowEnabled(frame->m_hWnd)) << "the pane too";
                 ASSERT_TRUE(ClickTab(user, modal, 1));
                 const HWND scale = ::GetDlgItem(ActivePageOf(modal), IDC_PEN_SCALE);
                 EXPECT_EQ(WindowText(scale), "2");

@@ -115,7 +115,7 @@ TEST_F(Remembered, PaneHasAMinimumWidthAndScrollsToTheFocus) {
     }
     EXPECT_NE(Place(sheet()), before);
     DragSplitter(-2000);
-    EXPECT_GE(Place(view()).Width(), 100) << "the drawing keeps some room";
+    EXPECT_GE(Place(view()).Width(), 100) << "the drawing keeps some space";
 }
 
 TEST_F(Remembered, AFittedDrawingIsFittedAgainUntilItIsMoved) {
@@ -149,7 +149,7 @@ TEST_F(Remembered, DecimalMarkIsTheSystemsOrTheUsers) {
     Do(ID_VIEW_MARK_COMMA);
     EXPECT_EQ(mark(), ",");
     EXPECT_EQ(WindowText(::GetDlgItem(ActivePageOf(sheet()), IDC_PEN_SCALE)), "2,5")
-        << "what was typed has been applied before";
+        << "typed text has been applied first";
     char before[8] = "";
     ::GetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, before, sizeof before);
     ::SetLocaleInfoA(LOCALE_USER_DEFAULT, LOCALE_SDECIMAL, ",");

@@ -115,7 +115,7 @@ TEST_F(Styles, AreAppliedAsOneStep) {
     const DrawingState before = Properties();
     user.Key('E', UserInput::kControl);
     EXPECT_EQ(Properties().Values(kPropPenColor), (std::map<std::string, int>{{"Red", 3}, {"By Layer", 1}}))
-        << "a style without a text part leaves the text alone";
+        << "a style without a text part does not change the text";
     EXPECT_EQ(Properties().Values(kPropStyleTree), (std::map<std::string, int>{{"Red", 4}}));
     user.Key('Z', UserInput::kControl);
     EXPECT_TRUE(before == Properties());
@@ -150,7 +150,7 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
         user.Keys(VK_DOWN, 3);
         user.Click(::GetDlgItem(sheet, IDOK));
     }});
-    EXPECT_TRUE(drawing == Properties()) << "the style, not what it was made after";
+    EXPECT_TRUE(drawing == Properties()) << "the style, not the graphic that it was created from";
     user.Key('E', UserInput::kControl);
     EXPECT_EQ(drawing.Values(kPropPenColor).count("Red"), 1u);
     EXPECT_EQ(Properties().Values(kPropPenColor).count("Red"), 0u);

@@ -63,14 +63,14 @@ TEST(Graphics, OwnTheirParts) {
     EXPECT_EQ(a->dwFlags & kFlagNoParent, 0u);
     EXPECT_EQ(GraphicAdd(drawing.Root(), a), nullptr) << "has an owner already";
     GraphicAttach(parent, drawing);
-    EXPECT_EQ(GraphicGetDrawing(b), static_cast<DrawingStruct*>(drawing)) << "parts go with the whole";
+    EXPECT_EQ(GraphicGetDrawing(b), static_cast<DrawingStruct*>(drawing)) << "parts are removed with their owner";
     GraphicDelete(parent, a);
     EXPECT_NE(a->dwFlags & kFlagNoParent, 0u);
     EXPECT_EQ(Members(parent), List{b});
     GraphicDelete(parent, a); // no longer a member: no effect
     GraphicDispose(&a);
     drawing.Close();
-    EXPECT_EQ(GraphicGetDrawing(b), nullptr) << "the drawing is gone";
+    EXPECT_EQ(GraphicGetDrawing(b), nullptr) << "the drawing was deleted";
     GraphicDispose(&parent);
     EXPECT_TRUE(balance.IsEven());
 }
@@ -94,7 +94,7 @@ TEST(Graphics, AreIteratedByKind) {
     GraphicStruct* root = drawing.Root();
     EXPECT_EQ(Members(root), all) << "a group counts as one";
     EXPECT_EQ(Members(root, 0xFFFFFFFF & ~4u), all);
-    EXPECT_EQ(Members(root, 4), all) << "no kind is named";
+    EXPECT_EQ(Members(root, 4), all) << "no kind is specified";
     EXPECT_EQ(Members(root, 0), all);
     EXPECT_EQ(Members(root, kKindVertices), List{line});
     EXPECT_EQ(Members(root, kKindCurve | kKindText | 4), (List{circle, text}));
@@ -164,7 +164,7 @@ TEST(Selections, DoNotOwnTheirMembers) {
     EXPECT_TRUE(SelectionRemove(selection, lines[1]));
     EXPECT_FALSE(SelectionRemove(selection, lines[1]));
     EXPECT_TRUE(SelectionRemove(selection, lines[3]));
-    EXPECT_EQ(Members(selection), (List{lines[0], lines[2], lines[4]})) << "the order stays";
+    EXPECT_EQ(Members(selection), (List{lines[0], lines[2], lines[4]})) << "the order is unchanged";
     EXPECT_TRUE(SelectionContains(selection, lines[4]));
     EXPECT_FALSE(SelectionContains(selection, lines[3]));
     EXPECT_TRUE(SelectionRemove(selection, lines[4]));
@@ -175,7 +175,7 @@ TEST(Selections, DoNotOwnTheirMembers) {
     EXPECT_EQ(SelectionCount(selection), 0);
     SelectionAdd(selection, lines[0]);
     GraphicDispose(&selection);
-    EXPECT_EQ(Members(drawing.Root()).size(), 5u) << "the members stay the drawing's";
+    EXPECT_EQ(Members(drawing.Root()).size(), 5u) << "the drawing still owns the members";
     drawing.Close();
     EXPECT_TRUE(balance.IsEven());
 }

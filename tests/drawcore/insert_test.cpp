@@ -91,7 +91,7 @@ TEST_F(Inserts, OnALayerThatIsOffStillShowTheOtherLayersOfTheirBlock) {
     EXPECT_EQ(picture.At(35, 15), kWhite);
     LayerSet(drawing, hidden, 0, kLayerFrozen, 0);
     Draw();
-    EXPECT_EQ(picture.Covered(), 0) << "frozen hides it all";
+    EXPECT_EQ(picture.Covered(), 0) << "frozen hides everything";
 }
 
 TEST_F(Inserts, OfADeletedBlockShowNothing) {

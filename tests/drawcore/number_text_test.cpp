@@ -82,9 +82,9 @@ TEST(PlainNumber, IsReadFromTheStart) {
     const std::string digits(10000, '9');
     char* end = nullptr;
     EXPECT_EQ(StringToDouble(0, digits.c_str(), &end), 0.0);
-    EXPECT_EQ(end, digits.c_str()) << "too large for a double: refused";
+    EXPECT_EQ(end, digits.c_str()) << "too large for a double: rejected";
     EXPECT_EQ(StringToDouble(0, brackets.c_str(), &end), 0.0);
-    EXPECT_EQ(end, brackets.c_str()) << "brackets in brackets without end";
+    EXPECT_EQ(end, brackets.c_str()) << "endlessly nested brackets";
 }
 
 struct WrittenRow {

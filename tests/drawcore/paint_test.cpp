@@ -48,7 +48,7 @@ TEST_F(Paint, WidthsAreDrawingUnitsOrInchesOfPaper) {
     Draw();
     EXPECT_EQ(picture.Covered(50, 20, 50, 40), 8);
     EXPECT_EQ(picture.Covered(50, 60, 50, 80), 6);
-    EXPECT_EQ(picture.Covered(0, 20, 9, 40), 0) << "cut off flat";
+    EXPECT_EQ(picture.Covered(0, 20, 9, 40), 0) << "flat end";
     // Zoomed in by 2: the width in drawing units grows, the plotter's pen does not.
     ViewportZoom(picture.Viewport(), {50, 50}, 2);
     Draw();
@@ -116,7 +116,7 @@ TEST_F(Paint, LightColorsAreDarkenedOnALightBackground) {
         Draw();
         const COLORREF seen = picture.At(50, 10);
         if (color == kRed) {
-            EXPECT_EQ(seen, kRed) << "can be read as it is";
+            EXPECT_EQ(seen, kRed) << "can be read unchanged";
             continue;
         }
         const int part = GetGValue(seen);
@@ -262,7 +262,7 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
     shape->dwOneOutline = 1;
     picture.Draw(shape);
     EXPECT_EQ(picture.At(50, 50), kRed) << "filled in the pen's color";
-    EXPECT_EQ(picture.At(5, 95), kWhite) << "the excursion shows no line";
+    EXPECT_EQ(picture.At(5, 95), kWhite) << "the detour has no line";
     EXPECT_EQ(picture.Covered(), 81 * 81);
 }
 
@@ -299,7 +299,7 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
     };
     EXPECT_DOUBLE_EQ(draw("Dots 25%"), 0.25);
     EXPECT_DOUBLE_EQ(draw("Dots 75%"), 0.75);
-    EXPECT_DOUBLE_EQ(draw("Brick bitmap"), 1.0) << "its own paper covers all";
+    EXPECT_DOUBLE_EQ(draw("Brick bitmap"), 1.0) << "its own background covers everything";
     EXPECT_NE(picture.At(50, 50), kBlue);
     draw("Dots 50%");
     int blue = 0;
@@ -330,7 +330,7 @@ TEST_F(Paint, SurvivesDistantCoordinates) {
         picture.Draw(shape);
         // Beyond that, a double is too coarse to place an edge in the view.
         if (away <= 1e15) {
-            EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view lies inside";
+            EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view is inside";
         }
         const Loose line(MakeLines({{-away, 50}, {away, 50}}));
         picture.Draw(line);
@@ -462,7 +462,7 @@ TEST_F(Paint, PreviewsShowPensAtFullSize) {
     TableSetIntVar(application->pVariables, kVarPreviewBackground, 0);
     SetInteger(sample, kPropPenColor, 0);
     picture.Draw(sample, 1, kBlack);
-    EXPECT_EQ(picture.At(1, 50), kWhite) << "black is not lost on a black pane";
+    EXPECT_EQ(picture.At(1, 50), kWhite) << "black is visible on a black pane";
     TableSetIntVar(application->pVariables, kVarPreviewBackground, before);
 
     const uint16_t layer = TableEntryAdd(drawing.Table(kTableLayers), "Walls", nullptr);

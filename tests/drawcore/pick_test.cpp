@@ -39,7 +39,7 @@ TEST_F(Pick, FindsTheTopmostNearby) {
     EXPECT_EQ(At(30, 53), first);
     EXPECT_EQ(At(30, 54), nullptr);
     EXPECT_EQ(At(30, 54, 5), first);
-    EXPECT_EQ(At(50, 50), second) << "both: the one on top";
+    EXPECT_EQ(At(50, 50), second) << "both: the topmost one";
     EXPECT_EQ(At(94, 50), nullptr) << "beyond the end";
     EXPECT_EQ(At(50, 50, 3, kKindCurve), nullptr);
     EXPECT_EQ(ViewportPick(nullptr, drawing.Root(), {0, 0}, 3, 0), nullptr);
@@ -62,7 +62,7 @@ TEST_F(Pick, FitsVisibleGraphics) {
     LayerSet(drawing, hidden, 0, kLayerOff, 0);
     EXPECT_NEAR(width(), 10, 0.1);
     SetInteger(close, kPropLayer, hidden);
-    EXPECT_NEAR(width(), 990, 1) << "nothing is seen: where it would be";
+    EXPECT_NEAR(width(), 990, 1) << "nothing is visible at its place";
 }
 
 TEST_F(Pick, CountsWidthsAndFilledAreas) {
@@ -109,7 +109,7 @@ TEST_F(Pick, ByWindowSelectsContainedByCrossingTouchedGraphics) {
     EXPECT_EQ(Within(15, 15, 40, 40, 0), List{inside});
     EXPECT_EQ(Within(15, 15, 40, 40, 1), (List{inside, across}));
     EXPECT_EQ(Within(0, 0, 100, 100, 0), (List{inside, across, outside, around}));
-    EXPECT_TRUE(Within(40, 40, 50, 50, 1).empty()) << "within an outline, touching nothing";
+    EXPECT_TRUE(Within(40, 40, 50, 50, 1).empty()) << "inside an outline without touching it";
     SetInteger(around, kPropBrushStyle, 1);
     EXPECT_EQ(Within(40, 40, 50, 50, 1), List{around}) << "within a filled area";
     EXPECT_EQ(Within(40, 40, 15, 15, 0), List{inside}) << "corners in any order";

@@ -193,7 +193,7 @@ TEST_F(ShapeProperties, ConvertIntegersOnlyIfTheyFit) {
     name = kPropPenWidth;
     table->PropLookup(graphic, &name, 1, 0, &number);
     float single = 5;
-    EXPECT_FALSE(table->PropGet(graphic, number, VT_R4, &single)) << "no float holds it";
+    EXPECT_FALSE(table->PropGet(graphic, number, VT_R4, &single)) << "out of range for a float";
 }
 
 TEST_F(ShapeProperties, FreeTheTextThatAVariableContained) {

@@ -74,7 +74,7 @@ TEST_F(Tables, TruncateNamesToTheBuffer) {
 TEST_F(Tables, ReuseIdentifiersOnlyWhenTheyRunOut) {
     for (int i = 0; i < 0xFFF0; ++i)
         ASSERT_NE(TableEntryAdd(table, std::to_string(i).c_str(), nullptr), 0) << i;
-    EXPECT_EQ(TableEntryAdd(table, "one more", nullptr), 0) << "what is above are markers";
+    EXPECT_EQ(TableEntryAdd(table, "one more", nullptr), 0) << "greater values are markers";
     TableEntryDelete(table, 77);
     EXPECT_EQ(TableEntryAdd(table, "one more", nullptr), 77);
 }
@@ -206,7 +206,7 @@ TEST_F(Tables, BrushStylesReturnTheirKindAndLines) {
     EXPECT_EQ(BrushStyleAddLines(styles, "Flat", &bad, 1), 0);
     bad.spacing = NAN;
     EXPECT_EQ(BrushStyleAddLines(styles, "None", &bad, 1), 0);
-    EXPECT_EQ(BrushStyleAddLines(styles, "weave", lines, 2), 0) << "the name is taken";
+    EXPECT_EQ(BrushStyleAddLines(styles, "weave", lines, 2), 0) << "the name exists";
 }
 
 // All functions are safe with a table or drawing that no longer exists.

@@ -95,7 +95,7 @@ TEST_F(Texts, ReturnTheFaceThatTheyAreDrawnIn) {
     EXPECT_EQ(GetText(text, kPropTextFont), current);
     EXPECT_EQ(::EnumFontFamiliesA(orlo::WindowDC(nullptr).get(), current, Found, 0), 77) << current;
     EXPECT_TRUE(SetText(text, kPropTextFont, "Nobody's Face"));
-    EXPECT_EQ(GetText(text, kPropTextFont), "Nobody's Face") << "what it was told, whoever draws it";
+    EXPECT_EQ(GetText(text, kPropTextFont), "Nobody's Face") << "its settings, whoever draws it";
 }
 
 TEST_F(Texts, ShowTheirEffects) {
@@ -109,7 +109,7 @@ TEST_F(Texts, ShowTheirEffects) {
     EXPECT_GT(plain, 20);
     EXPECT_EQ(covered(0x0008), 0) << "hidden";
     EXPECT_GT(covered(0x0100), plain + 10) << "underlined";
-    EXPECT_GT(covered(0x0004), plain) << "struck through";
+    EXPECT_GT(covered(0x0004), plain) << "strikethrough";
     EXPECT_GT(covered(0x1000), plain + 60) << "framed";
     EXPECT_GT(covered(0x0040), plain) << "NNNN";
     const double narrow = Width(text);

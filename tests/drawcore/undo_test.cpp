@@ -45,7 +45,7 @@ TEST_F(Undo, RevertsACompleteStep) {
         EXPECT_EQ(GetWhole(line, kPropBrushStyle), 0u);
         EXPECT_EQ(GetWhole(line, kPropPenStyle), 65534u);
     }
-    EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing is left to take back";
+    EXPECT_EQ(DrawingUndo(drawing), 0) << "nothing left to undo";
 }
 
 // Each property separately: one that the log misses would not be undone.
@@ -86,7 +86,7 @@ TEST_F(Undo, RevertsMovedVerticesAndIgnoresThoseOnlyRead) {
     VertexSet(copy, 70, 0, 0);
     VertexDispose(&copy);
     EXPECT_EQ(right(0), 51);
-    EXPECT_EQ(right(1), 2) << "a copy of a vertex is nobody's";
+    EXPECT_EQ(right(1), 2) << "a copy of a vertex has no owner";
     EXPECT_EQ(right(2), 3);
     EXPECT_EQ(DrawingEndUndo(drawing), 1);
     EXPECT_EQ(DrawingUndo(drawing), 1);
@@ -139,11 +139,11 @@ TEST_F(Undo, RedoesUntilSomethingElseIsChanged) {
     EXPECT_EQ(step([] {}), 0) << "changes nothing";
     GraphicDelete(drawing.Root(), lines[1]);
     GraphicDispose(&lines[1]);
-    EXPECT_EQ(DrawingRedo(drawing), 1) << "one of the two has gone";
+    EXPECT_EQ(DrawingRedo(drawing), 1) << "one of the two was removed";
     DrawingUndo(drawing);
     EXPECT_EQ(step([&] { SetReal(lines[2], kPropPenWidth, 9); }), 1);
     EXPECT_EQ(DrawingRedo(drawing), 0);
-    EXPECT_NE(DrawingGetUndoMark(drawing), end) << "another state, though as many steps away";
+    EXPECT_NE(DrawingGetUndoMark(drawing), end) << "another state, although the number of steps is the same";
 }
 
 TEST_F(Undo, CancelRevertsOnlyTheOpenStep) {
@@ -169,7 +169,7 @@ TEST_F(Undo, CancelRevertsOnlyTheOpenStep) {
     EXPECT_EQ(DrawingCountUndo(drawing), 1);
     EXPECT_EQ(DrawingRedo(drawing), 1);
     EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 3);
-    EXPECT_EQ(DrawingCancelUndo(drawing), 0) << "none is open";
+    EXPECT_EQ(DrawingCancelUndo(drawing), 0) << "no step is open";
 }
 
 TEST_F(Undo, DropsAndCountsTheOldestStepsAtTheMemoryLimit) {
@@ -188,8 +188,8 @@ TEST_F(Undo, DropsAndCountsTheOldestStepsAtTheMemoryLimit) {
     EXPECT_EQ(DrawingUndo(drawing), 3);
     EXPECT_EQ(DrawingUndo(drawing), 0);
     EXPECT_EQ(GetReal(lines[2], kPropPenWidth), 5);
-    EXPECT_NE(DrawingGetUndoMark(drawing), 0u) << "not what was opened";
-    EXPECT_EQ(DrawingRedo(drawing), 3) << "the only one, in whatever room";
+    EXPECT_NE(DrawingGetUndoMark(drawing), 0u) << "not the opened file";
+    EXPECT_EQ(DrawingRedo(drawing), 3) << "the only one, whatever the space";
     EXPECT_EQ(DrawingGetUndoMark(drawing), end);
 }
 
@@ -291,7 +291,7 @@ TEST_F(Undo, IgnoresPreviewsAndHandlesDeletedGraphics) {
     EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 1);
     drawing.Close();
     EXPECT_TRUE(balance.IsEven());
-    EXPECT_FALSE(DrawingBeginUndo(drawing)) << "the drawing is gone";
+    EXPECT_FALSE(DrawingBeginUndo(drawing)) << "the drawing was deleted";
 }
 
 } // namespace

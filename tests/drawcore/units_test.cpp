@@ -137,7 +137,7 @@ TEST_F(Lengths, ShowFourDecimalsOrFourDigits) {
     char buffer[8] = "kept";
     EXPECT_FALSE(DrawingStdNumericToText(drawing, HUGE_VAL, buffer, sizeof buffer, 0));
     EXPECT_FALSE(DrawingStdNumericToText(drawing, NAN, buffer, sizeof buffer, 0));
-    EXPECT_FALSE(DrawingStdNumericToText(drawing, 123.4567, buffer, 8, 0)) << "cut off, it would be another number";
+    EXPECT_FALSE(DrawingStdNumericToText(drawing, 123.4567, buffer, 8, 0)) << "truncated, it would be another number";
     EXPECT_STREQ(buffer, "kept");
 }
 
@@ -192,11 +192,11 @@ TEST_F(Lengths, AreWrittenInTheFormatOfTheDrawing) {
     EXPECT_TRUE(DrawingStdNumericToText(drawing, 46.99, text, sizeof text, 0));
     EXPECT_STREQ(text, "1'-6 1/2\"") << "true feet and inches in a metric drawing";
     EXPECT_TRUE(UnitsNumericToTextEx(units, 0, kUnitPenWidth, 0.35, text, sizeof text, 0, 1));
-    EXPECT_STREQ(text, "0.35 mm") << "nothing on paper is measured in feet";
+    EXPECT_STREQ(text, "0.35 mm") << "lengths on paper are not in feet";
     for (const int wrong : {-1, 0, 6}) {
         TableSetIntVar(units, kUnitLinearSystem, wrong);
         EXPECT_TRUE(DrawingStdNumericToText(drawing, 2.5, text, sizeof text, 0));
-        EXPECT_STREQ(text, "2.5") << "decimal, for want of such a form";
+        EXPECT_STREQ(text, "2.5") << "decimal, because there is no such format";
     }
 }
 
@@ -229,7 +229,7 @@ TEST_F(Lengths, ReadAndWriteTheDecimalMarkOfTheApplication) {
     char text[64];
     EXPECT_TRUE(DrawingStdTextToNumeric(drawing, "1'-6,5\"", &value, 0));
     EXPECT_NEAR(value, 18.5, 1e-12);
-    EXPECT_FALSE(DrawingStdTextToNumeric(drawing, "2.5", &value, 0)) << "2.5 is not read as 2 or 25";
+    EXPECT_FALSE(DrawingStdTextToNumeric(drawing, "2.5", &value, 0)) << "2.5 must not be parsed as 2 or 25";
     EXPECT_TRUE(DrawingStdTextToAngle(drawing, "22,5", &value, 0));
     EXPECT_TRUE(DrawingStdAngleToText(drawing, value, text, sizeof text, 0));
     EXPECT_STREQ(text, "22,5");

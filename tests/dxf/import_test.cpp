@@ -303,7 +303,7 @@ TEST(Import, TiltedPolylinesKeepTheWidthsOfTheirSegments) {
         EXPECT_NEAR(graphic.vertices[i].Next().startWidth, 2.0 * i / pieces, 1e-9) << i;
         EXPECT_NEAR(graphic.vertices[i].Next().endWidth, 2.0 * (i + 1) / pieces, 1e-9) << i;
     }
-    EXPECT_NEAR(BoxOf(drawing).low.y, -2.5, 0.02) << "the half circle, seen at an angle";
+    EXPECT_NEAR(BoxOf(drawing).low.y, -2.5, 0.02) << "the half circle in a tilted plane";
 }
 
 TEST(Import, SplinesHaveTheListedExtents) {

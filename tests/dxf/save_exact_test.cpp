@@ -238,7 +238,7 @@ TEST_F(SaveExact, SavesTheRestAndListsOmissions) {
               (std::vector<std::string>{
                   "0 the file format cannot store a group of graphics",
                   "49 LWPOLYLINE 2F (line 49): the file format cannot store a polyline that has left its plane"}));
-    EXPECT_TRUE(DrawingIsModified(drawing.get())) << "what was left is not saved";
+    EXPECT_TRUE(DrawingIsModified(drawing.get())) << "omitted objects are not saved";
     VertexSet(*Vertices(polyline).begin(), 0, 7, 0);
     GraphicDelete(root, group);
     GraphicDispose(&group);

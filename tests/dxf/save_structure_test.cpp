@@ -189,7 +189,7 @@ TEST_F(SaveStructure, SavesBlocksAddedByTheProgram) {
         const OwnedDrawing without = Open(path);
         EXPECT_EQ(BlocksFindBlock(BlocksFromDrawing(without.get()), "Made \xC4"), 0);
         ExpectNear(BoxesOf(DrawingGetRoot(without.get())), before);
-        EXPECT_EQ(ReadBytes(path).find("Made "), std::string::npos) << "nothing of it is left";
+        EXPECT_EQ(ReadBytes(path).find("Made "), std::string::npos) << "it was removed completely";
     });
 }
 

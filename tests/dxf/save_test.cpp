@@ -93,7 +93,7 @@ TEST_F(Save, StoresEachPropertyOfGraphicsAndBlocks) {
         ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) {
             if (++index % 3 == 0) changed += Set(g, property);
         });
-        EXPECT_GT(changed, 0) << "a value that all have already says nothing";
+        EXPECT_GT(changed, 0) << "a value that all graphics have is not reported";
         for (const uint16_t id : orlo::host::Entries(blocks))
             ForGraphics(BlockGetGraphic(blocks, id), [&](GraphicStruct* g) { Set(g, property); });
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
@@ -180,7 +180,7 @@ TEST_F(Save, DistinguishesAnOpenFileFromAChangedOne) {
     EXPECT_EQ(DrawingSaveDxf(drawing.get(), nowhere.c_str(), 0, nullptr, text, sizeof text), kSaveFailed);
     EXPECT_EQ(std::string(text).find("cannot create a file in its folder: no such folder"), 0u) << text;
     fs::remove(path);
-    EXPECT_EQ(Write(drawing), kSaveDone) << "a file that is gone can be written anew: " << message;
+    EXPECT_EQ(Write(drawing), kSaveDone) << "a deleted file can be written again: " << message;
     EXPECT_TRUE(IsWritten(original));
 }
 

@@ -78,7 +78,7 @@ TEST_F(ButtonExchange, RadioGroupEndsAtTheNextAndSkipsOtherControls) {
     SetState(IDC_RADIO_SECOND, BST_CHECKED);
     int value = -1;
     DDX_Radio(1, &m_save, IDC_RADIO_FIRST, value);
-    EXPECT_EQ(value, 1) << "of several the last counts";
+    EXPECT_EQ(value, 1) << "the last of several is used";
 }
 
 } // namespace

@@ -97,12 +97,12 @@ TEST_F(FontExchange, HeightIsShownAndReadBack) {
         EXPECT_EQ(DDX_CBFontSize(1, &m_save, IDC_FONT_SIZE, size), 1);
         EXPECT_NEAR(height, size, 1e-9);
     }
-    EXPECT_EQ(Send(IDC_FONT_SIZE, CB_GETCOUNT), 3) << "each joins once";
+    EXPECT_EQ(Send(IDC_FONT_SIZE, CB_GETCOUNT), 3) << "each is added once";
 
     double indeterminate = HUGE_VAL;
     const std::string before = Text(IDC_FONT_SIZE);
     EXPECT_EQ(DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, indeterminate), 1);
-    EXPECT_EQ(before, Text(IDC_FONT_SIZE)) << "an indeterminate value leaves the control";
+    EXPECT_EQ(before, Text(IDC_FONT_SIZE)) << "an indeterminate value does not change the control";
 
     double size = 7.0;
     Send(IDC_FONT_SIZE, CB_SETCURSEL, static_cast<WPARAM>(-1));

@@ -84,7 +84,7 @@ TEST_F(ListExchange, ControlObjectIsAttachedOnce) {
     EXPECT_EQ(DDX_Control(1, &m_load, IDC_EDIT, edit), 1);
     EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
     EXPECT_EQ(&edit, CWnd::FromHandlePermanent(Control(IDC_EDIT)));
-    EXPECT_EQ(DDX_Control(1, &m_save, IDC_COMBO, edit), 1) << "an object that has a window is left alone";
+    EXPECT_EQ(DDX_Control(1, &m_save, IDC_COMBO, edit), 1) << "an object with a window is not changed";
     EXPECT_EQ(Control(IDC_EDIT), edit.m_hWnd);
     try {
         DDX_Control(1, &m_load, IDC_EDIT, second);

@@ -75,7 +75,7 @@ TEST_F(ScaleExchange, FailsWithoutAScale) {
     boxes.Clear();
     EXPECT_EQ(DDX_CBScale(0, &m_load, IDC_COMBO, text, m_units, nullptr), 0);
     EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, nullptr); }));
-    EXPECT_TRUE(boxes.Boxes().empty()) << "the caller has not asked the user anything";
+    EXPECT_TRUE(boxes.Boxes().empty()) << "the caller was not prompted";
 }
 
 } // namespace

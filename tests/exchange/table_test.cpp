@@ -38,7 +38,7 @@ TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
     Add("Zinc", "first");
     Add("Amber");
     EXPECT_EQ(FillComboTable(&combo, m_table, 0), 2);
-    EXPECT_EQ(FillComboTable(&combo, m_table, 1), 1) << "an entry without data is passed over";
+    EXPECT_EQ(FillComboTable(&combo, m_table, 1), 1) << "an entry without data is skipped";
     EXPECT_EQ(Items(IDC_COMBO), "Zinc;Amber;first;") << "in the table's order, after the existing items";
     combo.Detach();
 
@@ -52,7 +52,7 @@ TEST_F(TableExchange, PlainControlsAreFilledFromATable) {
     Add(std::string(200, 'n').c_str());
     list.ResetContent();
     FillListBoxTable(&list, m_table, 1);
-    EXPECT_GE(64u + 11, Items(IDC_LIST).size()) << "a name that is too long is cut";
+    EXPECT_GE(64u + 11, Items(IDC_LIST).size()) << "a name that is too long is truncated";
     list.Detach();
 }
 
@@ -83,7 +83,7 @@ TEST_F(TableExchange, ListKeysAreFoundIgnoringCase) {
     EXPECT_EQ(value, 0xABCDu);
     value = 0xABC;
     DDX_LBTableIndex(1, &m_load, IDC_LIST, value);
-    EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 0) << "an identifier in no item leaves the selection";
+    EXPECT_EQ(Send(IDC_LIST, LB_GETCURSEL), 0) << "an unknown identifier keeps the selection";
 }
 
 // The search starts after the first item and reaches it last.
@@ -117,7 +117,7 @@ TEST_F(TableExchange, ExchangesComboKeysInBothDirections) {
     }
     unsigned int unknown = 0x21;
     DDX_CBTableIndex(1, &m_load, IDC_COMBO, unknown);
-    EXPECT_EQ(Text(IDC_COMBO), "00000021\t") << "the key is what the combo shows";
+    EXPECT_EQ(Text(IDC_COMBO), "00000021\t") << "the combo box shows the key";
 }
 
 TEST_F(TableExchange, ColorsAre32BitKeys) {

@@ -96,7 +96,7 @@ TEST_F(UnitText, RejectsInvalidTextWithoutAMessage) {
         }
     EXPECT_TRUE(boxes.Boxes().empty());
     for (const auto& row : kRows) {
-        EXPECT_EQ(Load(HUGE_VAL, row.exchange), "old") << "no text for it";
+        EXPECT_EQ(Load(HUGE_VAL, row.exchange), "old") << "no text";
         EXPECT_EQ(m_result, 0);
     }
 }
@@ -110,7 +110,7 @@ TEST_F(UnitText, BlankFieldsSaveZeroAndDisabledOnesAreShownEmpty) {
         EXPECT_EQ(m_result, 1);
         EXPECT_NE(Load(5.0, exchange), "");
     }
-    EXPECT_NE(Load(5.0, Linear(d, 0), IDC_DISABLED_EDIT), "") << "without the rule it is shown all the same";
+    EXPECT_NE(Load(5.0, Linear(d, 0), IDC_DISABLED_EDIT), "") << "it is shown nevertheless without the rule";
 }
 
 TEST_F(UnitText, NeedsADrawingAndAScale) {

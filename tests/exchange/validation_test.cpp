@@ -25,7 +25,7 @@ protected:
     void ExpectFails(const std::string& says, const Check& check) {
         SCOPED_TRACE(says);
         MessageBoxWatcher boxes;
-        EXPECT_EQ(check(1, &m_load), 1) << "loading checks nothing";
+        EXPECT_EQ(check(1, &m_load), 1) << "loading does not validate";
         EXPECT_EQ(check(0, &m_save), 0);
         EXPECT_TRUE(boxes.Boxes().empty());
         EXPECT_TRUE(Refused([&] { check(1, &m_save); }));

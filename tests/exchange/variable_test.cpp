@@ -62,7 +62,7 @@ TEST_F(VariableExchange, NumbersAreCheckedAndWritten) {
 
     SetText(IDC_EDIT, "-12");
     EXPECT_EQ(DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 0, 100), 0);
-    EXPECT_EQ(Whole(), -99) << "no whole number";
+    EXPECT_EQ(Whole(), -99) << "not an integer";
     EXPECT_EQ(DDX_TextVarInt(0, &m_save, IDC_EDIT, m_table, kLong, 100, 0), 1) << "without limits";
     EXPECT_EQ(Whole(), -12);
     SetText(IDC_EDIT, "1.5");
@@ -109,7 +109,7 @@ TEST_F(VariableExchange, DeviceInchesAreConvertedToMillimeters) {
         SetText(IDC_EDIT, "thick");
         EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
         ASSERT_EQ(boxes.Boxes().size(), 2u);
-        EXPECT_EQ(boxes.Boxes()[0].text, boxes.Boxes()[1].text) << "the limits, for a bad text too";
+        EXPECT_EQ(boxes.Boxes()[0].text, boxes.Boxes()[1].text) << "the limits, also for invalid text";
     }
     {
         MessageBoxWatcher boxes;

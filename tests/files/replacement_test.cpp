@@ -68,7 +68,7 @@ TEST_F(Replacement, ReplacesAFileOrCreatesOne) {
     EXPECT_FALSE(files::HasContents(path, std::string("a\r\n\0c", 5)));
     Replace(folder / std::string(200, 'l'), "new");
     EXPECT_EQ(Get(folder / std::string(200, 'l')), "new");
-    EXPECT_EQ(Count(), 2) << "and nothing beside them";
+    EXPECT_EQ(Count(), 2) << "and nothing else";
 }
 
 TEST_F(Replacement, KeepsTheOldFileUntilCommit) {
@@ -123,7 +123,7 @@ TEST_F(Replacement, RejectsTargetsThatAreNotWritableFiles) {
 TEST_F(Replacement, KeepsAttributesAndTheTimeOfCreation) {
     constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
     if (!::SetFileAttributesW(path.c_str(), kKept) || (::GetFileAttributesW(path.c_str()) & kKept) != kKept)
-        GTEST_SKIP() << "the disk has no such attributes";
+        GTEST_SKIP() << "the file system has no such attributes";
     const DWORD before = ::GetFileAttributesW(path.c_str());
     Replace(path, "new");
     EXPECT_EQ(::GetFileAttributesW(path.c_str()), before);

@@ -83,7 +83,7 @@ TEST_F(PageEntry, PageThatThrowsIsReportedAndThePreviousOneStays) {
         user.Ok();
     }),
               IDOK);
-    EXPECT_EQ(kit[0].Number("Width"), 5) << "typed into the page that was seen";
+    EXPECT_EQ(kit[0].Number("Width"), 5) << "typed into the visible page";
 }
 
 TEST_F(PageEntry, PageThatThrowsWhenLeftIsReportedAndStays) {

@@ -165,7 +165,7 @@ TEST_P(FieldPageKinds, OneEditOfDifferingValuesWritesThatPropertyToAll) {
         user.Focus(kField);
         user.Key(VK_TAB);
     });
-    EXPECT_EQ(kit.Writes(), 0) << "passing by is not an edit";
+    EXPECT_EQ(kit.Writes(), 0) << "moving past a field is not an edit";
     RunOk(GetParam().edit);
     for (size_t i = 0; i < 2; ++i) {
         EXPECT_EQ(kit[i].properties.at(kProperty), GetParam().expected)
@@ -532,7 +532,7 @@ TEST_F(FieldPage, LaterDuplicateMnemonicIsRemoved) {
         user.Mnemonic('n');
         EXPECT_EQ(::GetFocus(), user.Control(kField));
         user.Mnemonic('n');
-        EXPECT_EQ(::GetFocus(), user.Control(kField)) << "no other row has the letter";
+        EXPECT_EQ(::GetFocus(), user.Control(kField)) << "no other name begins with the letter";
         user.Mnemonic('m');
         EXPECT_EQ(::GetFocus(), user.Control(CFieldPage::FieldID(2)));
         EXPECT_EQ(WindowText(::GetWindow(user.Control(kOtherField), GW_HWNDPREV)), "number && more:");

@@ -176,7 +176,7 @@ TEST_F(StylePart, EndsTheSheetWithACodeForTheHost) {
                       user.Type(IDC_STYLE_NAME, row.name);
                       row.then(user); // back with Tab, because the Delete button follows
                   }));
-    EXPECT_NE(::BlocksFindBlock(styles, "Column"), 0) << "deleting is the host's";
+    EXPECT_NE(::BlocksFindBlock(styles, "Column"), 0) << "deletion is left to the host";
 }
 
 TEST_F(StylePart, NewCopiesTheGraphicsUnderTheName) {

@@ -284,7 +284,7 @@ TEST_F(InsertPage, ReportsAnInvalidNumberImmediatelyAndKeepsThePage) {
                       EXPECT_EQ(user.Control(row.id), ::GetFocus());
                       EXPECT_EQ(row.text, user.Text(row.id));
                       user.SelectPage(0);
-                      EXPECT_EQ(page.m_hWnd, user.Page()) << "nor is there a way to another page";
+                      EXPECT_EQ(page.m_hWnd, user.Page()) << "nor can the page be changed";
                   }),
                   IDCANCEL);
         EXPECT_EQ(before, All());

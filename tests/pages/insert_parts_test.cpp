@@ -164,7 +164,7 @@ TEST_F(InsertPartsTest, NumbersThatAreNotFiniteAreNeverWritten) {
             }
     ExpectCorners(corners, 0);
     GraphicStruct* line = ::GraphicNewEx(kGraphicVertices, 0, 1);
-    EXPECT_FALSE(ReadInsertParts(line, parts)) << "no four vertices";
+    EXPECT_FALSE(ReadInsertParts(line, parts)) << "fewer than four vertices";
     ::InsertSetParts(line, &parts);
     ::GraphicDispose(&line);
     Corners nowhere = corners;

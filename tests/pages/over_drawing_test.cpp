@@ -117,7 +117,7 @@ TEST_F(OverDrawing, PensOfARoof) {
     Open(ORLO_TEST_DRAWING, IDD_PEN_PAGE);
     ASSERT_GT(m_graphics.size(), 500u);
     RunOk([](SheetDriver&) {});
-    EXPECT_EQ(m_before, All()) << "an untouched page";
+    EXPECT_EQ(m_before, All()) << "an unedited page";
     const struct {
         int system; // item of the combo box: 0 world, 1 paper
         const char* width;
@@ -138,7 +138,7 @@ TEST_F(OverDrawing, PensOfARoof) {
 TEST_F(OverDrawing, TextsOfManyKinds) {
     Open(ORLO_TEST_TEXTS, IDD_TEXT_PAGE);
     RunOk([](SheetDriver&) {});
-    EXPECT_EQ(m_before, All()) << "an untouched page";
+    EXPECT_EQ(m_before, All()) << "an unedited page";
     Values changed = {{kPropTextSize, std::to_string(7.5)}, {kPropTextFormat, "2"}};
     ExpectEdit(changed, [&](SheetDriver& user) {
         user.Choose(IDC_FONT_FACE, 0);

@@ -90,7 +90,7 @@ TEST_F(PenPage, WidthIsConvertedWhenTheScaleSystemChanges) {
         user.Choose(IDC_SCALE_SYSTEM, 0);
         double value = 0;
         EXPECT_TRUE(::DrawingStdTextToNumeric(kit.Drawing(), user.Text(IDC_PEN_WIDTH).c_str(), &value, 0));
-        EXPECT_NEAR(1 / kInch, value, 1e-4) << "the stored number, the edit dropped";
+        EXPECT_NEAR(1 / kInch, value, 1e-4) << "the stored number; the edit was discarded";
         user.Choose(IDC_SCALE_SYSTEM, 1);
         EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "1 mm");
     });

@@ -41,7 +41,7 @@ TEST(SpokenPages, MultipleValuesAreReportedAsVaried) {
     kinds.Select(kShapes);
     const auto sheet = kinds.NewSheet();
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
-        EXPECT_EQ(Accessible(user.Control(IDC_LAYER)).Value(), "0") << "the layer that they share";
+        EXPECT_EQ(Accessible(user.Control(IDC_LAYER)).Value(), "0") << "the common layer";
         user.SelectPage(1);
         EXPECT_EQ(Accessible(user.Control(IDC_COLOR)).Value(), "varied");
         EXPECT_EQ(Accessible(user.Control(IDC_LINE_STYLE_LIST)).Value(), "By Layer");

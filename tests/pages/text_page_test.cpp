@@ -53,7 +53,7 @@ TEST_F(TextPage, ShowsEqualTexts) {
                                IDC_ALL_CAPS, IDC_UNDERLINE, IDC_TEXT_BOX, IDC_JUSTIFY_LEFT, IDC_JUSTIFY_CENTER}),
                   (std::vector<std::string>{kSerif, "Bold", "00FF0000", "1", "0", "1", "1", "1", "0", "1"}));
         EXPECT_EQ(user.Text(IDC_FONT_SIZE).find("4.25"), 0u) << user.Text(IDC_FONT_SIZE);
-        EXPECT_LE(0, user.Selection(IDC_FONT_SIZE)) << "a height in no list has joined it";
+        EXPECT_LE(0, user.Selection(IDC_FONT_SIZE)) << "an unlisted height was added";
     });
     EXPECT_EQ(kit.Writes(), 0);
 }
@@ -130,7 +130,7 @@ TEST_F(TextPage, IndeterminateStateOfAnEqualEffectIsOff) {
     KitGraphic& text = Add(kSans, 2, 0x0008, kRed, 0);
     RunOk([&](SheetDriver& user) {
         user.Click(IDC_HIDDEN); // from checked to indeterminate
-        EXPECT_EQ(user.Check(IDC_HIDDEN), BST_UNCHECKED) << "taken back as soon as the preview follows";
+        EXPECT_EQ(user.Check(IDC_HIDDEN), BST_UNCHECKED) << "reverted when the preview is updated";
     });
     EXPECT_EQ(text.Number(kPropTextStyle), 0);
 }
@@ -217,7 +217,7 @@ TEST_F(TextPage, OpeningAndClosingAListSelectsNothing) {
             }
         user.Click(IDC_HIDDEN);
     });
-    EXPECT_EQ(kit[0].writes.size() + kit[1].writes.size(), 2u) << "the box";
+    EXPECT_EQ(kit[0].writes.size() + kit[1].writes.size(), 2u) << "the check box";
     EXPECT_EQ(kit[2].writes.size(), 0u);
     EXPECT_EQ(kit[0].Number(kPropTextStyle), 0x2109);
     EXPECT_EQ(kit[1].Number(kPropTextStyle), 0x004E);
@@ -251,7 +251,7 @@ TEST_F(TextPage, UneditedHeightsAreNotValidated) {
         MessageBoxWatcher boxes;
         user.Type(IDC_FONT_SIZE, "0");
         user.Ok();
-        EXPECT_EQ(boxes.Boxes().size(), 1u) << "typed, it is judged";
+        EXPECT_EQ(boxes.Boxes().size(), 1u) << "typed text is validated";
         user.Type(IDC_FONT_SIZE, "2");
     });
 }
@@ -309,7 +309,7 @@ TEST_F(TextPage, ThePreviewFollowsTheControls) {
         user.Click(IDC_HIDDEN);
         EXPECT_EQ(ink(), 0);
         user.Click(IDC_HIDDEN);
-        EXPECT_EQ(underlined, ink()) << "the third state counts as off";
+        EXPECT_EQ(underlined, ink()) << "the third state is treated as off";
         ChooseFont(user, kSerif);
         EXPECT_NE(underlined, ink());
         user.Choose(IDC_TEXT_COLOR, 0);

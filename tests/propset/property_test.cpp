@@ -234,7 +234,7 @@ TEST(Property, RejectsTypesWithoutAStoredForm) {
         CProperty property(1, text, VT_LPSTR);
         EXPECT_EQ(property.Set(2, &number, type), 0) << type;
         EXPECT_EQ(property.GetType(), type);
-        EXPECT_EQ(property.GetRawValue(), nullptr) << "the old value is gone";
+        EXPECT_EQ(property.GetRawValue(), nullptr) << "the old value was removed";
         DWORD size = 77;
         EXPECT_EQ(property.Get(&size), nullptr);
         EXPECT_EQ(size, 77u);

@@ -81,7 +81,7 @@ TEST(SetEdit, ConvertsASectionCompletelyOrNotAtAll) {
 TEST(SetEdit, RemovesAndRenames) {
     orlo::SetImage set;
     orlo::ImageSection& section = SectionFor(set, orlo::kUserDefinedFormat, 1252);
-    EXPECT_EQ(set.sections.size(), 2u) << "readers look for it in the second place";
+    EXPECT_EQ(set.sections.size(), 2u) << "readers expect it to be second";
     EXPECT_EQ(&SectionFor(set, orlo::kUserDefinedFormat, 932), &section);
     StoreName(section, 2, "Wood");
     StoreName(section, 2, "Stone");

@@ -27,7 +27,7 @@ Bytes Written(CPropertySection& section) {
 Bytes Written(CPropertySet& set) {
     MemoryStream stream;
     EXPECT_EQ(set.WriteToStream(&stream), 1);
-    EXPECT_EQ(stream.Transfers(), 1) << "all in one write";
+    EXPECT_EQ(stream.Transfers(), 1) << "a single write";
     return stream.Content();
 }
 
@@ -54,7 +54,7 @@ TEST(Section, SetWithoutATypeNeedsAPropertyThatHasOne) {
     int number = 7;
     EXPECT_EQ(section.Set(5, &number), 0) << "there is no such property";
     EXPECT_EQ(section.Set(5, nullptr, VT_EMPTY), 1);
-    EXPECT_EQ(section.Set(5, &number), 0) << "nothing says what the value is";
+    EXPECT_EQ(section.Set(5, &number), 0) << "the value has no type";
     EXPECT_EQ(section.Get(5), nullptr);
     EXPECT_EQ(section.Set(5, &number, VT_I4), 1);
     number = 8;
@@ -148,7 +148,7 @@ TEST(Section, NamesInWideCharactersAreReadUnderTheirCodePage) {
 TEST(Section, SetAddsKeepsTypesAndRemoves) {
     CPropertySection section;
     int number = 4;
-    EXPECT_EQ(section.Set(3, &number), 0) << "no type known";
+    EXPECT_EQ(section.Set(3, &number), 0) << "unknown type";
     AddNumber(section, 3, 5);
     EXPECT_EQ(section.Set(3, &number), 1);
     EXPECT_EQ(NumberOf(section, 3), 4);
@@ -207,7 +207,7 @@ TEST(Section, DamagedValueDoesNotAffectOthers) {
     EXPECT_EQ(section.GetProperty(4)->GetType(), static_cast<DWORD>(VT_DISPATCH));
     MemoryStream out;
     EXPECT_EQ(section.WriteToStream(&out), 0);
-    EXPECT_TRUE(out.Content().empty()) << "nothing is written of what can't be written whole";
+    EXPECT_TRUE(out.Content().empty()) << "nothing is written if it cannot be written completely";
 }
 
 TEST(Set, EmptyIsItsHeader) {
@@ -236,12 +236,12 @@ TEST(Set, EqualsTheDocumentedExample) {
     section->SetName(3, "Level");
     const Bytes expected = operator""_hex(digits.c_str(), digits.size());
     EXPECT_EQ(Written(set), expected);
-    EXPECT_EQ(Written(set), expected) << "the dictionary's slot is made once";
+    EXPECT_EQ(Written(set), expected) << "the dictionary's slot is created once";
 
     MemoryStream stream(expected);
     CPropertySet read;
     ASSERT_EQ(read.ReadFromStream(&stream), 1);
-    EXPECT_EQ(stream.Transfers(), 1) << "all in one read";
+    EXPECT_EQ(stream.Transfers(), 1) << "a single read";
     EXPECT_EQ(read.GetSection(kFormat)->GetCount(), 3u) << "the dictionary is not a property";
     EXPECT_EQ(Written(read), expected);
 }
@@ -249,7 +249,7 @@ TEST(Set, EqualsTheDocumentedExample) {
 TEST(Set, KeepsSectionsSeparate) {
     CPropertySet set;
     int number = 3;
-    EXPECT_EQ(set.Set(kFormat, 2, &number), 0) << "no type known";
+    EXPECT_EQ(set.Set(kFormat, 2, &number), 0) << "unknown type";
     EXPECT_EQ(set.GetCount(), 0u);
     EXPECT_EQ(set.Set(kFormat, 2, &number, VT_I4), 1);
     EXPECT_EQ(set.Set(kFormat, 2, &number), 1);
@@ -317,7 +317,7 @@ TEST(Set, ShortWriteAtEveryByteFails) {
         EXPECT_EQ(set.WriteToStream(&stream), 0) << limit;
         EXPECT_EQ(stream.Content(), UpTo(limit, whole));
     }
-    EXPECT_EQ(Written(set), whole) << "the set is as it was";
+    EXPECT_EQ(Written(set), whole) << "the set is unchanged";
 }
 
 TEST(Set, ShortReadAtEveryByteReturnsOnlyCompleteValues) {

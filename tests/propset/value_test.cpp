@@ -164,7 +164,7 @@ TEST(Value, RejectsInvalidValues) {
         orlo::Value value;
         value.type = 77;
         EXPECT_FALSE(orlo::DecodeValue(row.type, row.bytes.data(), row.bytes.size(), row.codePage, value)) << row.type;
-        EXPECT_EQ(value.type, 77u) << "left alone";
+        EXPECT_EQ(value.type, 77u) << "not changed";
     }
 }
 

@@ -160,7 +160,7 @@ TEST_F(Edit, LinkedCustomPropertiesKeepTheirCompanionProperties) {
     });
     EXPECT_EQ(before, (std::set<uint32_t>{linked, linked | kLink})) << "gone";
     ASSERT_EQ(after.size(), 1u);
-    EXPECT_LT(*after.begin(), kLink) << "readers take it for the place of another one";
+    EXPECT_LT(*after.begin(), kLink) << "readers interpret it as the offset of another one";
 }
 
 // A name that is not text in the code page is kept but not shown.
@@ -213,7 +213,7 @@ TEST_F(Edit, TextsAreWrittenInTheCodePageOfTheirSet) {
         if (documentSection && key.find("}code page") != std::string::npos)
             value = -535; // 65001 as a signed 16-bit number
     }
-    EXPECT_EQ(japanese.Values(), expected) << "heading-pairs and the rest say the same in UTF-8";
+    EXPECT_EQ(japanese.Values(), expected) << "heading-pairs and the others have the same text in UTF-8";
 }
 
 TEST_F(Edit, NamesOutsideOfTheCodePageConvertTheSetToUtf8) {
@@ -336,7 +336,7 @@ TEST_F(Edit, DocumentThatCannotBeWrittenIsUnchanged) {
         const Outcome copy = RunSuminfo({"copy", other.string(), file.string()});
         EXPECT_EQ(copy.exitCode, 1);
         EXPECT_EQ(copy.err, "suminfo: " + file.string() + ": the file cannot be opened: another program has it open\n");
-        EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0) << "reading goes on";
+        EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0) << "reading continues";
     }
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
     ExpectRefused({"remove", file.string(), "title"}, "the file is read-only");

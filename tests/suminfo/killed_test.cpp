@@ -46,7 +46,7 @@ public:
                                  handled ? DBG_CONTINUE : DBG_EXCEPTION_NOT_HANDLED);
             if (code == EXIT_PROCESS_DEBUG_EVENT) return calls_ >= call;
         }
-        ADD_FAILURE() << "it hangs";
+        ADD_FAILURE() << "timeout";
         ::TerminateProcess(process_.hProcess, 1);
         return false;
     }

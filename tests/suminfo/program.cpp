@@ -82,7 +82,7 @@ Outcome RunSuminfo(const std::vector<std::string>& arguments, const fs::path& fo
     DWORD exitCode = 0;
     if (::WaitForSingleObject(process.hProcess, 120000) != WAIT_OBJECT_0) {
         ::TerminateProcess(process.hProcess, 99);
-        ADD_FAILURE() << "suminfo hangs";
+        ADD_FAILURE() << "suminfo does not end";
     }
     ::GetExitCodeProcess(process.hProcess, &exitCode);
     ::CloseHandle(process.hProcess);

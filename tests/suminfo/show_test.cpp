@@ -117,7 +117,7 @@ TEST(Show, TableNamesFieldsAndCustomProperties) {
 
 TEST(Show, OtherFilesAreRejectedByName) {
     const Folder folder;
-    std::ofstream(folder.Path() / "text.doc") << "no compound file";
+    std::ofstream(folder.Path() / "text.doc") << "not a compound file";
     const Outcome run = RunSuminfo({"show", "text.doc", "missing.doc", "."}, folder.Path());
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");

@@ -81,7 +81,7 @@ TEST_F(Summary, UnexpectedTypeIsTreatedAsMissingAndNotReplaced) {
     DWORD format = 0, size = 0;
     HGLOBAL data = nullptr;
     EXPECT_EQ(OleStdGetThumbNailProperty(set_, &format, &data, &size), 0);
-    EXPECT_EQ(OleStdGetIntProperty(set_, PIDSI_TITLE), 7) << "what was there is there";
+    EXPECT_EQ(OleStdGetIntProperty(set_, PIDSI_TITLE), 7) << "the existing contents are preserved";
 }
 
 TEST_F(Summary, CountsAndSecurity) {

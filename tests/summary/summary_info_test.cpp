@@ -149,7 +149,7 @@ TEST(SummaryInfo, ReplacesALongerOneAndKeepsOtherStreams) {
     std::string rest(4096, 'x');
     ULONG read = 0;
     stream->Read(rest.data(), 4096, &read);
-    EXPECT_EQ(rest.substr(0, read).find("xx"), std::string::npos) << "nothing of the longer one is left";
+    EXPECT_EQ(rest.substr(0, read).find("xx"), std::string::npos) << "the longer one was removed completely";
     stream->Release();
     ASSERT_EQ(storage->OpenStream(L"Contents", nullptr, kRead, 0, &stream), S_OK);
     char text[12] = {};

@@ -206,7 +206,7 @@ TEST_F(Thumbnail, TheDeviceContextIsRestored) {
     EXPECT_EQ(origin.y, 8);
     EXPECT_EQ(::GetMapMode(canvas_.DC()), MM_ANISOTROPIC);
     EXPECT_EQ(::GetCurrentObject(canvas_.DC(), OBJ_BRUSH), brush);
-    EXPECT_EQ(::SaveDC(canvas_.DC()), 1) << "states were left on the stack";
+    EXPECT_EQ(::SaveDC(canvas_.DC()), 1) << "saved states were not restored";
 }
 
 TEST_F(Thumbnail, NothingIsPaintedOutsideTheRectangle) {

@@ -126,7 +126,7 @@ TEST_F(Wizard, CanBeUsedByMouse) {
                   for (int i = 0; i < 3; ++i)
                       ClickWithMouse(user, kNext);
               }));
-    EXPECT_EQ(log, "1o 2o 3o 3o ") << "all pages in order, then the sheet's OK of the page in front";
+    EXPECT_EQ(log, "1o 2o 3o 3o ") << "all pages in order, then the active page again for the sheet's OK";
 }
 
 TEST_F(Wizard, CanBeUsedByKeyboard) {
@@ -184,7 +184,7 @@ TEST_F(Wizard, EnterProceedsFromTheLastFieldOfAPage) {
                   EXPECT_EQ(user.Control(kLookUp), ::GetFocus());
                   user.Key(VK_RETURN);
                   EXPECT_EQ(State(user), "1 Back &Next >");
-                  EXPECT_EQ(log, "2l ") << "a button of the page takes the key for itself";
+                  EXPECT_EQ(log, "2l ") << "a button of the page handles the key itself";
                   log.clear();
                   user.Focus(kField);
                   steps[1]->accepts = false;
@@ -425,7 +425,7 @@ TEST_F(Wizard, EndsATruncatedCaptionWithDots) {
             highest = std::min(highest, y);
         }
         EXPECT_LE(highest, lowest) << "something is there";
-        EXPECT_LE(lowest - highest, 3) << "dots alone";
+        EXPECT_LE(lowest - highest, 3) << "only dots";
     });
 }
 
@@ -456,7 +456,7 @@ TEST_F(Wizard, IsUnchangedIfThePageCannotBeLeft) {
                   steps[2]->accepts = false;
                   user.ClickSheetButton(kNext);
                   EXPECT_EQ(State(user), "2 Back Finish");
-                  EXPECT_EQ(log, "1o 2o 3o 3r ") << "the sheet asks after the pages' OnOK, and stays open";
+                  EXPECT_EQ(log, "1o 2o 3o 3r ") << "the sheet calls OnKillActive after the pages' OnOK and stays open";
                   steps[2]->accepts = true;
                   user.ClickSheetButton(kNext);
               }),
@@ -577,7 +577,7 @@ TEST_F(Wizard, ModelessHasCommandsWithoutButtons) {
     ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
     ::SendMessageA(sheet, WM_COMMAND, kNext, 0);
     EXPECT_EQ(log, "1o 2o 2o ");
-    EXPECT_TRUE(::IsWindow(sheet)) << "its owner ends it";
+    EXPECT_TRUE(::IsWindow(sheet)) << "its owner closes it";
     wizard->DestroyWindow();
 }
 
@@ -589,7 +589,7 @@ TEST_F(Wizard, NeedsAPageAndFinishesWithOne) {
                       user.ClickSheetButton(kNext);
                   }),
               IDOK);
-    EXPECT_EQ(log, "1o 1o ") << "of one page finishes by Next";
+    EXPECT_EQ(log, "1o 1o ") << "with a single page, Next finishes";
 }
 
 TEST_F(Wizard, LeaksNothing) {
