@@ -32,7 +32,7 @@ constexpr char kNotKept[] = "owner, permissions and attributes of the file canno
 // The file to remove on an interrupt, or null.
 std::atomic<const fs::path::value_type*> temporaryFile{nullptr};
 
-[[noreturn]] void RefuseIrregular() {
+[[noreturn]] void ThrowNotRegular() {
     throw FileError("not a regular file; it cannot be replaced");
 }
 
@@ -54,11 +54,11 @@ struct BlockedSignals {
 // Returns the file that a name refers to. Device names exist in every folder.
 Found FindFile(const fs::path& target) {
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) RefuseIrregular();
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) ThrowNotRegular();
     const OpenFile file = OpenShared(target, FILE_READ_ATTRIBUTES);
     if (!file && attributes == INVALID_FILE_ATTRIBUTES) return {target, false};
     if (!file) ThrowLastError(kNotReplaced); // such as a dangling link
-    if (::GetFileType(file.get()) != FILE_TYPE_DISK) RefuseIrregular();
+    if (::GetFileType(file.get()) != FILE_TYPE_DISK) ThrowNotRegular();
     if (attributes & FILE_ATTRIBUTE_READONLY) throw FileError("the file is read-only");
     std::wstring path(32768, L'\0'); // the maximum length of a path
     const DWORD size = ::GetFinalPathNameByHandleW(file.get(), path.data(), static_cast<DWORD>(path.size()), 0);
@@ -148,11 +148,11 @@ Found FindFile(const fs::path& target) {
     std::error_code error;
     const fs::file_status status = fs::status(target, error);
     if (status.type() == fs::file_type::not_found) {
-        if (fs::is_symlink(target, error)) RefuseIrregular(); // a dangling link
+        if (fs::is_symlink(target, error)) ThrowNotRegular(); // a dangling link
         return {target, false};
     }
     if (!fs::status_known(status)) throw FileError(kNotReplaced, error);
-    if (!fs::is_regular_file(status)) RefuseIrregular();
+    if (!fs::is_regular_file(status)) ThrowNotRegular();
     constexpr fs::perms kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((status.permissions() & kWrite) == fs::perms::none) throw FileError("the file is read-only");
     if (::access(target.c_str(), W_OK) != 0) ThrowLastError(kNotReplaced);

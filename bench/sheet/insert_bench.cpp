@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "bench/paired_timer.h"
-#include "bench/sheet/crowd.h"
+#include "bench/sheet/selected_drawing.h"
 #include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
@@ -19,7 +19,7 @@ namespace {
 constexpr int kRounds = 5;
 
 // Insertions in the drawing plane, or rotated out of it.
-class Insertions : public Crowd {
+class Insertions : public SelectedDrawing {
 public:
     Insertions(int n, bool plane) {
         using orlo::host::OwnedMatrix;

@@ -8,7 +8,7 @@
 #include <oaidl.h>
 
 #include "bench/paired_timer.h"
-#include "bench/sheet/crowd.h"
+#include "bench/sheet/selected_drawing.h"
 #include "orlo/entry/entry.h"
 #include "orlo/host/memory.h"
 #include "orlo/host/walk.h"
@@ -105,16 +105,16 @@ Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
 // Measures in a sheet over n graphics of that type.
 template <class Measuring>
 auto MeasureCrowd(int n, int type, Measuring measure) {
-    const UniformCrowd crowd(n, type);
+    const UniformDrawing drawing(n, type);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
-        ::InitGraphicPropertySheet(nullptr, nullptr, crowd.Drawing(), crowd.Selection(), kAllGraphics));
+        ::InitGraphicPropertySheet(nullptr, nullptr, drawing.Drawing(), drawing.Selection(), kAllGraphics));
     auto* page = new ExchangePage([](CDataExchange*) {});
     sheet->AddPage(page);
-    decltype(measure(*page, crowd.Selection())) results{};
+    decltype(measure(*page, drawing.Selection())) results{};
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         user.SelectPage(1);
-        results = measure(*page, crowd.Selection());
+        results = measure(*page, drawing.Selection());
     });
     return results;
 }

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "bench/paired_timer.h"
-#include "bench/sheet/crowd.h"
 #include "bench/sheet/open_sheet.h"
+#include "bench/sheet/selected_drawing.h"
 #include "orlo/entry/entry.h"
 #include "support/host_frame.h"
 
@@ -17,12 +17,12 @@ constexpr int kRounds = 15;
 constexpr int kPages = 3; // General, Pen, Brush
 
 Pair OpenOver(int n) {
-    const UniformCrowd crowd(n, kGraphicVertices);
-    HostFrame frame(crowd.Drawing());
+    const UniformDrawing drawing(n, kGraphicVertices);
+    HostFrame frame(drawing.Drawing());
     LoopWatch watch;
     ::PropPageInit();
     const auto ours = [&] {
-        const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+        const auto sheet = NewSheet(&frame, drawing.Drawing(), drawing.Selection());
         RunSheet(watch, *sheet, [&](HWND window) {
             PaintSheet(window);
             sheet->SetActivePage(1);

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "bench/paired_timer.h"
-#include "bench/sheet/mixed_crowd.h"
+#include "bench/sheet/mixed_drawing.h"
 #include "bench/sheet/open_sheet.h"
 #include "orlo/entry/entry.h"
 #include "support/host_frame.h"
@@ -31,8 +31,8 @@ void WalkPages(HWND window, Show show) {
     }
 }
 
-Pair ComparePageChanges(LoopWatch& watch, const MixedCrowd& crowd, HostFrame& frame, int rounds) {
-    const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+Pair ComparePageChanges(LoopWatch& watch, const MixedDrawing& drawing, HostFrame& frame, int rounds) {
+    const auto sheet = NewSheet(&frame, drawing.Drawing(), drawing.Selection());
     Pair result{};
     RunSheet(watch, *sheet, [&](HWND ours) {
         LoopWatch inner;
@@ -46,19 +46,19 @@ Pair ComparePageChanges(LoopWatch& watch, const MixedCrowd& crowd, HostFrame& fr
 }
 
 Results Measure(int n) {
-    const MixedCrowd crowd(n);
-    HostFrame frame(crowd.Drawing());
+    const MixedDrawing drawing(n);
+    HostFrame frame(drawing.Drawing());
     LoopWatch watch;
     const int rounds = n > 10000 ? 3 : kRounds;
     Results results{};
     results.open = Compare(
         rounds,
         [&] {
-            const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+            const auto sheet = NewSheet(&frame, drawing.Drawing(), drawing.Selection());
             RunSheet(watch, *sheet, PaintSheet);
         },
         [&] { RunSystemSheet(watch, kPages, PaintSheet); });
-    results.change = ComparePageChanges(watch, crowd, frame, rounds);
+    results.change = ComparePageChanges(watch, drawing, frame, rounds);
     return results;
 }
 
@@ -72,11 +72,11 @@ double ManySystemPages() {
 
 // Pages that are never shown should cost almost nothing.
 double ManyPages() {
-    const MixedCrowd crowd(3);
-    HostFrame frame(crowd.Drawing());
+    const MixedDrawing drawing(3);
+    HostFrame frame(drawing.Drawing());
     LoopWatch watch;
     const auto open = [&](int pages) {
-        const auto sheet = NewSheet(&frame, crowd.Drawing(), crowd.Selection());
+        const auto sheet = NewSheet(&frame, drawing.Drawing(), drawing.Selection());
         while (sheet->GetPageCount() < pages)
             sheet->AddPage(new ExchangePage([](CDataExchange*) {}));
         RunSheet(watch, *sheet, PaintSheet);

@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr unsigned kPatience = 5000; // milliseconds to wait for a window to open or close
-constexpr unsigned kTick = 10;       // milliseconds between checks for new windows
+constexpr unsigned kTimeout = 5000; // milliseconds to wait for a window to open or close
+constexpr unsigned kTick = 10;      // milliseconds between checks for new windows
 
 LPARAM At(CPoint point) {
     return MAKELPARAM(point.x, point.y);
@@ -22,9 +22,9 @@ WPARAM MouseFlags(unsigned modifiers) {
 }
 
 // Sets the keyboard state of this thread to exactly these modifier keys.
-class HeldKeys {
+class ModifierState {
 public:
-    explicit HeldKeys(unsigned modifiers) {
+    explicit ModifierState(unsigned modifiers) {
         ::GetKeyboardState(m_before);
         BYTE keys[256];
         std::copy(std::begin(m_before), std::end(m_before), keys);
@@ -33,9 +33,9 @@ public:
         keys[VK_MENU] = modifiers & UserInput::kAlt ? 0x80 : 0;
         ::SetKeyboardState(keys);
     }
-    ~HeldKeys() { ::SetKeyboardState(m_before); }
-    HeldKeys(const HeldKeys&) = delete;
-    HeldKeys& operator=(const HeldKeys&) = delete;
+    ~ModifierState() { ::SetKeyboardState(m_before); }
+    ModifierState(const ModifierState&) = delete;
+    ModifierState& operator=(const ModifierState&) = delete;
 
 private:
     BYTE m_before[256];
@@ -100,7 +100,7 @@ void UserInput::Wait(unsigned milliseconds) {
 void UserInput::Key(UINT virtualKey, unsigned modifiers) {
     const HWND focus = Focus();
     const bool alt = modifiers & kAlt;
-    const HeldKeys held(modifiers);
+    const ModifierState held(modifiers);
     ::PostMessageA(focus, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, alt ? 0x20000001 : 1);
     ::PostMessageA(focus, alt ? WM_SYSKEYUP : WM_KEYUP, virtualKey, alt ? 0xE0000001 : 0xC0000001);
     TakeAll(); // while the keys are down
@@ -177,7 +177,7 @@ void UserInput::InDialog(const std::function<void()>& open, const Script& script
 void UserInput::InDialogs(const std::function<void()>& open, const std::vector<Script>& scripts) {
     Dialog dialog(scripts);
     open();
-    const ULONGLONG end = ::GetTickCount64() + kPatience;
+    const ULONGLONG end = ::GetTickCount64() + kTimeout;
     while (dialog.begun < scripts.size() && !dialog.thrown && ::GetTickCount64() < end)
         Wait(kTick);
     dialog.StopTimer();
@@ -191,7 +191,7 @@ void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     Dialog* dialog = Dialog::awaited;
     if (dialog && dialog->Awaits())
         dialog->Begin();
-    else if (dialog && dialog->played && ::GetTickCount64() > dialog->played + kPatience)
+    else if (dialog && dialog->played && ::GetTickCount64() > dialog->played + kTimeout)
         dialog->GiveUp();
 }
 
@@ -200,7 +200,7 @@ void UserInput::Dialog::Begin() {
     if (thrown || !active || active == before || !::IsWindowVisible(active)) return;
     window = active;
     played = 0;
-    const HeldKeys released(kNone); // the keys that have opened the window
+    const ModifierState released(kNone); // the keys that have opened the window
     const Script& script = scripts[begun++];
     const bool isLast = begun == scripts.size();
     if (isLast) StopTimer();

@@ -210,21 +210,21 @@ TEST_F(Window, UnsubclassingRestoresTheProcedure) {
 }
 
 // A window class that decides at the first message whether a window gets an object: number 1 does.
-class CMade : public CLog {
+class CCreated : public CLog {
 public:
     static WNDPROC super;
-    static CMade* made;
+    static CCreated* made;
 
 protected:
     WNDPROC* GetSuperWndProcAddr() override { return &super; }
 };
-WNDPROC CMade::super = nullptr;
-CMade* CMade::made = nullptr;
+WNDPROC CCreated::super = nullptr;
+CCreated* CCreated::made = nullptr;
 
 LRESULT CALLBACK FirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (::GetDlgCtrlID(window) == 1) {
-        CMade::made = new CMade;
-        CMade::made->Attach(window);
+        CCreated::made = new CCreated;
+        CCreated::made->Attach(window);
     }
     ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
     return ::CallWindowProcA(AfxGetAfxWndProc(), window, message, wParam, lParam);
@@ -233,21 +233,21 @@ LRESULT CALLBACK FirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM l
 TEST_F(Window, OfAnObjectCreatingClassWorksWithoutAnObject) {
     WNDCLASSA list = {};
     ASSERT_TRUE(::GetClassInfoA(nullptr, "LISTBOX", &list));
-    CMade::super = list.lpfnWndProc;
+    CCreated::super = list.lpfnWndProc;
     list.lpszClassName = "AfxTestList";
     list.hInstance = AfxGetInstanceHandle();
     list.lpfnWndProc = FirstMessage;
     const ATOM atom = ::RegisterClassA(&list);
     ASSERT_NE(atom, 0);
-    AfxRegisterSuperWndProc(atom, CMade::super);
+    AfxRegisterSuperWndProc(atom, CCreated::super);
     const auto create = [&](UINT_PTR id) {
         return ::CreateWindowExA(0, "AfxTestList", "", WS_CHILD, 0, 0, 50, 50, parent.m_hWnd,
                                  reinterpret_cast<HMENU>(id), AfxGetInstanceHandle(), nullptr);
     };
     HWND withObject = create(1);
-    ASSERT_NE(CMade::made, nullptr);
-    EXPECT_EQ(CMade::made, CWnd::FromHandlePermanent(withObject));
-    EXPECT_EQ(CMade::made->messages.front(), static_cast<UINT>(WM_NCCREATE));
+    ASSERT_NE(CCreated::made, nullptr);
+    EXPECT_EQ(CCreated::made, CWnd::FromHandlePermanent(withObject));
+    EXPECT_EQ(CCreated::made->messages.front(), static_cast<UINT>(WM_NCCREATE));
 
     HWND plain = create(2);
     EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
@@ -257,7 +257,7 @@ TEST_F(Window, OfAnObjectCreatingClassWorksWithoutAnObject) {
     }
     ::DestroyWindow(plain);
     ::DestroyWindow(withObject);
-    delete CMade::made;
+    delete CCreated::made;
     ::UnregisterClassA("AfxTestList", AfxGetInstanceHandle());
 }
 

@@ -97,7 +97,7 @@ protected:
              DDP_Text(pDX, kList, item, "Item");
              DDX_LBIndex(1, pDX, kList, item);
          },
-         [](SheetDriver& user) { user.Choose(kList, 0); }, [](SheetDriver& user) { user.Choose(kList, 2); }}};
+         [](SheetDriver& user) { user.SelectItem(kList, 0); }, [](SheetDriver& user) { user.SelectItem(kList, 2); }}};
 };
 
 TEST_F(EditedControls, ShowSomethingOtherThanWhatWasLoaded) {

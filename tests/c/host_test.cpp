@@ -31,7 +31,7 @@ TEST_F(CHost, GuideExampleShowsTheTablesOfItsDrawing) {
     Start(std::string("c_host.exe") + kDrawing);
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);
-    EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
+    EXPECT_GT(Query(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(ExitCode(), 0u);
 }
@@ -58,11 +58,11 @@ TEST_P(ForeignHost, EditsThePenColorAndItsOwnPage) {
     const HWND owner = ::GetWindow(sheet, GW_OWNER);
     EXPECT_EQ(::FindWindowA("STATIC", "Host"), owner);
     EXPECT_FALSE(::IsWindowEnabled(owner));
-    EXPECT_EQ(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 0);
+    EXPECT_EQ(Query(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 0);
 
     PressInTabs(sheet, VK_RIGHT);
     const HWND color = Visible(sheet, IDC_COLOR);
-    EXPECT_GT(Ask(color, CB_GETCOUNT), 200);
+    EXPECT_GT(Query(color, CB_GETCOUNT), 200);
     ::PostMessageA(color, WM_KEYDOWN, VK_DOWN, 1);
     TypeOnOwnPage(sheet, "7");
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);

@@ -11,7 +11,7 @@
 
 namespace {
 
-class Spoken : public ControlDialog {
+class AccessibleControls : public ControlDialog {
 protected:
     uint16_t AddLayer(const char* name, uint32_t flags) {
         const uint16_t id = TableEntryAdd(m_drawing.Table(kTableLayers), name, nullptr);
@@ -27,7 +27,7 @@ protected:
     }
 };
 
-TEST_F(Spoken, ItemsAreNamedWithoutTheirKeys) {
+TEST_F(AccessibleControls, ItemsAreNamedWithoutTheirKeys) {
     const uint16_t locked = AddLayer("Walls", kLayerLocked | kLayerOff);
     AddLayer("Doors", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers), locked);
@@ -59,19 +59,19 @@ TEST_F(Spoken, ItemsAreNamedWithoutTheirKeys) {
     }
 }
 
-TEST_F(Spoken, ColorWithoutAnItemIsDescribedByItsComponents) {
+TEST_F(AccessibleControls, ColorWithoutAnItemIsDescribedByItsComponents) {
     TableStruct* const colors = m_drawing.Table(kTableColors);
     const std::pair<DWORD, const char*> rows[] = {
         {0x00123456, "86, 52, 18"}, {kColorIndeterminate, "varied"}, {kColorNone, "varied"}};
-    for (const auto& [color, spoken] : rows) {
+    for (const auto& [color, accessible] : rows) {
         Fill(IDC_COLOR, colors, color);
-        EXPECT_EQ(spoken, Of(IDC_COLOR).Value()) << color;
+        EXPECT_EQ(accessible, Of(IDC_COLOR).Value()) << color;
     }
     Fill(IDC_COLOR, nullptr, kColorNone);
     EXPECT_EQ(Of(IDC_COLOR).Value(), "");
 }
 
-TEST_F(Spoken, TextOfItemsIsUnchanged) {
+TEST_F(AccessibleControls, TextOfItemsIsUnchanged) {
     AddLayer("Walls", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
     CString text;
@@ -111,7 +111,7 @@ private:
     HWINEVENTHOOK m_hook;
 };
 
-TEST_F(Spoken, ChangesByTypingAndByCodeRaiseEvents) {
+TEST_F(AccessibleControls, ChangesByTypingAndByCodeRaiseEvents) {
     AddLayer("Walls", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
     Fill(IDC_LINE_STYLE_LIST, m_drawing.Table(kTableLineStyles));
@@ -132,24 +132,24 @@ TEST_F(Spoken, ChangesByTypingAndByCodeRaiseEvents) {
     list.DestroyWindow();
 }
 
-TEST_F(Spoken, CheckListHasCheckButtons) {
+TEST_F(AccessibleControls, CheckListHasCheckButtons) {
     CCheckListBox list;
     ASSERT_TRUE(
         list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     list.AddString("Walls", 1);
     list.AddString("Doors", 0);
-    const Accessible spoken(list.m_hWnd);
-    ASSERT_EQ(spoken.Count(), 2);
-    EXPECT_EQ(spoken.Name(2), "Doors");
-    EXPECT_EQ(spoken.Role(1), ROLE_SYSTEM_CHECKBUTTON);
-    EXPECT_TRUE(spoken.State(1) & STATE_SYSTEM_CHECKED);
-    EXPECT_FALSE(spoken.State(2) & STATE_SYSTEM_CHECKED);
-    EXPECT_EQ(spoken.DefaultAction(1), "Uncheck");
-    spoken.DoDefaultAction(1);
+    const Accessible accessible(list.m_hWnd);
+    ASSERT_EQ(accessible.Count(), 2);
+    EXPECT_EQ(accessible.Name(2), "Doors");
+    EXPECT_EQ(accessible.Role(1), ROLE_SYSTEM_CHECKBUTTON);
+    EXPECT_TRUE(accessible.State(1) & STATE_SYSTEM_CHECKED);
+    EXPECT_FALSE(accessible.State(2) & STATE_SYSTEM_CHECKED);
+    EXPECT_EQ(accessible.DefaultAction(1), "Uncheck");
+    accessible.DoDefaultAction(1);
     EXPECT_EQ(list.IsItemChecked(0), 0);
-    EXPECT_EQ(spoken.DefaultAction(1), "Check");
+    EXPECT_EQ(accessible.DefaultAction(1), "Check");
     list.DestroyWindow();
-    EXPECT_EQ(spoken.Count(), 0) << "the object outlives the window";
+    EXPECT_EQ(accessible.Count(), 0) << "the object outlives the window";
 }
 
 } // namespace

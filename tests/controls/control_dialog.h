@@ -47,13 +47,13 @@ public:
     }
 
     std::vector<Notification> notifications;
-    TableStruct* answer = nullptr; // the table that controls are filled with when they notify; null to fill none
+    TableStruct* fillTable = nullptr; // the table that controls are filled with when they notify; null to fill none
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
         notifications.push_back({LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)});
-        const ControlFillRecord fill = {answer, 0, 0};
-        if (answer && HIWORD(wParam) == kControlReady)
+        const ControlFillRecord fill = {fillTable, 0, 0};
+        if (fillTable && HIWORD(wParam) == kControlReady)
             ::SendMessageA(reinterpret_cast<HWND>(lParam), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
         return TRUE;
     }
@@ -93,7 +93,7 @@ public:
             control.DrawItem(&request);
     }
     // Counts pixels that were drawn in a color other than the background.
-    int Ink(const RECT& rect, int background = COLOR_WINDOW) const {
+    int CountDrawn(const RECT& rect, int background = COLOR_WINDOW) const {
         const COLORREF back = ::GetSysColor(background);
         return CountWhere(rect, [=](COLORREF c) { return c != back && c != kUntouched; });
     }

@@ -166,7 +166,7 @@ TEST(ControlLife, WizardPagesHaveThemToo) {
     const TestDrawing drawing;
     TableStruct* layers = drawing.Table(kTableLayers);
     TableEntryAdd(layers, "Walls", nullptr);
-    host.answer = layers;
+    host.fillTable = layers;
     LayerAndColor page;
     CPropertyPage last(IDD_PAGE, 0);
     CWizardSheet wizard("New wall", nullptr, 0);
@@ -183,7 +183,7 @@ TEST(ControlLife, WizardPagesHaveThemToo) {
                                     EXPECT_EQ(host.Count(kControlReady), 2);
                                     EXPECT_EQ(user.Selection(IDC_LAYER), 0)
                                         << "filled before the page shows its values";
-                                    user.Choose(IDC_LAYER, 1);
+                                    user.SelectItem(IDC_LAYER, 1);
                                     user.ClickSheetButton(kNext);
                                     user.ClickSheetButton(kNext);
                                 }),

@@ -26,8 +26,8 @@ protected:
         m_pixels.Draw(m_control, item, rect, action, state);
     }
     // Counts drawn pixels in a column of the row.
-    int InkFrom(int left, int right, int background = COLOR_WINDOW) const {
-        return m_pixels.Ink({left, 0, right, 60}, background);
+    int CountDrawnIn(int left, int right, int background = COLOR_WINDOW) const {
+        return m_pixels.CountDrawn({left, 0, right, 60}, background);
     }
     int Index(uint16_t id) {
         char name[kItemTextSize];
@@ -56,9 +56,9 @@ TEST_F(Layers, ShowEyeBookAndNameInColumns) {
         for (const UINT state : {0u, static_cast<UINT>(ODS_SELECTED)}) {
             Draw(Index(id), ODA_DRAWENTIRE, state);
             const int back = state ? COLOR_HIGHLIGHT : COLOR_WINDOW;
-            EXPECT_EQ(row.eye, InkFrom(0, 16, back) > 30) << row.name;
-            EXPECT_EQ(row.book, InkFrom(16, 32, back) > 30) << row.name;
-            EXPECT_LT(10, InkFrom(32, 140, back)) << row.name << ": the name always begins at 32";
+            EXPECT_EQ(row.eye, CountDrawnIn(0, 16, back) > 30) << row.name;
+            EXPECT_EQ(row.book, CountDrawnIn(16, 32, back) > 30) << row.name;
+            EXPECT_LT(10, CountDrawnIn(32, 140, back)) << row.name << ": the name always begins at 32";
             EXPECT_EQ(m_pixels.CountWhere({0, 0, 150, 8}, [](COLORREF c) { return c != kUntouched; }), 0);
         }
     }
@@ -112,16 +112,16 @@ TEST_F(Layers, ClosedFieldNeedsNoItem) {
     Fill(IDC_LAYER, m_table, id);
     Draw(-1);
     EXPECT_LT(10, m_pixels.Count(kAll, RGB(200, 0, 0))) << "the name comes from the table";
-    EXPECT_LT(30, InkFrom(16, 32));
+    EXPECT_LT(30, CountDrawnIn(16, 32));
     for (const unsigned none : {unsigned{kEntryNone}, unsigned{kEntryIndeterminate}, 0xFFFFFFFFu}) {
         m_control.m_nSelected = none;
         Draw(-1);
-        EXPECT_EQ(InkFrom(0, 140), 0) << none;
+        EXPECT_EQ(CountDrawnIn(0, 140), 0) << none;
     }
     m_control.m_nSelected = id;
     m_drawing.Close();
     Draw(-1, ODA_DRAWENTIRE, 0);
-    EXPECT_EQ(InkFrom(0, 140), 0) << "a table without an owner";
+    EXPECT_EQ(CountDrawnIn(0, 140), 0) << "a table without an owner";
 }
 
 TEST_F(Layers, FocusChangeRedrawsOnlyTheFocus) {
@@ -147,7 +147,7 @@ TEST_F(Layers, SubclassedWindowHasIcons) {
     const ControlFillRecord record = {m_table, 0, id};
     control.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
     m_pixels.Draw(control, -1, kRow);
-    EXPECT_LT(30, InkFrom(0, 16));
+    EXPECT_LT(30, CountDrawnIn(0, 16));
     control.DestroyWindow();
 }
 

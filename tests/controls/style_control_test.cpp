@@ -108,7 +108,7 @@ protected:
     void Draw(int item, UINT action = ODA_DRAWENTIRE, UINT state = 0, const RECT& rect = kRow) {
         m_pixels.Draw(m_control, item, rect, action, state);
     }
-    int Ink(const RECT& rect = kAll) { return m_pixels.Ink(rect); }
+    int CountDrawn(const RECT& rect = kAll) { return m_pixels.CountDrawn(rect); }
     // length: divisor of the sample's width in the scale; 0 for scale 1.
     struct ScaleRow {
         const char* name;
@@ -151,7 +151,7 @@ TYPED_TEST(StyleControls, ClosedFieldShowsStylesAndHostNames) {
         if (!lines && row.value == kLineStyleByBlock) continue; // an identifier like any other
         this->Fill(row.value);
         this->Draw(-1, ODA_DRAWENTIRE, 0, kField);
-        EXPECT_EQ(row.ink, this->Ink() > 0) << row.value;
+        EXPECT_EQ(row.ink, this->CountDrawn() > 0) << row.value;
     }
 }
 
@@ -161,9 +161,9 @@ TYPED_TEST(StyleControls, WithoutATableOnlyTheBackgroundIsDrawn) {
     const int item = this->IndexOf("Own");
     this->m_control.m_pTable = nullptr;
     this->Draw(item, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS);
-    EXPECT_EQ(this->Ink(), 0) << "neither frame nor focus";
+    EXPECT_EQ(this->CountDrawn(), 0) << "neither frame nor focus";
     this->Draw(-1, ODA_DRAWENTIRE, ODS_SELECTED | ODS_FOCUS, kField);
-    EXPECT_EQ(this->Ink(), 0);
+    EXPECT_EQ(this->CountDrawn(), 0);
 }
 
 TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeRemoved) {
@@ -270,7 +270,7 @@ TYPED_TEST(LineStyles, OfferAllButConstructionStyles) {
     EXPECT_EQ(last, this->m_control.GetCurSel());
     this->m_control.m_pTable = nullptr;
     this->Draw(last);
-    EXPECT_LT(0, this->Ink()) << "a name needs no table";
+    EXPECT_LT(0, this->CountDrawn()) << "a name needs no table";
     this->Fill(0);
     EXPECT_EQ(this->m_control.GetCurSel(), -1);
 }
@@ -366,8 +366,8 @@ TYPED_TEST(BrushStyles, SamplesAreFilledWithinTheCell) {
     const RECT row = {0, 20, 100, 45}, cell = {2, 22, 98, 43};
     const auto inkIn = [&](const char* name) {
         this->Draw(this->IndexOf(name), ODA_DRAWENTIRE, 0, row);
-        const int inside = this->Ink(cell);
-        EXPECT_EQ(inside, this->Ink()) << "outside";
+        const int inside = this->CountDrawn(cell);
+        EXPECT_EQ(inside, this->CountDrawn()) << "outside";
         return inside;
     };
     const int area = (cell.right - cell.left) * (cell.bottom - cell.top);

@@ -117,7 +117,7 @@ TYPED_TEST(TableControl, NeverOverrunsTheItemBuffer) {
 TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
     constexpr bool combo = TypeParam::kIsCombo;
     TableEntryAdd(this->m_table, "Zinc", nullptr);
-    this->m_host.answer = this->m_table;
+    this->m_host.fillTable = this->m_table;
     for (const DWORD drawn : {CBS_OWNERDRAWFIXED, CBS_OWNERDRAWVARIABLE}) { // identical for a list box
         for (const auto& [exchanged, templateHeight, listHeight] :
              {std::tuple(false, 60, 320), {true, 60, 320}, {false, 1000, Scaled(320)}}) {

@@ -26,7 +26,7 @@ std::string Drawing() {
     return text + "0\nLINE\n8\n0\n10\n-999\n20\n-800\n11\n999\n21\n1234\n0\nENDSEC\n0\nEOF\n";
 }
 
-using Seen = std::vector<uint32_t>;
+using ViewPixels = std::vector<uint32_t>;
 
 class MovingPicture : public ::testing::Test {
 protected:
@@ -50,22 +50,22 @@ protected:
         some.Resize(kSize);
     }
 
-    Seen Pixels(const CachedView& some) const {
+    ViewPixels Pixels(const CachedView& some) const {
         MemoryPicture copy;
         copy.Resize(kSize);
         copy.CopyFrom(some.Dc(), copy.Bounds());
-        Seen pixels;
+        ViewPixels pixels;
         for (int y = 0; y < kSize.cy; ++y)
             pixels.insert(pixels.end(), copy.Row(y), copy.Row(y) + kSize.cx);
         return pixels;
     }
 
-    Seen Shown() {
+    ViewPixels Shown() {
         picture.Renew();
         return Pixels(picture);
     }
 
-    Seen DrawnAnew() {
+    ViewPixels DrawnAnew() {
         CachedView fresh(camera);
         Prepare(fresh);
         fresh.Renew();
@@ -87,11 +87,11 @@ protected:
 };
 
 TEST_F(MovingPicture, ShiftsTheOldPictureAndDrawsTheEdges) {
-    const Seen before = Shown();
+    const ViewPixels before = Shown();
     const CSize by(31, -17);
     picture.Pan(CSize(20, -10));
     picture.Pan(CSize(11, -7));
-    const Seen moved = Shown(), wanted = DrawnAnew();
+    const ViewPixels moved = Shown(), wanted = DrawnAnew();
     ASSERT_TRUE(picture.IsMoved());
     ASSERT_NE(before, wanted);
     for (int y = 0; y < kSize.cy; ++y)
@@ -109,7 +109,7 @@ TEST_F(MovingPicture, StretchesTheOldPicture) {
     for (const double factor : {2.0, 0.5, 0.8, 1.1, 40.0, 0.02}) {
         SCOPED_TRACE(factor);
         picture.Zoom(factor, CPoint(70, 150));
-        const Seen moved = Shown(), wanted = DrawnAnew();
+        const ViewPixels moved = Shown(), wanted = DrawnAnew();
         ASSERT_TRUE(picture.IsMoved());
         size_t same = 0;
         for (size_t i = 0; i < moved.size(); ++i)

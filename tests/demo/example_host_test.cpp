@@ -20,16 +20,16 @@ TEST_F(ExampleHost, ShowsTheTablesOfItsDrawingAndSucceeds) {
     StartOver(TEST_DATA "/dxf/kabeja-draft4-roof-details.dxf");
     const HWND sheet = Sheet();
     ASSERT_NE(sheet, nullptr);
-    EXPECT_GT(Ask(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
+    EXPECT_GT(Query(Visible(sheet, IDC_LAYER), CB_GETCOUNT), 1);
 
     PressInTabs(sheet, VK_RIGHT);
-    EXPECT_GT(Ask(Visible(sheet, IDC_LINE_STYLE_LIST), LB_GETCOUNT), 1);
-    EXPECT_GT(Ask(Visible(sheet, IDC_COLOR), CB_GETCOUNT), 200);
+    EXPECT_GT(Query(Visible(sheet, IDC_LINE_STYLE_LIST), LB_GETCOUNT), 1);
+    EXPECT_GT(Query(Visible(sheet, IDC_COLOR), CB_GETCOUNT), 200);
     ::SendMessageA(Visible(sheet, IDC_PEN_SCALE), WM_SETTEXT, 0, reinterpret_cast<LPARAM>("2.5"));
 
     PressInTabs(sheet, VK_RIGHT);
-    EXPECT_GT(Ask(Visible(sheet, IDC_BRUSH_STYLE_LIST), LB_GETCOUNT), 1);
-    EXPECT_GT(Ask(Visible(sheet, IDC_BRUSH_COLOR), CB_GETCOUNT), 200);
+    EXPECT_GT(Query(Visible(sheet, IDC_BRUSH_STYLE_LIST), LB_GETCOUNT), 1);
+    EXPECT_GT(Query(Visible(sheet, IDC_BRUSH_COLOR), CB_GETCOUNT), 200);
 
     ::PostMessageA(::GetDlgItem(sheet, IDOK), BM_CLICK, 0, 0);
     EXPECT_EQ(ExitCode(), 0u);

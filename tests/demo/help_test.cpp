@@ -51,16 +51,16 @@ protected:
         EXPECT_TRUE(boxes.Boxes().empty()) << boxes.OnlyText();
     }
 
-    // Returns the place that an action opens, and checks that the guide contains it.
-    std::string Asked(const std::function<void()>& action) {
+    // Returns the anchor that an action opens, and checks that the guide contains it.
+    std::string RequestedPage(const std::function<void()>& action) {
         action();
-        std::string asked; // also empty while the file is being renamed
-        for (int i = 0; i < 500 && (asked = log.Read()).empty(); ++i)
+        std::string command; // also empty while the file is being renamed
+        for (int i = 0; i < 500 && (command = log.Read()).empty(); ++i)
             user.Wait(10);
         ::DeleteFileA(log.Path().c_str());
-        const size_t url = asked.find("\"file:///"), anchor = asked.find("/help/user-guide.html#");
-        if (url == std::string::npos || anchor == std::string::npos || asked.back() != '"') return asked;
-        const std::string topic = asked.substr(asked.find('#') + 1);
+        const size_t url = command.find("\"file:///"), anchor = command.find("/help/user-guide.html#");
+        if (url == std::string::npos || anchor == std::string::npos || command.back() != '"') return command;
+        const std::string topic = command.substr(command.find('#') + 1);
         std::ifstream guide(ProgramFolder() + "help\\user-guide.html", std::ios::binary);
         const std::string text{std::istreambuf_iterator<char>(guide), {}};
         EXPECT_NE(text.find("id=\"" + topic), std::string::npos) << topic;
@@ -76,10 +76,10 @@ TEST_F(Help, IsForTheActivePageByKeyAndByButton) {
     user.InDialog(
         [&] { user.Key(VK_RETURN, UserInput::kAlt); },
         [&](HWND sheet) {
-            EXPECT_EQ(Asked([&] { user.Key(VK_F1); }), "general");
+            EXPECT_EQ(RequestedPage([&] { user.Key(VK_F1); }), "general");
             for (const auto& [page, topic] : {std::pair(1, "pen"), std::pair(2, "brush"), std::pair(3, "text")}) {
                 ASSERT_TRUE(ClickTab(user, sheet, page));
-                EXPECT_EQ(Asked([&] { user.Click(::GetDlgItem(sheet, ID_HELP)); }), topic);
+                EXPECT_EQ(RequestedPage([&] { user.Click(::GetDlgItem(sheet, ID_HELP)); }), topic);
             }
             user.Key(VK_ESCAPE);
         });
@@ -88,12 +88,12 @@ TEST_F(Help, IsForTheActivePageByKeyAndByButton) {
 TEST_F(Help, IsForThePageOfThePaneOrTheViewer) {
     user.Key(VK_F6);
     user.Key(VK_TAB, UserInput::kControl);
-    EXPECT_EQ(Asked([&] { user.Key(VK_F1); }), "pen");
+    EXPECT_EQ(RequestedPage([&] { user.Key(VK_F1); }), "pen");
     user.Key(VK_F6);
-    EXPECT_EQ(Asked([&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_HELP_GUIDE, 0); }), "the-viewer");
+    EXPECT_EQ(RequestedPage([&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_HELP_GUIDE, 0); }), "the-viewer");
     user.InDialog([&] { user.Key('L', UserInput::kControl); },
                   [&](HWND) {
-                      EXPECT_EQ(Asked([&] { user.Key(VK_F1); }), "the-viewer");
+                      EXPECT_EQ(RequestedPage([&] { user.Key(VK_F1); }), "the-viewer");
                       user.Key(VK_ESCAPE);
                   });
 }

@@ -42,7 +42,7 @@ protected:
 };
 
 TEST_F(Layers, AreLockedByKeysAndStayVisible) {
-    const std::vector<uint32_t> seen = Seen();
+    const std::vector<uint32_t> seen = ViewPixels();
     ASSERT_EQ(SelectAll(), 4);
     InDialog([&](HWND dialog) {
         EXPECT_EQ(Row(dialog, 0), "0 yes - - 3");
@@ -59,7 +59,7 @@ TEST_F(Layers, AreLockedByKeysAndStayVisible) {
     user.Click(view(), Pixel(26, 31));
     EXPECT_EQ(selection().Count(), 0);
     user.Key(VK_ESCAPE);
-    EXPECT_EQ(Seen(), seen);
+    EXPECT_EQ(ViewPixels(), seen);
 }
 
 TEST_F(Layers, HaveTitlesThatFitTheirColumns) {
@@ -145,11 +145,11 @@ TEST_F(Layers, ThousandsCanBeChangedAtOnce) {
 }
 
 TEST_F(Layers, AreHiddenForSeveralRowsAndRestoredByCancel) {
-    const std::vector<uint32_t> seen = Seen();
+    const std::vector<uint32_t> seen = ViewPixels();
     for (const int state : {IDC_LAYER_ON, IDC_LAYER_FROZEN}) {
         InDialog([&](HWND dialog) {
             user.Click(::GetDlgItem(dialog, state)); // in the first row
-            EXPECT_NE(Seen(), seen);
+            EXPECT_NE(ViewPixels(), seen);
             ::SetFocus(::GetDlgItem(dialog, IDC_LAYER_LIST));
             user.Key(VK_DOWN, UserInput::kShift); // both rows
             EXPECT_EQ(Box(dialog, state), BST_INDETERMINATE);
@@ -160,7 +160,7 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndRestoredByCancel) {
             EXPECT_EQ(Cell(dialog, 1, 1 + state - IDC_LAYER_ON), "-");
             user.Key(VK_ESCAPE);
         });
-        EXPECT_EQ(Seen(), seen);
+        EXPECT_EQ(ViewPixels(), seen);
         EXPECT_NE(WindowText(frame->m_hWnd)[0], '*');
         EXPECT_EQ(SelectAll(), 4);
         user.Key(VK_ESCAPE);

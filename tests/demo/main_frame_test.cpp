@@ -47,7 +47,7 @@ TEST_F(Viewer, KeyboardAloneChangesAndUndoes) {
 
 TEST_F(Viewer, OneUndoRevertsAWholeSheet) {
     const DrawingState before = Properties();
-    const std::vector<uint32_t> seen = Seen();
+    const std::vector<uint32_t> seen = ViewPixels();
     user.InDialog(
         [&] { // a double click as sent by a mouse
             user.Click(view(), Pixel(10, 5));
@@ -68,7 +68,7 @@ TEST_F(Viewer, OneUndoRevertsAWholeSheet) {
     EXPECT_TRUE(before == Properties());
     EXPECT_EQ(document().UndoSteps(), 0);
     user.Key(VK_ESCAPE);
-    EXPECT_EQ(seen, Seen());
+    EXPECT_EQ(seen, ViewPixels());
 }
 
 // A page is written when it is left; the drawing shows it, and Cancel undoes it.
@@ -77,20 +77,20 @@ TEST_F(Viewer, CancelUndoesWrittenPages) {
     user.Key('Z', UserInput::kControl);
     const DrawingState before = Properties();
     user.Key('A', UserInput::kControl);
-    const std::vector<uint32_t> seen = Seen();
+    const std::vector<uint32_t> seen = ViewPixels();
     user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                   [&](HWND) {
                       user.Key(VK_TAB, UserInput::kControl);
                       FocusByTab(user, IDC_COLOR);
                       user.Keys(VK_DOWN, 3);
-                      const std::vector<uint32_t> unapplied = Seen();
+                      const std::vector<uint32_t> unapplied = ViewPixels();
                       user.Key(VK_TAB, UserInput::kControl);
                       EXPECT_EQ(before.ChangesTo(Properties()).size(), 4u);
-                      EXPECT_NE(unapplied, Seen());
+                      EXPECT_NE(unapplied, ViewPixels());
                       user.Key(VK_ESCAPE);
                   });
     EXPECT_TRUE(before == Properties());
-    EXPECT_EQ(seen, Seen());
+    EXPECT_EQ(seen, ViewPixels());
     EXPECT_EQ(document().UndoSteps(), 0);
     user.Key('Y', UserInput::kControl);
     EXPECT_FALSE(before == Properties()) << "what was undone before can still be redone";

@@ -16,7 +16,7 @@
 
 namespace {
 
-class Remembered : public Viewer {
+class SavedSettings : public Viewer {
 protected:
     void Do(UINT command) {
         ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0);
@@ -53,7 +53,7 @@ protected:
     }
 };
 
-TEST_F(Remembered, BackgroundWeightsPaneAndPositionAreRestored) {
+TEST_F(SavedSettings, BackgroundWeightsPaneAndPositionAreRestored) {
     Do(ID_VIEW_LIGHT_BACKGROUND);
     Do(ID_VIEW_LINE_WEIGHTS);
     user.Key(VK_TAB);
@@ -77,7 +77,7 @@ TEST_F(Remembered, BackgroundWeightsPaneAndPositionAreRestored) {
                   });
 }
 
-TEST_F(Remembered, SystemColorModeIsUsedUntilTheUserSelectsOne) {
+TEST_F(SavedSettings, SystemColorModeIsUsedUntilTheUserSelectsOne) {
     EXPECT_EQ(frame->View().Background(), CDrawingView::kDarkBackground);
     constexpr const char* kScheme = R"(Software\Microsoft\Windows\CurrentVersion\Themes\Personalize)";
     const auto setLight = [&](DWORD light) {
@@ -92,7 +92,7 @@ TEST_F(Remembered, SystemColorModeIsUsedUntilTheUserSelectsOne) {
     ::RegDeleteKeyValueA(HKEY_CURRENT_USER, kScheme, "AppsUseLightTheme");
 }
 
-TEST_F(Remembered, PaneHasAMinimumWidthAndScrollsToTheFocus) {
+TEST_F(SavedSettings, PaneHasAMinimumWidthAndScrollsToTheFocus) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
     const int fitting = Place(pane()).Width();
@@ -118,7 +118,7 @@ TEST_F(Remembered, PaneHasAMinimumWidthAndScrollsToTheFocus) {
     EXPECT_GE(Place(view()).Width(), 100) << "the drawing keeps some space";
 }
 
-TEST_F(Remembered, AFittedDrawingIsFittedAgainUntilItIsMoved) {
+TEST_F(SavedSettings, AFittedDrawingIsFittedAgainUntilItIsMoved) {
     for (const int width : {700, 900}) {
         frame->MoveWindow(0, 0, width, 500);
         CRect client;
@@ -133,7 +133,7 @@ TEST_F(Remembered, AFittedDrawingIsFittedAgainUntilItIsMoved) {
     EXPECT_NEAR(frame->View().GetCamera().ToWorld(CPoint(10, 10)).x, corner.x, 1e-6);
 }
 
-TEST_F(Remembered, DecimalMarkIsTheSystemsOrTheUsers) {
+TEST_F(SavedSettings, DecimalMarkIsTheSystemsOrTheUsers) {
     const auto mark = [] {
         char text[4] = "";
         ::TableGetStringVar(::AppGetCurrentApp()->pVariables, kVarDecimalMark, text, sizeof text);
@@ -163,7 +163,7 @@ TEST_F(Remembered, DecimalMarkIsTheSystemsOrTheUsers) {
 }
 
 // Shortcuts of the main window work in the pane, except for keys that a field needs.
-TEST_F(Remembered, WindowShortcutsWorkInThePane) {
+TEST_F(SavedSettings, WindowShortcutsWorkInThePane) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
@@ -199,7 +199,7 @@ LRESULT CALLBACK NoteMenuKey(HWND window, UINT message, WPARAM wParam, LPARAM lP
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
-TEST_F(Remembered, MenuMnemonicsWorkInThePane) {
+TEST_F(SavedSettings, MenuMnemonicsWorkInThePane) {
     user.Click(view(), Pixel(26, 31)); // the text
     Do(ID_VIEW_PROPERTIES);
     user.Wait(0);
@@ -225,7 +225,7 @@ std::string StatusText(HWND frame, int pane) {
     return text;
 }
 
-TEST_F(Remembered, StatusBarReportsTextThatIsNotALength) {
+TEST_F(SavedSettings, StatusBarReportsTextThatIsNotALength) {
     user.Key(VK_TAB);
     const auto play = [&](HWND over) {
         ASSERT_TRUE(ClickTab(user, over, 1));

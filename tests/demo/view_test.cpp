@@ -79,33 +79,33 @@ TEST_F(Viewer, TabScrollsTheSelectionIntoView) {
 }
 
 TEST_F(Viewer, DeselectingLeavesNoTraces) {
-    const std::vector<uint32_t> before = Seen();
+    const std::vector<uint32_t> before = ViewPixels();
     user.Key('A', UserInput::kControl);
-    EXPECT_NE(before, Seen());
+    EXPECT_NE(before, ViewPixels());
     user.Key(VK_ESCAPE);
-    EXPECT_EQ(before, Seen());
+    EXPECT_EQ(before, ViewPixels());
 }
 
 TEST_F(Viewer, RubberBandLeavesNoTraces) {
-    const std::vector<uint32_t> before = Seen();
+    const std::vector<uint32_t> before = ViewPixels();
     user.Press(view(), Pixel(18, 18));
     user.MoveTo(view(), Pixel(38, 2));
-    EXPECT_NE(before, Seen());
+    EXPECT_NE(before, ViewPixels());
     user.MoveTo(view(), Pixel(19, 21));
     user.Release(view(), Pixel(19, 21));
-    EXPECT_EQ(before, Seen());
+    EXPECT_EQ(before, ViewPixels());
 }
 
 TEST_F(Viewer, BackgroundAndLineWeightsCanBeSelected) {
     document().Change([&] { ::GraphicSetPenWidth(document().Selectable()[0], 0.5); });
     const auto choose = [&](UINT command) {
         ::SendMessageA(frame->m_hWnd, WM_COMMAND, command, 0);
-        return Seen();
+        return ViewPixels();
     };
     const auto drawn = [](const std::vector<uint32_t>& pixels) {
         return std::count_if(pixels.begin(), pixels.end(), [&](uint32_t p) { return p != pixels.front(); });
     };
-    const std::vector<uint32_t> dark = Seen(), light = choose(ID_VIEW_LIGHT_BACKGROUND);
+    const std::vector<uint32_t> dark = ViewPixels(), light = choose(ID_VIEW_LIGHT_BACKGROUND);
     EXPECT_EQ(light.front(), 0xFFFFFFu);
     EXPECT_LT(drawn(choose(ID_VIEW_LINE_WEIGHTS)) * 2, drawn(light));
     EXPECT_EQ(choose(ID_VIEW_LINE_WEIGHTS), light);
@@ -119,9 +119,9 @@ TEST_F(Viewer, MovedPictureEqualsARedrawnOne) {
     for (const UINT key : {VK_LEFT, VK_UP, VK_UP, VK_RIGHT, VK_RIGHT, VK_DOWN}) {
         user.Key(key);
         user.PanDrag(view(), CPoint(300, 300), CPoint(287, 322));
-        const std::vector<uint32_t> moved = Seen();
+        const std::vector<uint32_t> moved = ViewPixels();
         frame->View().Redraw();
-        EXPECT_EQ(Seen(), moved) << "after key " << key;
+        EXPECT_EQ(ViewPixels(), moved) << "after key " << key;
     }
 }
 
@@ -141,9 +141,9 @@ TEST_F(Viewer, LargeDrawingIsExactAtRest) {
     user.PanDrag(view(), CPoint(300, 300), CPoint(287, 322));
     user.Wheel(view(), Pixel(120, 130), -1);
     user.Key(VK_LEFT);
-    const std::vector<uint32_t> moved = Seen();
+    const std::vector<uint32_t> moved = ViewPixels();
     frame->View().Redraw();
-    EXPECT_EQ(Seen(), moved);
+    EXPECT_EQ(ViewPixels(), moved);
 }
 
 } // namespace

@@ -72,7 +72,7 @@ void Viewer::Drag(WorldPoint from, WorldPoint to, unsigned modifiers) {
     user.Release(view(), end, modifiers);
 }
 
-std::vector<uint32_t> Viewer::Seen() {
+std::vector<uint32_t> Viewer::ViewPixels() {
     constexpr unsigned kTick = 10;
     for (user.Wait(0); !frame->View().IsExact();)
         user.Wait(kTick);

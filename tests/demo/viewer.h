@@ -45,7 +45,7 @@ protected:
 
     void Drag(WorldPoint from, WorldPoint to, unsigned modifiers = UserInput::kNone);
     // Returns the pixels of the view once it is idle.
-    std::vector<uint32_t> Seen();
+    std::vector<uint32_t> ViewPixels();
 
     CMainFrame* frame; // deleted with its window
     DrawingFile file;  // the open file

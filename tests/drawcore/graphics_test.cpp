@@ -19,7 +19,7 @@ namespace {
 using List = std::vector<GraphicStruct*>;
 
 TEST(Graphics, OfAStyleTreeHaveCopiesInTheSameTree) {
-    Balance balance;
+    LeakCheck balance;
     GraphicStruct* content = GraphicNewEx(kGraphicVertices, 0, 1);
     GraphicSetStyleName(content, std::string("Doors").c_str());
     GraphicStruct* copy = GraphicCopyEx(content, 0, 0, 7);
@@ -31,11 +31,11 @@ TEST(Graphics, OfAStyleTreeHaveCopiesInTheSameTree) {
     GraphicSetStyleName(copy, "");
     EXPECT_EQ(copy->pszStyleName, nullptr);
     GraphicDispose(&copy);
-    EXPECT_TRUE(balance.IsEven());
+    EXPECT_TRUE(balance.HasNoLeaks());
 }
 
 TEST(Graphics, AreCreatedByType) {
-    Balance balance;
+    LeakCheck balance;
     for (const int type : {2, 6, 0x0B, 0x11}) {
         GraphicStruct* graphic = GraphicNewEx(type, 0, 1);
         ASSERT_NE(graphic, nullptr);
@@ -47,11 +47,11 @@ TEST(Graphics, AreCreatedByType) {
         GraphicDispose(&graphic); // harmless
     }
     EXPECT_EQ(GraphicNewEx(99, 0, 1), nullptr);
-    EXPECT_TRUE(balance.IsEven());
+    EXPECT_TRUE(balance.HasNoLeaks());
 }
 
 TEST(Graphics, OwnTheirParts) {
-    Balance balance;
+    LeakCheck balance;
     OwnDrawing drawing;
     GraphicStruct* parent = GraphicNewEx(kGraphicVertices, 0, 1);
     EXPECT_FALSE(GraphicGetIsGroup(parent));
@@ -72,11 +72,11 @@ TEST(Graphics, OwnTheirParts) {
     drawing.Close();
     EXPECT_EQ(GraphicGetDrawing(b), nullptr) << "the drawing was deleted";
     GraphicDispose(&parent);
-    EXPECT_TRUE(balance.IsEven());
+    EXPECT_TRUE(balance.HasNoLeaks());
 }
 
 TEST(Graphics, PolylineWithPartsIsNotAGroup) {
-    const Loose shape(MakeSquare(0, 0, 1));
+    const TestGraphic shape(MakeSquare(0, 0, 1));
     GraphicAdd(shape, MakeSquare(1, 1, 1));
     EXPECT_FALSE(GraphicGetIsGroup(shape));
 }
@@ -152,7 +152,7 @@ TEST(Extents, FollowTheGraphicAndItsParts) {
 }
 
 TEST(Selections, DoNotOwnTheirMembers) {
-    Balance balance;
+    LeakCheck balance;
     OwnDrawing drawing;
     std::vector<GraphicStruct*> lines;
     for (int i = 0; i < 5; ++i)
@@ -177,12 +177,12 @@ TEST(Selections, DoNotOwnTheirMembers) {
     GraphicDispose(&selection);
     EXPECT_EQ(Members(drawing.Root()).size(), 5u) << "the drawing still owns the members";
     drawing.Close();
-    EXPECT_TRUE(balance.IsEven());
+    EXPECT_TRUE(balance.HasNoLeaks());
 }
 
 TEST(Selections, AreCopiedAsAGroupOfCopies) {
     OwnDrawing drawing;
-    const Balance balance;
+    const LeakCheck balance;
     GraphicStruct *a = drawing.Add(MakeLines({{0, 0}, {1, 1}})), *b = drawing.Add(MakeSquare(2, 2, 2));
     SetInteger(b, kPropBrushStyle, 3);
     GraphicStruct* selection = SelectionNew();
@@ -204,7 +204,7 @@ TEST(Selections, AreCopiedAsAGroupOfCopies) {
         GraphicDelete(drawing.Root(), graphic);
         GraphicDispose(&graphic);
     }
-    EXPECT_TRUE(balance.IsEven());
+    EXPECT_TRUE(balance.HasNoLeaks());
 }
 
 TEST(RegenMethods, CallTheHostProgram) {
@@ -256,7 +256,7 @@ TEST(Copies, KeepArcsAndWidths) {
     std::filesystem::remove(path);
     ASSERT_NE(drawing, nullptr);
     GraphicStruct* original = Members(DrawingGetRoot(drawing.get())).at(0);
-    const Loose copy(GraphicCopyEx(original, 0, 0, 7));
+    const TestGraphic copy(GraphicCopyEx(original, 0, 0, 7));
     EXPECT_NEAR(BoxOf(original).right, 80, 1e-9);
     EXPECT_NEAR(BoxOf(copy).bottom, BoxOf(original).bottom, 1e-9);
     Picture picture(drawing.get());

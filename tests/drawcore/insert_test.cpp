@@ -102,7 +102,7 @@ TEST_F(Inserts, OfADeletedBlockShowNothing) {
     BlockDispose(blocks, flag);
     EXPECT_EQ(BlocksFindBlock(blocks, "FLAG"), 0);
     EXPECT_EQ(BlockGetGraphic(blocks, flag), nullptr);
-    EXPECT_FALSE(InsertSetData(Loose(GraphicNewEx(kGraphicInsert, 0, 1)), blocks, flag, nullptr));
+    EXPECT_FALSE(InsertSetData(TestGraphic(GraphicNewEx(kGraphicInsert, 0, 1)), blocks, flag, nullptr));
     Draw();
     EXPECT_EQ(picture.Covered(), 0);
 }
@@ -130,7 +130,7 @@ TEST_F(Inserts, FollowTheirBlock) {
 // Members that are in drawing coordinates, such as attributes, and the elements of an array.
 TEST_F(Inserts, MoveTheirMembers) {
     for (const double flat : {1.0, 0.0}) {
-        const Loose insert(Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20));
+        const TestGraphic insert(Insert(FlagBlock(flat > 0 ? "SOLID" : "FLAT"), 10, 10, 20, 20));
         GraphicAdd(insert, MakeSquare(20, 30, 4));
         GraphicAttach(insert, drawing);
         const auto expectBox = [&](const Box& expected) {

@@ -62,7 +62,7 @@ Box BoxOf(GraphicStruct* graphic) {
 Picture::Picture(DrawingStruct* drawing) : m_viewport(ViewportNewEx()) {
     const RECT rect = {0, 0, 101, 101};
     ViewportSetRect(Viewport(), &rect);
-    ViewportSetExtents(Viewport(), GraphicGetExtentsSel(Loose(MakeSquare(0, 0, 100)), 0), kFitWhole);
+    ViewportSetExtents(Viewport(), GraphicGetExtentsSel(TestGraphic(MakeSquare(0, 0, 100)), 0), kFitWhole);
     ViewportSetGDIStuff(Viewport(), nullptr, m_pixels.DC(), MM_TEXT, 1);
     ViewportSetDrawing(Viewport(), drawing);
 }
@@ -78,7 +78,7 @@ int Picture::Covered(int left, int bottom, int right, int top) const {
     return m_pixels.CountWhere(box, [](COLORREF color) { return color != RGB(255, 255, 255); });
 }
 
-bool Balance::IsEven() const {
+bool LeakCheck::HasNoLeaks() const {
     DrawCoreObjectCounts now;
     DrawCoreGetObjectCounts(&now);
     return now.blocks == m_before.blocks && now.graphics == m_before.graphics && now.vertices == m_before.vertices &&

@@ -38,9 +38,9 @@ struct Box {
 Box BoxOf(GraphicStruct* graphic);
 
 // Owns a graphic that has no other owner.
-class Loose {
+class TestGraphic {
 public:
-    explicit Loose(GraphicStruct* graphic) : m_graphic(graphic) {}
+    explicit TestGraphic(GraphicStruct* graphic) : m_graphic(graphic) {}
     operator GraphicStruct*() const { return m_graphic.get(); }
     GraphicStruct* operator->() const { return m_graphic.get(); }
 
@@ -100,10 +100,10 @@ private:
 };
 
 // Checks that all objects created since its construction have been freed.
-class Balance {
+class LeakCheck {
 public:
-    Balance() { DrawCoreGetObjectCounts(&m_before); }
-    bool IsEven() const;
+    LeakCheck() { DrawCoreGetObjectCounts(&m_before); }
+    bool HasNoLeaks() const;
 
 private:
     DrawCoreObjectCounts m_before;

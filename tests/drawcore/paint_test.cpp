@@ -232,16 +232,16 @@ TEST_F(Dashes, AreNotComputedFarOutsideTheView) {
 TEST_F(Paint, FillsFollowTheDrawMode) {
     // Two overlapping squares, each in one stroke.
     for (const uint32_t mode : {0u, 1u}) {
-        const Loose shape(MakeLines({{10, 10},
-                                     {60, 10},
-                                     {60, 60},
-                                     {10, 60},
-                                     {10, 10},
-                                     {40, 40, false},
-                                     {90, 40},
-                                     {90, 90},
-                                     {40, 90},
-                                     {40, 40}}));
+        const TestGraphic shape(MakeLines({{10, 10},
+                                           {60, 10},
+                                           {60, 60},
+                                           {10, 60},
+                                           {10, 10},
+                                           {40, 40, false},
+                                           {90, 40},
+                                           {90, 90},
+                                           {40, 90},
+                                           {40, 40}}));
         SetInteger(shape, kPropBrushStyle, 1);
         SetInteger(shape, kPropBrushColor, kBlue);
         SetInteger(shape, kPropBrushDrawMode, mode);
@@ -255,7 +255,8 @@ TEST_F(Paint, FillsFollowTheDrawMode) {
 }
 
 TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
-    const Loose shape(MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}}));
+    const TestGraphic shape(
+        MakeLines({{10, 10}, {10, 90}, {0, 100, false}, {10, 90, false}, {90, 90}, {90, 10}, {10, 10}}));
     SetInteger(shape, kPropBrushStyle, 1);
     SetInteger(shape, kPropBrushColor, kColorOfPen);
     SetInteger(shape, kPropPenColor, kRed);
@@ -267,7 +268,7 @@ TEST_F(Paint, OneOutlineGoesThroughUndrawnSegments) {
 }
 
 TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
-    const Loose square(MakeSquare(10, 10, 80));
+    const TestGraphic square(MakeSquare(10, 10, 80));
     SetInteger(square, kPropPenStyle, 0);
     SetInteger(square, kPropBrushColor, kBlue);
     SetReal(square, kPropBrushScale, 10);
@@ -287,7 +288,7 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
 }
 
 TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
-    const Loose square(MakeSquare(10, 10, 79));
+    const TestGraphic square(MakeSquare(10, 10, 79));
     SetInteger(square, kPropPenStyle, 0);
     SetInteger(square, kPropBrushColor, kBlue);
     TableStruct* styles = drawing.Table(kTableBrushStyles);
@@ -309,7 +310,7 @@ TEST_F(Paint, BitmapsTileAndTakeTheBrushColorOrTheirOwn) {
 }
 
 TEST_F(Paint, LineOfManyPiecesEqualsOneOfFew) {
-    const Loose circle(GraphicNewEx(kGraphicPenBrush, 0, 1)); // unit circle
+    const TestGraphic circle(GraphicNewEx(kGraphicPenBrush, 0, 1)); // unit circle
     picture.Draw(circle);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(circle, 0), kFitWhole);
     picture.Draw(circle);
@@ -324,7 +325,8 @@ TEST_F(Paint, LineOfManyPiecesEqualsOneOfFew) {
 // Coordinates that no device accepts: far out of range, or not numbers.
 TEST_F(Paint, SurvivesDistantCoordinates) {
     for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
-        const Loose shape(MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
+        const TestGraphic shape(
+            MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
         SetInteger(shape, kPropBrushStyle, 1);
         SetInteger(shape, kPropBrushColor, kBlue);
         picture.Draw(shape);
@@ -332,14 +334,14 @@ TEST_F(Paint, SurvivesDistantCoordinates) {
         if (away <= 1e15) {
             EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view is inside";
         }
-        const Loose line(MakeLines({{-away, 50}, {away, 50}}));
+        const TestGraphic line(MakeLines({{-away, 50}, {away, 50}}));
         picture.Draw(line);
         if (away <= 1e15) {
             EXPECT_EQ(picture.Covered(), 101) << away;
         }
     }
     for (const double none : {static_cast<double>(NAN), HUGE_VAL}) {
-        const Loose line(MakeLines({{10, 10}, {none, 50}, {90, 90}}));
+        const TestGraphic line(MakeLines({{10, 10}, {none, 50}, {90, 90}}));
         picture.Draw(line);
         EXPECT_EQ(picture.Covered(), 0);
     }
@@ -404,7 +406,7 @@ TEST_F(Paint, StaysInTheRectangle) {
 TEST_F(Paint, ExtentsAreFittedCenteredWithTheirAspectRatio) {
     const RECT wide = {0, 0, 101, 51};
     ViewportSetRect(picture.Viewport(), &wide);
-    const Loose square(MakeSquare(1000, 1000, 2));
+    const TestGraphic square(MakeSquare(1000, 1000, 2));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(square, 0), kFitWhole);
     picture.Draw(square);
     EXPECT_EQ(picture.Bits().At(25, 10), kBlack);
@@ -412,22 +414,22 @@ TEST_F(Paint, ExtentsAreFittedCenteredWithTheirAspectRatio) {
     EXPECT_EQ(picture.Bits().At(50, 0), kBlack);
     EXPECT_EQ(picture.Bits().At(50, 50), kBlack);
     EXPECT_EQ(picture.Covered(), 200);
-    const Loose elsewhere(MakeSquare(0, 0, 9));
+    const TestGraphic elsewhere(MakeSquare(0, 0, 9));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(elsewhere, 0), 0);
     picture.Draw(square);
     EXPECT_EQ(picture.Covered(), 200) << "only kFitWhole is a way to fit";
     // Without height, without extents, or empty: the picture is still drawn, centered.
-    const Loose flat(MakeLines({{0, 7}, {4, 7}}));
+    const TestGraphic flat(MakeLines({{0, 7}, {4, 7}}));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(flat, 0), kFitWhole);
     picture.Draw(flat);
     EXPECT_EQ(picture.Covered(), 101);
     EXPECT_EQ(picture.Bits().At(0, 25), kBlack);
-    const Loose point(MakeLines({{3, 3}}));
+    const TestGraphic point(MakeLines({{3, 3}}));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(point, 0), kFitWhole);
     picture.Draw(point);
     EXPECT_EQ(picture.Covered(), 1) << "a point is a dot";
     EXPECT_EQ(picture.Bits().At(50, 25), kBlack);
-    const Loose nothing(GraphicNewEx(kGraphicVertices, 0, 1));
+    const TestGraphic nothing(GraphicNewEx(kGraphicVertices, 0, 1));
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(nothing, 0), kFitWhole);
     picture.Draw(nothing);
     EXPECT_EQ(picture.Covered(), 0);
@@ -436,7 +438,7 @@ TEST_F(Paint, ExtentsAreFittedCenteredWithTheirAspectRatio) {
 TEST_F(Paint, PreviewsShowPensAtFullSize) {
     // A sample in the unit square, scaled to 100 pixels; dashes and widths have their size on paper.
     const double inch = ::GetDeviceCaps(picture.DC(), LOGPIXELSX), millimeter = inch / 25.4;
-    const Loose sample(MakeLines({{0, 0.5}, {1, 0.5}}));
+    const TestGraphic sample(MakeLines({{0, 0.5}, {1, 0.5}}));
     GraphicAttach(sample, drawing);
     ViewportSetExtents(picture.Viewport(), GraphicGetExtentsSel(sample, 0), kFitWhole);
     SetInteger(sample, kPropPenColor, kRed);

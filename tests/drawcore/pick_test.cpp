@@ -18,7 +18,7 @@ protected:
     }
     // Returns the members within a rectangle of drawing units in drawing order.
     std::vector<GraphicStruct*> Within(int left, int bottom, int right, int top, int crossing) {
-        const Loose selection(SelectionNew());
+        const TestGraphic selection(SelectionNew());
         const RECT rect = {left, 100 - top, right, 100 - bottom};
         const int added =
             ViewportPickWindow(picture.Viewport(), drawing.Root(), &rect, crossing, 0xFFFFFFFF, selection);

@@ -12,9 +12,9 @@
 
 namespace {
 
-class Places : public testing::Test {
+class SpatialIndexTest : public testing::Test {
 protected:
-    Places() {
+    SpatialIndexTest() {
         block = BlocksAddBlock(drawing.Table(kTableBlocks), "Mark", MakeSquare(-1, -1, 2));
         layer = TableEntryAdd(drawing.Table(kTableLayers), "some", nullptr);
         for (int i = 0; i < kGraphics; ++i)
@@ -105,7 +105,7 @@ protected:
     }
 
     std::vector<GraphicStruct*> Within(GraphicStruct* set, const RECT& box, int crossing) {
-        const Loose found(SelectionNew());
+        const TestGraphic found(SelectionNew());
         ViewportPickWindow(picture.Viewport(), set, &box, crossing, kAllGraphics, found);
         return Members(found);
     }
@@ -124,7 +124,7 @@ protected:
     }
 
     void ExpectTheSame() {
-        const Loose walked(SelectionNew());
+        const TestGraphic walked(SelectionNew());
         for (GraphicStruct* graphic : all)
             SelectionAdd(walked, graphic);
         EXPECT_EQ(Drawn(drawing.Root()), Drawn(walked));
@@ -146,7 +146,7 @@ protected:
     std::vector<GraphicStruct*> all; // in drawing order
 };
 
-TEST_F(Places, ResultsEqualASearchAfterAnyChange) {
+TEST_F(SpatialIndexTest, ResultsEqualASearchAfterAnyChange) {
     ViewportZoom(picture.Viewport(), {50, 50}, 1.3);
     for (int round = 0; round < 150 && !HasFailure(); ++round) {
         SCOPED_TRACE(round);
@@ -159,7 +159,7 @@ TEST_F(Places, ResultsEqualASearchAfterAnyChange) {
 }
 
 // More changes than are updated one by one: the index is rebuilt.
-TEST_F(Places, ResultsEqualASearchAfterAChangeOfAll) {
+TEST_F(SpatialIndexTest, ResultsEqualASearchAfterAChangeOfAll) {
     ExpectTheSame();
     DrawingBeginUndo(drawing);
     for (GraphicStruct* graphic : all)
@@ -170,13 +170,13 @@ TEST_F(Places, ResultsEqualASearchAfterAChangeOfAll) {
     ExpectTheSame();
 }
 
-TEST_F(Places, DrawingInTimeSlicesEqualsDrawingAtOnce) {
+TEST_F(SpatialIndexTest, DrawingInTimeSlicesEqualsDrawingAtOnce) {
     for (GraphicStruct* graphic : all)
         if (Number(4) == 0) Widen(graphic);
     for (const double factor : {1.0, 1.5, 0.1}) {
         ViewportZoom(picture.Viewport(), {50, 50}, factor);
         const std::vector<COLORREF> whole = Drawn(drawing.Root());
-        picture.Draw(Loose(MakeLines({}))); // draws nothing
+        picture.Draw(TestGraphic(MakeLines({}))); // draws nothing
         uint32_t place = 0;
         int turns = 1;
         while (!GraphicDrawTimed(drawing.Root(), picture.Viewport(), &place, 0))

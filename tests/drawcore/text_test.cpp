@@ -138,7 +138,7 @@ TEST_F(Texts, AreMirroredWithTheirInsertion) {
     GraphicDelete(drawing.Root(), text);
     const uint16_t block = BlocksAddBlock(drawing.Table(kTableBlocks), "L", text);
     for (const double side : {40.0, -40.0}) {
-        const Loose insert(MakeInsert(drawing.Table(kTableBlocks), block, {50, 30}, side, 40));
+        const TestGraphic insert(MakeInsert(drawing.Table(kTableBlocks), block, {50, 30}, side, 40));
         picture.Draw(insert);
         const int left = picture.Covered(0, 30, 49, 72), right = picture.Covered(51, 30, 100, 72);
         EXPECT_GT(side > 0 ? right : left, 50);

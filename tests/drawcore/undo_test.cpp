@@ -18,7 +18,7 @@ protected:
         for (GraphicStruct* line : lines)
             SetReal(line, kPropPenWidth, 1);
     }
-    Balance balance;
+    LeakCheck balance;
     OwnDrawing drawing;
     std::vector<GraphicStruct*> lines;
 };
@@ -290,7 +290,7 @@ TEST_F(Undo, IgnoresPreviewsAndHandlesDeletedGraphics) {
     EXPECT_EQ(DrawingUndo(drawing), 1);
     EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 1);
     drawing.Close();
-    EXPECT_TRUE(balance.IsEven());
+    EXPECT_TRUE(balance.HasNoLeaks());
     EXPECT_FALSE(DrawingBeginUndo(drawing)) << "the drawing was deleted";
 }
 

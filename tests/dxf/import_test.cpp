@@ -25,24 +25,24 @@
 
 namespace {
 
-struct Heard {
+struct RecordedCalls {
     int cancelAt = 1001; // never
     std::vector<int> progress;
     std::string warnings;
     char message[256] = "not written";
 };
 
-OwnedDrawing Open(const std::wstring& path, Heard& heard) {
+OwnedDrawing Open(const std::wstring& path, RecordedCalls& recorded) {
     const auto progress = [](void* context, int permille) {
-        Heard& hears = *static_cast<Heard*>(context);
-        hears.progress.push_back(permille);
-        return permille < hears.cancelAt ? 1 : 0;
+        RecordedCalls& record = *static_cast<RecordedCalls*>(context);
+        record.progress.push_back(permille);
+        return permille < record.cancelAt ? 1 : 0;
     };
     const auto warning = [](void* context, int line, const char* text) {
-        static_cast<Heard*>(context)->warnings += std::to_string(line) + " " + text + "\n";
+        static_cast<RecordedCalls*>(context)->warnings += std::to_string(line) + " " + text + "\n";
     };
-    const DxfListener listener = {&heard, progress, warning};
-    return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, heard.message, sizeof heard.message));
+    const DxfListener listener = {&recorded, progress, warning};
+    return OwnedDrawing(DrawingOpenDxf(path.c_str(), &listener, recorded.message, sizeof recorded.message));
 }
 
 // A file that exists during the test.
@@ -61,14 +61,14 @@ public:
     std::wstring path;
 };
 
-OwnedDrawing OpenText(const std::string& bytes, Heard& heard) {
-    return Open(TemporaryFile(bytes).path, heard);
+OwnedDrawing OpenText(const std::string& bytes, RecordedCalls& recorded) {
+    return Open(TemporaryFile(bytes).path, recorded);
 }
 
 OwnedDrawing OpenText(const std::string& bytes) {
-    Heard heard;
-    OwnedDrawing drawing = OpenText(bytes, heard);
-    EXPECT_TRUE(drawing) << heard.message;
+    RecordedCalls recorded;
+    OwnedDrawing drawing = OpenText(bytes, recorded);
+    EXPECT_TRUE(drawing) << recorded.message;
     return drawing;
 }
 
@@ -116,13 +116,13 @@ TEST(Import, OpensWhatTheReaderReadsOrFails) {
         DrawCoreObjectCounts before{}, after{};
         DrawCoreGetObjectCounts(&before);
         const std::string file = kDrawings + found.cFileName;
-        Heard heard;
-        OwnedDrawing drawing = Open(std::wstring(file.begin(), file.end()), heard);
+        RecordedCalls recorded;
+        OwnedDrawing drawing = Open(std::wstring(file.begin(), file.end()), recorded);
         try {
             const drawcore::Extents box = dxf::ExtentsOf(dxf::Read(dxf::ReadBytes(file), {}));
-            ASSERT_TRUE(drawing) << file << heard.message;
-            EXPECT_TRUE(std::is_sorted(heard.progress.begin(), heard.progress.end())) << file;
-            EXPECT_EQ(heard.progress.back(), 1000) << file;
+            ASSERT_TRUE(drawing) << file << recorded.message;
+            EXPECT_TRUE(std::is_sorted(recorded.progress.begin(), recorded.progress.end())) << file;
+            EXPECT_EQ(recorded.progress.back(), 1000) << file;
             if (!box.IsEmpty()) {
                 const drawcore::Extents& own = BoxOf(drawing);
                 constexpr double slack = 1e-9;
@@ -133,7 +133,7 @@ TEST(Import, OpensWhatTheReaderReadsOrFails) {
             }
         } catch (const dxf::ReadError& error) {
             EXPECT_FALSE(drawing) << file;
-            EXPECT_STREQ(heard.message, error.what()) << file;
+            EXPECT_STREQ(recorded.message, error.what()) << file;
         }
         drawing.reset();
         DrawCoreGetObjectCounts(&after);
@@ -143,24 +143,24 @@ TEST(Import, OpensWhatTheReaderReadsOrFails) {
 }
 
 TEST(Import, AMissingFileIsReported) {
-    Heard heard;
-    EXPECT_FALSE(Open(L"Z:\\no\\such.dxf", heard));
-    EXPECT_STREQ(heard.message, "the file cannot be opened");
+    RecordedCalls recorded;
+    EXPECT_FALSE(Open(L"Z:\\no\\such.dxf", recorded));
+    EXPECT_STREQ(recorded.message, "the file cannot be opened");
     EXPECT_FALSE(DrawingOpenDxf(nullptr, nullptr, nullptr, 0));
 }
 
 TEST(Import, CanBeCanceledWithEachReport) {
     const std::wstring path = std::filesystem::path(kDrawings + "kabeja-draft4-roof-details.dxf").wstring();
-    Heard whole;
+    RecordedCalls whole;
     ASSERT_TRUE(Open(path, whole));
     DrawCoreObjectCounts before{}, after{};
     DrawCoreGetObjectCounts(&before);
     for (const int permille : whole.progress) {
-        Heard heard;
-        heard.cancelAt = permille;
-        EXPECT_FALSE(Open(path, heard)) << permille;
-        EXPECT_STREQ(heard.message, "canceled");
-        EXPECT_EQ(heard.progress.back(), permille) << "and nothing is reported afterwards";
+        RecordedCalls recorded;
+        recorded.cancelAt = permille;
+        EXPECT_FALSE(Open(path, recorded)) << permille;
+        EXPECT_STREQ(recorded.message, "canceled");
+        EXPECT_EQ(recorded.progress.back(), permille) << "and nothing is reported afterwards";
     }
     DrawCoreGetObjectCounts(&after);
     EXPECT_EQ(before.graphics, after.graphics);
@@ -345,13 +345,13 @@ TEST(Import, AttributesBelongToTheirInsertion) {
 }
 
 TEST(Import, ReportsOmittedEntities) {
-    Heard heard;
-    const OwnedDrawing drawing = OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), heard);
+    RecordedCalls recorded;
+    const OwnedDrawing drawing = OpenText(Drawing("0|RAY|0|LINE|67|1|0|LINE|10|nan|0|TEXT|1||0|LINE|60|1"), recorded);
     EXPECT_EQ(Members(drawing).size(), 0u);
-    EXPECT_EQ(heard.warnings, "17 LINE omitted: invalid coordinate in line 20\n"
-                              "11 1 of type RAY not shown: unsupported type\n"
-                              "0 1 entity of paper space is not shown\n");
-    EXPECT_STREQ(heard.message, "");
+    EXPECT_EQ(recorded.warnings, "17 LINE omitted: invalid coordinate in line 20\n"
+                                 "11 1 of type RAY not shown: unsupported type\n"
+                                 "0 1 entity of paper space is not shown\n");
+    EXPECT_STREQ(recorded.message, "");
 }
 
 } // namespace

@@ -209,10 +209,10 @@ TEST_F(SaveExact, SavesTheStyleTreeOfABlock) {
     }
 }
 
-struct Heard {
+struct RecordedCalls {
     std::vector<std::string> warnings;
     static void Hear(void* context, int line, const char* text) {
-        static_cast<Heard*>(context)->warnings.push_back(std::to_string(line) + " " + text);
+        static_cast<RecordedCalls*>(context)->warnings.push_back(std::to_string(line) + " " + text);
     }
 };
 
@@ -230,11 +230,11 @@ TEST_F(SaveExact, SavesTheRestAndListsOmissions) {
         if (g != polyline && g != group) line = g;
     WriteProperty(line, kPropPenColor, uint32_t{0x0000FF});
     EXPECT_EQ(Write(drawing), kSaveFailed);
-    Heard heard;
-    const DxfListener listener = {&heard, nullptr, Heard::Hear};
+    RecordedCalls recorded;
+    const DxfListener listener = {&recorded, nullptr, RecordedCalls::Hear};
     ASSERT_EQ(Write(drawing, kSaveRest, &listener), kSaveDoneInPart) << message;
     EXPECT_EQ(Saved(), Replaced(text, "30\n8\n0\n", "30\n8\n0\n62\n1\n"));
-    EXPECT_EQ(heard.warnings,
+    EXPECT_EQ(recorded.warnings,
               (std::vector<std::string>{
                   "0 the file format cannot store a group of graphics",
                   "49 LWPOLYLINE 2F (line 49): the file format cannot store a polyline that has left its plane"}));
@@ -250,11 +250,12 @@ TEST_F(SaveExact, SavesTheRestAndListsOmissions) {
 TEST_F(SaveExact, ReportsWhatOtherProgramsDoNotShow) {
     const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
     WriteProperty(First(drawing), kPropInfo, std::string("x"));
-    Heard heard;
-    const DxfListener listener = {&heard, nullptr, Heard::Hear};
+    RecordedCalls recorded;
+    const DxfListener listener = {&recorded, nullptr, RecordedCalls::Hear};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
-    EXPECT_EQ(heard.warnings, std::vector<std::string>{
-                                  "0 Info of 1 entity is stored as extended data, which other programs do not show"});
+    EXPECT_EQ(
+        recorded.warnings,
+        std::vector<std::string>{"0 Info of 1 entity is stored as extended data, which other programs do not show"});
 }
 
 // An entity with a reference that cannot be removed is kept.

@@ -185,11 +185,11 @@ TEST_F(Save, DistinguishesAnOpenFileFromAChangedOne) {
 }
 
 struct Reports {
-    std::vector<int> heard;
+    std::vector<int> recorded;
     int cancelAt = 1001; // never
     static int Hear(void* context, int permille) {
         Reports& reports = *static_cast<Reports*>(context);
-        reports.heard.push_back(permille);
+        reports.recorded.push_back(permille);
         return permille < reports.cancelAt ? 1 : 0;
     }
 };
@@ -202,17 +202,17 @@ TEST_F(Save, CanBeCanceledWithEachReport) {
     Reports whole;
     const DxfListener listener = {&whole, Reports::Hear, nullptr};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
-    EXPECT_TRUE(std::is_sorted(whole.heard.begin(), whole.heard.end()));
-    EXPECT_EQ(whole.heard.back(), 1000);
+    EXPECT_TRUE(std::is_sorted(whole.recorded.begin(), whole.recorded.end()));
+    EXPECT_EQ(whole.recorded.back(), 1000);
     const std::string saved = ReadBytes(path);
     ForGraphics(DrawingGetRoot(drawing.get()), [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("y")); });
-    for (const int permille : whole.heard) {
+    for (const int permille : whole.recorded) {
         Reports reports;
         reports.cancelAt = permille;
         const DxfListener cancels = {&reports, Reports::Hear, nullptr};
         EXPECT_EQ(Write(drawing, 0, &cancels), kSaveCanceled) << permille;
         EXPECT_EQ(message, "canceled");
-        EXPECT_EQ(reports.heard.back(), permille) << "and nothing is reported afterwards";
+        EXPECT_EQ(reports.recorded.back(), permille) << "and nothing is reported afterwards";
         EXPECT_TRUE(ReadBytes(path) == saved) << permille;
         EXPECT_FALSE(LeavesTemporaryFiles()) << permille;
     }

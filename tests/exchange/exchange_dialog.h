@@ -41,7 +41,7 @@ protected:
     }
     // Returns whether the exchange was ended by Fail.
     template <class Exchange>
-    static bool Refused(Exchange exchange) {
+    static bool Fails(Exchange exchange) {
         try {
             exchange();
         } catch (CUserException* exception) {

@@ -120,9 +120,9 @@ TEST_F(FontExchange, HeightIsShownAndReadBack) {
 TEST_F(FontExchange, FailsWithoutADrawingOrWithoutTheControl) {
     double size = 2.5;
     EXPECT_EQ(DDX_CBFontSize(0, &m_load, IDC_FONT_SIZE, size), 0) << "not filled yet";
-    EXPECT_TRUE(Refused([&] { DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size); }));
+    EXPECT_TRUE(Fails([&] { DDX_CBFontSize(1, &m_load, IDC_FONT_SIZE, size); }));
     EXPECT_EQ(DDX_CBFontSize(0, &m_save, IDC_FONT_STYLE, size), 0) << "a plain combo";
-    EXPECT_TRUE(Refused([&] { DDX_CBFontSize(1, &m_save, IDC_FONT_STYLE, size); }));
+    EXPECT_TRUE(Fails([&] { DDX_CBFontSize(1, &m_save, IDC_FONT_STYLE, size); }));
     EXPECT_EQ(size, 2.5);
 }
 

@@ -67,14 +67,14 @@ TEST_F(ScaleExchange, FailsWithoutAScale) {
     double scale = 3.0;
     EXPECT_EQ(DDX_CBScale(0, &m_save, IDC_COMBO, text, m_units, &scale), 0);
     MessageBoxWatcher boxes;
-    EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, &scale); }));
+    EXPECT_TRUE(Fails([&] { DDX_CBScale(1, &m_save, IDC_COMBO, text, m_units, &scale); }));
     EXPECT_EQ(Prompt(IDS_ENTER_SCALE), boxes.OnlyText());
     EXPECT_EQ(scale, 3.0);
     EXPECT_EQ(Count(), 0);
     text.Empty(); // nothing to load
     boxes.Clear();
     EXPECT_EQ(DDX_CBScale(0, &m_load, IDC_COMBO, text, m_units, nullptr), 0);
-    EXPECT_TRUE(Refused([&] { DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, nullptr); }));
+    EXPECT_TRUE(Fails([&] { DDX_CBScale(1, &m_load, IDC_COMBO, text, m_units, nullptr); }));
     EXPECT_TRUE(boxes.Boxes().empty()) << "the caller was not prompted";
 }
 

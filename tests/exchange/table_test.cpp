@@ -148,7 +148,7 @@ TEST_F(TableExchange, NamesAreLookedUpInTheControlsTable) {
     CComboControl control(kControlStyleNames);
     control.SubclassWindow(Control(IDC_COMBO));
     EXPECT_EQ(DDX_CBTableLookupIndex(0, &m_load, IDC_COMBO, value), 0) << "no table yet";
-    EXPECT_TRUE(Refused([&] { DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value); }));
+    EXPECT_TRUE(Fails([&] { DDX_CBTableLookupIndex(1, &m_save, IDC_COMBO, value); }));
 
     control.m_pTable = m_table;
     control.AddString("Walls");

@@ -27,7 +27,7 @@ protected:
     }
     // A silent exchange sets the variable to `left`; otherwise it is unchanged and the user sees the message.
     template <class Value>
-    void ExpectRefused(UINT prompt, std::initializer_list<const char*> rows, Value left = 77) {
+    void ExpectRejected(UINT prompt, std::initializer_list<const char*> rows, Value left = 77) {
         for (const char* typed : rows) {
             SCOPED_TRACE(typed);
             SetText(IDC_EDIT, typed);
@@ -36,7 +36,7 @@ protected:
             EXPECT_EQ(left, value);
             value = 77;
             MessageBoxWatcher boxes;
-            EXPECT_TRUE(Refused([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
+            EXPECT_TRUE(Fails([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
             EXPECT_EQ(Value{77}, value);
             EXPECT_EQ(Prompt(prompt), boxes.OnlyText());
         }
@@ -58,13 +58,13 @@ TEST_F(TextExchange, IntegersAreParsedOrRejected) {
     ExpectRead<unsigned short>({{"65537", 1}, {"-1", 65535}}); // the low 16 bits
     ExpectRead<unsigned int>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
     ExpectRead<unsigned long>({{"4294967295", 4294967295u}, {"-1", 4294967295u}});
-    ExpectRefused<int>(AFX_IDP_PARSE_INT,
-                       {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****", "0000000000000000000000000000012x"});
-    ExpectRefused<long>(AFX_IDP_PARSE_INT, {"12a"});
-    ExpectRefused<unsigned char>(AFX_IDP_PARSE_BYTE, {"256", "x"});
-    ExpectRefused<unsigned short>(AFX_IDP_PARSE_UINT, {"x"});
-    ExpectRefused<unsigned int>(AFX_IDP_PARSE_UINT, {"x"});
-    ExpectRefused<unsigned long>(AFX_IDP_PARSE_UINT, {"x"});
+    ExpectRejected<int>(AFX_IDP_PARSE_INT,
+                        {"12a", "1 2", "1.5", "", "  \t ", "-", "+0", "*****", "0000000000000000000000000000012x"});
+    ExpectRejected<long>(AFX_IDP_PARSE_INT, {"12a"});
+    ExpectRejected<unsigned char>(AFX_IDP_PARSE_BYTE, {"256", "x"});
+    ExpectRejected<unsigned short>(AFX_IDP_PARSE_UINT, {"x"});
+    ExpectRejected<unsigned int>(AFX_IDP_PARSE_UINT, {"x"});
+    ExpectRejected<unsigned long>(AFX_IDP_PARSE_UINT, {"x"});
 }
 
 TEST_F(TextExchange, IntegersAreShownInTheirRange) {
@@ -82,7 +82,7 @@ TEST_F(TextExchange, FailureSelectsTheTextOfTheField) {
     SetText(IDC_EDIT, "twelve");
     MessageBoxWatcher boxes;
     int value = 0;
-    EXPECT_TRUE(Refused([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
+    EXPECT_TRUE(Fails([&] { DDX_Text(1, &m_save, IDC_EDIT, value); }));
     EXPECT_EQ(Control(IDC_EDIT), ::GetFocus());
     EXPECT_EQ(MAKELRESULT(0, 6), Send(IDC_EDIT, EM_GETSEL));
 }
@@ -112,8 +112,8 @@ TEST_F(TextExchange, RealNumbersAreParsedOrRejected) {
     const std::string tooLong(1000, '1');
     const auto refused = {"",      "   ",  "-",     ".",      "()", "wide",         "2.5 mm",
                           "1.2.3", "1e39", "1e999", "******", "1-", tooLong.c_str()};
-    ExpectRefused<float>(AFX_IDP_PARSE_REAL, refused);
-    ExpectRefused<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // a silent failure sets 0
+    ExpectRejected<float>(AFX_IDP_PARSE_REAL, refused);
+    ExpectRejected<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // a silent failure sets 0
 }
 
 TEST_F(TextExchange, VeryLargeAndVerySmallNumbersAreShownWithAnExponent) {

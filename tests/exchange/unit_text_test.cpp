@@ -92,7 +92,7 @@ TEST_F(UnitText, RejectsInvalidTextWithoutAMessage) {
         for (const char* text : {"", "much", "2 2", "1e999"}) {
             EXPECT_EQ(Save(text, row.exchange), 0) << text;
             EXPECT_EQ(row.left, m_value) << text;
-            EXPECT_TRUE(Refused([&] { row.exchange(1, &m_save, IDC_EDIT, m_value); })) << text;
+            EXPECT_TRUE(Fails([&] { row.exchange(1, &m_save, IDC_EDIT, m_value); })) << text;
         }
     EXPECT_TRUE(boxes.Boxes().empty());
     for (const auto& row : kRows) {
@@ -127,7 +127,7 @@ TEST_F(UnitText, NeedsADrawingAndAScale) {
         EXPECT_EQ(m_result, 0);
         EXPECT_EQ(Save("1", exchange), 0);
         EXPECT_EQ(m_value, 7.0);
-        EXPECT_TRUE(Refused([&] { exchange(1, &m_load, IDC_EDIT, m_value); }));
+        EXPECT_TRUE(Fails([&] { exchange(1, &m_load, IDC_EDIT, m_value); }));
     }
     EXPECT_EQ(Save("1", PaperWorld(m_drawing.Get(), 2e-7)), 1);
     EXPECT_NEAR(1 / 25.4 / 2e-7, m_value, 1e-6);

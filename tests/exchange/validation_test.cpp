@@ -28,7 +28,7 @@ protected:
         EXPECT_EQ(check(1, &m_load), 1) << "loading does not validate";
         EXPECT_EQ(check(0, &m_save), 0);
         EXPECT_TRUE(boxes.Boxes().empty());
-        EXPECT_TRUE(Refused([&] { check(1, &m_save); }));
+        EXPECT_TRUE(Fails([&] { check(1, &m_save); }));
         ASSERT_EQ(boxes.Boxes().size(), 1u);
         EXPECT_NE(std::string::npos, boxes.Boxes()[0].text.find(says)) << boxes.Boxes()[0].text;
         EXPECT_TRUE(boxes.Boxes()[0].exclamation);

@@ -55,7 +55,7 @@ TEST_F(VariableExchange, NumbersAreCheckedAndWritten) {
         EXPECT_EQ(row.real, Real()) << row.typed;
     }
     MessageBoxWatcher boxes;
-    EXPECT_TRUE(Refused([&] { DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5); }));
+    EXPECT_TRUE(Fails([&] { DDX_TextVarNumeric(1, &m_save, IDC_EDIT, m_table, kLong, 1, 5); }));
     EXPECT_EQ(boxes.Boxes().size(), 1u);
     EXPECT_EQ(DDX_TextVarNumeric(0, &m_load, IDC_EDIT, m_table, kLong, 1, 5), 1);
     EXPECT_EQ(Text(IDC_EDIT), "6");
@@ -105,15 +105,15 @@ TEST_F(VariableExchange, DeviceInchesAreConvertedToMillimeters) {
     EXPECT_EQ(exchange(0, m_save, 0, 2), 0);
     {
         MessageBoxWatcher boxes;
-        EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
+        EXPECT_TRUE(Fails([&] { exchange(1, m_save, 0, 2); }));
         SetText(IDC_EDIT, "thick");
-        EXPECT_TRUE(Refused([&] { exchange(1, m_save, 0, 2); }));
+        EXPECT_TRUE(Fails([&] { exchange(1, m_save, 0, 2); }));
         ASSERT_EQ(boxes.Boxes().size(), 2u);
         EXPECT_EQ(boxes.Boxes()[0].text, boxes.Boxes()[1].text) << "the limits, also for invalid text";
     }
     {
         MessageBoxWatcher boxes;
-        EXPECT_TRUE(Refused([&] { exchange(1, m_save, 2, 0); }));
+        EXPECT_TRUE(Fails([&] { exchange(1, m_save, 2, 0); }));
         EXPECT_EQ(Prompt(AFX_IDP_PARSE_REAL), boxes.OnlyText()) << "without limits";
     }
     EXPECT_EQ(exchange(0, m_save, 0, 2), 0);
@@ -162,7 +162,7 @@ TEST_F(VariableExchange, MapDefinesTheButtonsValues) {
     Check(IDC_RADIO_THIRD);
     int value = 7;
     EXPECT_EQ(DDX_RadioMap(0, &m_save, IDC_RADIO_FIRST, value, map, 3), 0) << "the map has two buttons";
-    EXPECT_TRUE(Refused([&] { DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 3); }));
+    EXPECT_TRUE(Fails([&] { DDX_RadioMap(1, &m_save, IDC_RADIO_FIRST, value, map, 3); }));
     EXPECT_EQ(value, 7);
 }
 

@@ -41,7 +41,7 @@ protected:
         replacement.Write(bytes);
         replacement.Commit();
     }
-    void ExpectRefused(const fs::path& file, const std::string& why) const {
+    void ExpectRejected(const fs::path& file, const std::string& why) const {
         const auto before = Count();
         try {
             Replace(file, "new");
@@ -94,26 +94,26 @@ TEST_F(Replacement, KeepsTheOldFileUntilCommit) {
 
 TEST_F(Replacement, RejectsTargetsThatAreNotWritableFiles) {
     constexpr char kIrregular[] = "not a regular file; it cannot be replaced";
-    ExpectRefused(folder, kIrregular);
-    ExpectRefused(folder / "missing" / "plan.dxf", "cannot create a file in its folder: no such folder");
+    ExpectRejected(folder, kIrregular);
+    ExpectRejected(folder / "missing" / "plan.dxf", "cannot create a file in its folder: no such folder");
     fs::permissions(path, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
                     fs::perm_options::remove);
-    ExpectRefused(path, "the file is read-only");
+    ExpectRejected(path, "the file is read-only");
     EXPECT_EQ(Get(path), "old");
     fs::permissions(path, fs::perms::owner_write, fs::perm_options::add);
 #ifdef _WIN32
-    ExpectRefused("NUL", kIrregular);
+    ExpectRejected("NUL", kIrregular);
 #else
     // Its own device file, so that a fault does not replace one of the system.
     if (::mknod((folder / "null").c_str(), S_IFCHR | 0666, makedev(1, 3)) == 0) {
-        ExpectRefused(folder / "null", kIrregular);
+        ExpectRejected(folder / "null", kIrregular);
         EXPECT_TRUE(fs::is_character_file(folder / "null"));
     }
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0666), 0);
-    ExpectRefused(folder / "pipe", kIrregular);
+    ExpectRejected(folder / "pipe", kIrregular);
     EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
     fs::create_symlink("nothing", folder / "dangling");
-    ExpectRefused(folder / "dangling", kIrregular);
+    ExpectRejected(folder / "dangling", kIrregular);
     EXPECT_TRUE(fs::is_symlink(folder / "dangling"));
 #endif
 }
@@ -133,7 +133,7 @@ TEST_F(Replacement, KeepsAttributesAndTheTimeOfCreation) {
 TEST_F(Replacement, RejectsAFileThatAnotherProgramHasOpen) {
     const files::OpenFile held(::CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(held);
-    ExpectRefused(path, "the file cannot be replaced: ");
+    ExpectRejected(path, "the file cannot be replaced: ");
 }
 
 #else

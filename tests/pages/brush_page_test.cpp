@@ -23,7 +23,7 @@ protected:
                  {kPropBrushDrawMode, mode}});
     }
     // Selects an item of the list with the keyboard.
-    void ChooseStyle(SheetDriver& user, int style) {
+    void SelectStyle(SheetDriver& user, int style) {
         user.Focus(IDC_BRUSH_STYLE_LIST);
         user.Key(VK_HOME);
         user.Key(VK_HOME);
@@ -69,12 +69,12 @@ TEST_F(BrushPage, OneEditOverDifferingBrushesChangesOneProperty) {
     Add("Cross", kRed, 2, 30 * kDegree, 1, 1);
     Add("Cross", kBlue, 3, 45 * kDegree, 0, 0);
     ExpectEachChangesOneProperty(
-        {{kPropBrushStyle, [&](SheetDriver& user) { ChooseStyle(user, Style("Horizontal")); }, Style("Horizontal")},
+        {{kPropBrushStyle, [&](SheetDriver& user) { SelectStyle(user, Style("Horizontal")); }, Style("Horizontal")},
          {kPropBrushScale, [](SheetDriver& user) { user.Type(IDC_BRUSH_SCALE, "4.5"); }, 4.5},
          {kPropBrushAngle, [](SheetDriver& user) { user.Type(IDC_BRUSH_ANGLE, "60"); }, 60 * kDegree},
          {kPropHatchCross, [](SheetDriver& user) { user.Click(IDC_HATCH_CROSS); }, 0},
          {kPropBrushDrawMode, [](SheetDriver& user) { user.Click(IDC_DRAW_ALTERNATE); }, 0},
-         {kPropBrushColor, [](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); }, int{kDarkest}}});
+         {kPropBrushColor, [](SheetDriver& user) { user.SelectItem(IDC_BRUSH_COLOR, 0); }, int{kDarkest}}});
 }
 
 TEST_F(BrushPage, StyleDeterminesEnabledControls) {
@@ -96,7 +96,7 @@ TEST_F(BrushPage, StyleDeterminesEnabledControls) {
         };
         for (const auto& row : rows) {
             SCOPED_TRACE(row.name);
-            ChooseStyle(user, row.style);
+            SelectStyle(user, row.style);
             expect({IDC_BRUSH_COLOR}, row.color);
             expect({IDC_BRUSH_SCALE, IDC_BRUSH_ANGLE, IDC_BRUSH_ANGLE_ARROWS, IDC_HATCH_CROSS}, row.hatch);
             expect({IDC_DRAW_WINDING, IDC_DRAW_ALTERNATE}, row.mode);
@@ -152,7 +152,7 @@ TEST_F(BrushPage, UneditedNumbersAreNotValidated) {
             kit[0].properties[kPropBrushScale] = scale;
             kit[0].properties[kPropBrushColor] = int{kRed};
             MessageBoxWatcher boxes;
-            RunOk([](SheetDriver& user) { user.Choose(IDC_BRUSH_COLOR, 0); });
+            RunOk([](SheetDriver& user) { user.SelectItem(IDC_BRUSH_COLOR, 0); });
             EXPECT_TRUE(boxes.Boxes().empty());
             EXPECT_EQ(scale, kit[0].Number(kPropBrushScale));
             EXPECT_EQ(kit[0].Number(kPropBrushAngle), 1e39);
@@ -248,13 +248,13 @@ TEST_F(BrushPage, ThePreviewFollowsTheControlsAtItsOwnScale) {
     Add("Cross", kRed, 1000, 0, 0, 0);
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
         EXPECT_NEAR(std::sqrt(2.0) / 20, Previewed(page, kPropBrushScale), 1e-6) << "two families of spacing 1";
-        ChooseStyle(user, Style("Vertical"));
+        SelectStyle(user, Style("Vertical"));
         EXPECT_NEAR(1.0 / 20, Previewed(page, kPropBrushScale), 1e-6);
         user.Type(IDC_BRUSH_ANGLE, "90");
         EXPECT_NEAR(90 * kDegree, Previewed(page, kPropBrushAngle), 1e-9);
         user.Type(IDC_BRUSH_SCALE, "7");
         EXPECT_NEAR(1.0 / 20, Previewed(page, kPropBrushScale), 1e-6) << "never the user's";
-        user.Choose(IDC_BRUSH_COLOR, 0);
+        user.SelectItem(IDC_BRUSH_COLOR, 0);
         EXPECT_EQ(Previewed<unsigned long>(page, kPropBrushColor), kDarkest);
     });
     EXPECT_EQ(kit.Writes(), 0);

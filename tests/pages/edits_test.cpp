@@ -267,13 +267,13 @@ protected:
 
 // Restores a control: a list is opened and closed with Return, or stepped through and closed with Escape; otherwise the
 // first item is selected again; a button is clicked until it has its first state. Returns false if that is impossible.
-bool TakeBack(SheetDriver& user, int control, int first, bool walk) {
+bool RestoreControl(SheetDriver& user, int control, int first, bool walk) {
     if (::SendMessageA(user.Control(control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) {
         for (int i = 0; i < 3 && user.Check(control) != first; ++i)
             user.Click(control);
         return user.Check(control) == first;
     }
-    if (first >= 0) user.Choose(control, first);
+    if (first >= 0) user.SelectItem(control, first);
     if (!user.IsCombo(control)) return first >= 0;
     if (first < 0) return false;
     user.Key(VK_F4);
@@ -338,8 +338,8 @@ TEST_F(Edits, StoreTheHostsValueOrKeepEveryBit) {
                 const bool button = ::SendMessageA(user.Control(field.control), WM_GETDLGCODE, 0, 0) & DLGC_BUTTON;
                 const int first = button ? user.Check(field.control) : user.Selection(field.control);
                 log += std::to_string(field.control) + "; ";
-                button ? user.Click(field.control) : user.Choose(field.control, first == 1 ? 0 : 1);
-                if (touch == Touch::Changed || !TakeBack(user, field.control, first, touch == Touch::Undone))
+                button ? user.Click(field.control) : user.SelectItem(field.control, first == 1 ? 0 : 1);
+                if (touch == Touch::Changed || !RestoreControl(user, field.control, first, touch == Touch::Undone))
                     chosen.insert(field.property);
             }
             if (id == IDD_GENERAL_PAGE && Below(2)) user.Type(IDC_INFO, info = "ash");

@@ -76,7 +76,7 @@ SheetDriver::Script Typing(const char* text) {
     return [text](SheetDriver& user) { user.Type(kField, text); };
 }
 SheetDriver::Script Choosing(int index) {
-    return [index](SheetDriver& user) { user.Choose(kField, index); };
+    return [index](SheetDriver& user) { user.SelectItem(kField, index); };
 }
 
 const KindCase kKinds[] = {
@@ -127,7 +127,7 @@ const KindCase kKinds[] = {
      [](SheetDriver& user) {
          const auto index = ::SendMessageA(user.Control(kField), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                            reinterpret_cast<LPARAM>(kSerif));
-         user.Choose(kField, static_cast<int>(index));
+         user.SelectItem(kField, static_cast<int>(index));
      },
      kSerif,
      VT_BSTR},
@@ -384,7 +384,7 @@ TEST_F(FieldPage, ThePreviewFollowsItsRows) {
     sheet.Run([&](SheetDriver& user) {
         auto& shown = static_cast<CGraphicPropertyPage&>(*sheet.Sheet().GetActivePage());
         ASSERT_NE(shown.GetPreviewGraphic(), nullptr);
-        user.Choose(kField, 0);
+        user.SelectItem(kField, 0);
         EXPECT_EQ(orlo::host::ReadProperty<uint32_t>(shown.GetPreviewGraphic(), kPropPenColor), kDarkest);
         EXPECT_NE(orlo::host::ReadProperty<uint32_t>(added, kPropPenColor), kDarkest);
     });

@@ -52,9 +52,9 @@ TEST_F(GeneralPage, OneEditChangesOnePropertyOfAll) {
     Add(walls, "a");
     Add(doors, "b");
     ExpectEachChangesOneProperty({{kPropInfo, [](SheetDriver& user) { user.Type(IDC_INFO, "both"); }, "both"},
-                                  {kPropLayer, [](SheetDriver& user) { user.Choose(IDC_LAYER, 1); }, int{walls}}});
+                                  {kPropLayer, [](SheetDriver& user) { user.SelectItem(IDC_LAYER, 1); }, int{walls}}});
     Run([&](SheetDriver& user, CGraphicPropertyPage&) {
-        user.Choose(IDC_LAYER, 2);
+        user.SelectItem(IDC_LAYER, 2);
         user.Cancel();
     });
     EXPECT_EQ(kit.Writes(), 0);
@@ -126,7 +126,7 @@ protected:
         ASSERT_EQ(name, user.Text(IDC_STYLE_NAME));
     }
     // Return changes neither sheet, name nor focus.
-    static void ExpectRefused(SheetDriver& user, const char* name) {
+    static void ExpectRejected(SheetDriver& user, const char* name) {
         user.Key(VK_RETURN);
         EXPECT_TRUE(::IsWindowVisible(user.Sheet())) << name;
         EXPECT_EQ(name, user.Text(IDC_STYLE_NAME));
@@ -208,12 +208,12 @@ TEST_F(StylePart, UnlistedNameKeepsThePage) {
                   // Return is rejected for a new name and for a typed or selected name of another style; the name stays
                   // in the field.
                   user.Type(IDC_STYLE_NAME, "Girder");
-                  ExpectRefused(user, "Girder");
+                  ExpectRejected(user, "Girder");
                   EXPECT_TRUE(IsEnabled(user, IDC_STYLE_NEW));
                   user.Type(IDC_STYLE_NAME, "Beam");
-                  ExpectRefused(user, "Beam");
+                  ExpectRejected(user, "Beam");
                   List(user, "Standard");
-                  ExpectRefused(user, "Standard");
+                  ExpectRejected(user, "Standard");
               }));
 }
 

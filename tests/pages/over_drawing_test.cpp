@@ -127,8 +127,8 @@ TEST_F(OverDrawing, PensOfARoof) {
         Values changed = {{kPropPenWidth, std::to_string(row.stored)},
                           {kPropScaleSystem, std::to_string(row.system == 0 ? kScaleWorld : kScalePaper)}};
         ExpectEdit(changed, [&](SheetDriver& user) {
-            user.Choose(IDC_SCALE_SYSTEM, row.system);
-            user.Choose(IDC_COLOR, 3);
+            user.SelectItem(IDC_SCALE_SYSTEM, row.system);
+            user.SelectItem(IDC_COLOR, 3);
             user.Type(IDC_PEN_WIDTH, row.width);
             changed[kPropPenColor] = std::to_string(std::stoul(user.ItemText(IDC_COLOR, 3).substr(0, 8), nullptr, 16));
         });
@@ -141,7 +141,7 @@ TEST_F(OverDrawing, TextsOfManyKinds) {
     EXPECT_EQ(m_before, All()) << "an unedited page";
     Values changed = {{kPropTextSize, std::to_string(7.5)}, {kPropTextFormat, "2"}};
     ExpectEdit(changed, [&](SheetDriver& user) {
-        user.Choose(IDC_FONT_FACE, 0);
+        user.SelectItem(IDC_FONT_FACE, 0);
         changed[kPropTextFont] = user.ItemText(IDC_FONT_FACE, 0);
         user.Type(IDC_FONT_SIZE, "7.5");
         user.Click(IDC_JUSTIFY_RIGHT);

@@ -75,11 +75,11 @@ TEST_F(PenPage, DifferingPensShowTheirMarkersAndSurviveOk) {
 TEST_F(PenPage, OneEditOverDifferingPensChangesOneProperty) {
     AddDiffering();
     ExpectEachChangesOneProperty(
-        {{kPropPenColor, [](SheetDriver& user) { user.Choose(IDC_COLOR, 0); }, int{kDarkest}},
+        {{kPropPenColor, [](SheetDriver& user) { user.SelectItem(IDC_COLOR, 0); }, int{kDarkest}},
          {kPropPenWidth, [](SheetDriver& user) { user.Type(IDC_PEN_WIDTH, "5 mm"); }, 5 / kInch},
          {kPropPenScale, [](SheetDriver& user) { user.Type(IDC_PEN_SCALE, "4.5"); }, 4.5},
          {kPropPenStyle, ChooseLastStyle, kLineStyleByLayer},
-         {kPropScaleSystem, [](SheetDriver& user) { user.Choose(IDC_SCALE_SYSTEM, 1); }, 2},
+         {kPropScaleSystem, [](SheetDriver& user) { user.SelectItem(IDC_SCALE_SYSTEM, 1); }, 2},
          {kPropPenAlignment, [](SheetDriver& user) { user.Click(IDC_PEN_ALIGNMENT); }, 0}});
 }
 
@@ -87,11 +87,11 @@ TEST_F(PenPage, WidthIsConvertedWhenTheScaleSystemChanges) {
     AddEqual();
     RunOk([&](SheetDriver& user) {
         user.Type(IDC_PEN_WIDTH, "7 mm");
-        user.Choose(IDC_SCALE_SYSTEM, 0);
+        user.SelectItem(IDC_SCALE_SYSTEM, 0);
         double value = 0;
         EXPECT_TRUE(::DrawingStdTextToNumeric(kit.Drawing(), user.Text(IDC_PEN_WIDTH).c_str(), &value, 0));
         EXPECT_NEAR(1 / kInch, value, 1e-4) << "the stored number; the edit was discarded";
-        user.Choose(IDC_SCALE_SYSTEM, 1);
+        user.SelectItem(IDC_SCALE_SYSTEM, 1);
         EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "1 mm");
     });
     EXPECT_NEAR(1 / kInch, kit[0].Number(kPropPenWidth), 1e-9);
@@ -195,7 +195,7 @@ TEST_F(PenPage, RejectsInvalidWidthsAndWritesNothing) {
         const std::string typed = text;
         EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage&) {
                       MessageBoxWatcher boxes;
-                      user.Choose(IDC_COLOR, 0);
+                      user.SelectItem(IDC_COLOR, 0);
                       user.Type(id, typed);
                       user.Ok();
                       EXPECT_TRUE(::IsWindowVisible(user.Sheet()));
@@ -218,9 +218,9 @@ TEST_F(PenPage, WidthThatCannotBeFormattedIsBlank) {
     MessageBoxWatcher boxes;
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "");
-        user.Choose(IDC_SCALE_SYSTEM, 0);
+        user.SelectItem(IDC_SCALE_SYSTEM, 0);
         EXPECT_NE(user.Text(IDC_PEN_WIDTH), "");
-        user.Choose(IDC_SCALE_SYSTEM, 1);
+        user.SelectItem(IDC_SCALE_SYSTEM, 1);
         EXPECT_EQ(user.Text(IDC_PEN_WIDTH), "");
         user.Type(IDC_PEN_SCALE, "4");
     });
@@ -268,7 +268,7 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
     AddEqual();
     Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
         EXPECT_EQ(Previewed<unsigned long>(page, kPropPenColor), kRed);
-        user.Choose(IDC_COLOR, 0);
+        user.SelectItem(IDC_COLOR, 0);
         EXPECT_EQ(Previewed<unsigned long>(page, kPropPenColor), kDarkest);
         for (const char* width : {"3 mm", "3 ?", "-3 mm"}) {
             user.Type(IDC_PEN_WIDTH, width);
@@ -280,7 +280,7 @@ TEST_F(PenPage, ThePreviewFollowsTheControls) {
         }
         ChooseLastStyle(user);
         EXPECT_EQ(unsigned{kLineStyleByLayer}, Previewed<unsigned>(page, kPropPenStyle));
-        user.Choose(IDC_SCALE_SYSTEM, 0);
+        user.SelectItem(IDC_SCALE_SYSTEM, 0);
         EXPECT_EQ(unsigned{kScaleWorld}, Previewed<unsigned>(page, kPropScaleSystem));
         const auto alignment = Previewed<unsigned>(page, kPropPenAlignment);
         user.Click(IDC_PEN_ALIGNMENT);

@@ -41,7 +41,7 @@ protected:
         const auto index = ::SendMessageA(user.Control(IDC_FONT_FACE), CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                           reinterpret_cast<LPARAM>(face));
         ASSERT_LE(0, index);
-        user.Choose(IDC_FONT_FACE, static_cast<int>(index));
+        user.SelectItem(IDC_FONT_FACE, static_cast<int>(index));
     }
 };
 
@@ -111,7 +111,7 @@ TEST_F(TextPage, FontStyleChangesOnlyItsTwoBits) {
     AddDiffering();
     RunOk([&](SheetDriver& user) {
         EXPECT_EQ(Count(user, IDC_FONT_STYLE), 4);
-        user.Choose(IDC_FONT_STYLE, 3);
+        user.SelectItem(IDC_FONT_STYLE, 3);
     });
     EXPECT_EQ(kit[0].Number(kPropTextStyle), 0x2103);
     EXPECT_EQ(kit[1].Number(kPropTextStyle), 0x0047);
@@ -122,7 +122,7 @@ TEST_F(TextPage, OneEditOverDifferingTextsChangesOneProperty) {
     ExpectEachChangesOneProperty(
         {{kPropTextFont, [](SheetDriver& user) { ChooseFont(user, kSerif); }, kSerif},
          {kPropTextSize, [](SheetDriver& user) { user.Type(IDC_FONT_SIZE, "7.5"); }, 7.5},
-         {kPropPenColor, [](SheetDriver& user) { user.Choose(IDC_TEXT_COLOR, 0); }, int{kDarkest}},
+         {kPropPenColor, [](SheetDriver& user) { user.SelectItem(IDC_TEXT_COLOR, 0); }, int{kDarkest}},
          {kPropTextFormat, [](SheetDriver& user) { user.Click(IDC_JUSTIFY_CENTER); }, 1}});
 }
 
@@ -299,9 +299,9 @@ TEST_F(TextPage, ThePreviewFollowsTheControls) {
         };
         const int plain = ink();
         EXPECT_LT(50, plain);
-        user.Choose(IDC_FONT_STYLE, 2);
+        user.SelectItem(IDC_FONT_STYLE, 2);
         EXPECT_LT(plain, ink()) << "bold";
-        user.Choose(IDC_FONT_STYLE, 0);
+        user.SelectItem(IDC_FONT_STYLE, 0);
         EXPECT_EQ(plain, ink());
         user.Click(IDC_UNDERLINE);
         const int underlined = ink();
@@ -312,7 +312,7 @@ TEST_F(TextPage, ThePreviewFollowsTheControls) {
         EXPECT_EQ(underlined, ink()) << "the third state is treated as off";
         ChooseFont(user, kSerif);
         EXPECT_NE(underlined, ink());
-        user.Choose(IDC_TEXT_COLOR, 0);
+        user.SelectItem(IDC_TEXT_COLOR, 0);
         user.Click(IDC_JUSTIFY_RIGHT);
         EXPECT_EQ(Previewed<unsigned long>(page, kPropPenColor), kDarkest);
         EXPECT_EQ(Previewed<unsigned short>(page, kPropTextFormat), 2);

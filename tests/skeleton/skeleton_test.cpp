@@ -109,10 +109,10 @@ TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
     EXPECT_EQ(Run([](SheetDriver& user) {
                   EXPECT_EQ(::SendMessageA(user.Control(IDC_LAYER), CB_GETCOUNT, 0, 0), 2);
                   user.SelectPage(kPen);
-                  user.Choose(IDC_COLOR, 0);
+                  user.SelectItem(IDC_COLOR, 0);
                   user.Type(IDC_PEN_WIDTH, "0.5 mm");
                   user.SelectPage(kBrush);
-                  user.Choose(IDC_BRUSH_STYLE_LIST, 1);
+                  user.SelectItem(IDC_BRUSH_STYLE_LIST, 1);
                   user.SelectPage(kText);
                   user.Type(IDC_FONT_SIZE, "7.5");
                   user.SelectPage(kInsertion);
@@ -134,7 +134,7 @@ TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
 TEST_F(Skeleton, DrawsThePreviewInTheSelectedColor) {
     Run([](SheetDriver& user) {
         user.SelectPage(1);
-        user.Choose(IDC_COLOR, 0);
+        user.SelectItem(IDC_COLOR, 0);
         const int row = user.Selection(IDC_COLOR);
         const std::string item = user.ItemText(IDC_COLOR, row);
         const auto chosen = static_cast<COLORREF>(std::stoul(item, nullptr, 16));
@@ -164,9 +164,9 @@ protected:
 TEST_F(SkeletonWithStubs, LosesOnlyPictures) {
     EXPECT_EQ(Run([](SheetDriver& user) {
                   user.SelectPage(kPen);
-                  user.Choose(IDC_LINE_STYLE_LIST, 1);
+                  user.SelectItem(IDC_LINE_STYLE_LIST, 1);
                   user.SelectPage(kBrush);
-                  user.Choose(IDC_BRUSH_STYLE_LIST, 1);
+                  user.SelectItem(IDC_BRUSH_STYLE_LIST, 1);
                   user.SelectPage(kInsertion);
                   user.Type(IDC_POSITION_X, "30");
                   user.Ok();

@@ -63,7 +63,7 @@ void ExpectDone(const std::vector<std::string>& arguments) {
     EXPECT_EQ(run.out + run.err, "");
 }
 
-void ExpectRefused(const std::vector<std::string>& arguments, const std::string& why) {
+void ExpectRejected(const std::vector<std::string>& arguments, const std::string& why) {
     const Outcome run = RunSuminfo(arguments);
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_NE(run.err.find(why), std::string::npos) << run.err;
@@ -130,7 +130,7 @@ TEST_F(Edit, RemovingDoesNotAffectOtherFields) {
     expected.erase(std::string("\\005DocumentSummaryInformation") + kCustomFormat + "myCustomNumber");
     EXPECT_EQ(expected.size() + 2, before.size());
     EXPECT_EQ(Content(file).Values(), expected);
-    ExpectRefused({"remove", file.string(), "application"}, "the document has no application");
+    ExpectRejected({"remove", file.string(), "application"}, "the document has no application");
     ExpectDone({"set", file.string(), "author="});
     EXPECT_EQ(Content(file)["author"], nullptr);
 }
@@ -307,10 +307,10 @@ TEST_F(Edit, RejectedEditsChangeNothing) {
     const fs::path file = Document("test11--695187.doc");
     const std::vector<unsigned char> before = FileBytes(file);
     const std::string name = file.string();
-    ExpectRefused({"set", name, "title=New", "pages=many"}, "pages: 'many' is not a whole number");
-    ExpectRefused({"set", name, "title=New", "saved=2001-02-30"}, "is not a date");
-    ExpectRefused({"set", name, "title=New", "edit-time=90"}, "is not a duration");
-    ExpectRefused({"remove", name, "title", "--custom", "Nobody"}, "the document has no custom property 'Nobody'");
+    ExpectRejected({"set", name, "title=New", "pages=many"}, "pages: 'many' is not a whole number");
+    ExpectRejected({"set", name, "title=New", "saved=2001-02-30"}, "is not a date");
+    ExpectRejected({"set", name, "title=New", "edit-time=90"}, "is not a duration");
+    ExpectRejected({"remove", name, "title", "--custom", "Nobody"}, "the document has no custom property 'Nobody'");
     EXPECT_EQ(FileBytes(file), before);
 }
 
@@ -318,7 +318,7 @@ TEST_F(Edit, DamagedDocumentsAreNotChanged) {
     for (const char* name : {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", "loop-in-alloc--d3743f.bin"}) {
         const fs::path file = Document(name);
         const std::vector<unsigned char> before = FileBytes(file);
-        ExpectRefused({"set", file.string(), "title=New"}, "is damaged");
+        ExpectRejected({"set", file.string(), "title=New"}, "is damaged");
         EXPECT_EQ(FileBytes(file), before);
     }
 }
@@ -331,15 +331,15 @@ TEST_F(Edit, DocumentThatCannotBeWrittenIsUnchanged) {
         orlo::Owned<IStorage> holder;
         constexpr DWORD kHold = STGM_READ | STGM_SHARE_DENY_WRITE;
         ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kHold, nullptr, 0, orlo::Receive(holder)), S_OK);
-        ExpectRefused({"set", file.string(), "title=New"},
-                      "test11--695187.doc: the file cannot be opened: another program has it open");
+        ExpectRejected({"set", file.string(), "title=New"},
+                       "test11--695187.doc: the file cannot be opened: another program has it open");
         const Outcome copy = RunSuminfo({"copy", other.string(), file.string()});
         EXPECT_EQ(copy.exitCode, 1);
         EXPECT_EQ(copy.err, "suminfo: " + file.string() + ": the file cannot be opened: another program has it open\n");
         EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0) << "reading continues";
     }
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_READONLY);
-    ExpectRefused({"remove", file.string(), "title"}, "the file is read-only");
+    ExpectRejected({"remove", file.string(), "title"}, "the file is read-only");
     EXPECT_EQ(RunSuminfo({"show", file.string()}).exitCode, 0);
     ::SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
     EXPECT_EQ(FileBytes(file), before);
@@ -363,11 +363,11 @@ TEST_F(Edit, CopyCopiesBothSummaries) {
     for (const char* name : {kSummary, kDocumentSummary})
         expected[name] = source[name];
     EXPECT_EQ(StreamsOf(to), expected);
-    ExpectRefused({"copy", Document("sent--da96eb.msg").string(), to.string()},
-                  "sent--da96eb.msg: the document has no summary");
+    ExpectRejected({"copy", Document("sent--da96eb.msg").string(), to.string()},
+                   "sent--da96eb.msg: the document has no summary");
     // Its summary's name is misspelt.
-    ExpectRefused({"copy", Document("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt").string(), to.string()},
-                  "the document has no summary");
+    ExpectRejected({"copy", Document("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt").string(), to.string()},
+                   "the document has no summary");
     EXPECT_EQ(StreamsOf(to), expected);
 }
 

@@ -282,7 +282,7 @@ struct Saved {
 };
 
 // Saves into a document on a disk with that many free bytes.
-Saved SaveWithRoom(const std::vector<uint8_t>& document, ULONGLONG room, DWORD mode, CPropertySet* summary) {
+Saved SaveWithFreeSpace(const std::vector<uint8_t>& document, ULONGLONG room, DWORD mode, CPropertySet* summary) {
     FailingBytes disk(document);
     disk.capacity = document.size() + room;
     Storage storage = OpenOn(disk, STGM_READWRITE | mode);
@@ -311,11 +311,11 @@ protected:
 // With every number of free sectors up to the required one: all streams are unchanged, or only the summary is new, as
 // the result says.
 TEST_P(Saving, KeepsEveryByteOnAFullDisk) {
-    const Streams after = StreamsOf(SaveWithRoom(document_, 100000, mode_, summary_.get()).file);
+    const Streams after = StreamsOf(SaveWithFreeSpace(document_, 100000, mode_, summary_.get()).file);
     ASSERT_NE(after, before_);
     int saved = 0;
     for (ULONGLONG room = 0; room < 36000; room += 512) {
-        const Saved result = SaveWithRoom(document_, room, mode_, summary_.get());
+        const Saved result = SaveWithFreeSpace(document_, room, mode_, summary_.get());
         EXPECT_EQ(WithoutZeros(StreamsOf(result.file)), WithoutZeros(result.done ? after : before_))
             << room << " bytes of room";
         EXPECT_LE(ReaderOf(result.file).State(), orlo::CompoundState::damaged) << room << " bytes of room";

@@ -101,7 +101,7 @@ DrawingState::DrawingState(const std::vector<GraphicStruct*>& graphics) {
 }
 
 void DrawingState::AddTables(DrawingStruct* drawing) {
-    Thing units = {kTableUnits, {}};
+    RecordedObject units = {kTableUnits, {}};
     for (const uint16_t variable : kUnitNames) {
         char text[256] = "";
         ::TableGetStringVar(drawing->pUnits, variable, text, sizeof text);
@@ -121,7 +121,7 @@ void DrawingState::AddTables(DrawingStruct* drawing) {
 }
 
 void DrawingState::AddEntry(TableStruct* table, const std::string& name, uint16_t id) {
-    Thing entry = {name + " " + std::to_string(id), {}};
+    RecordedObject entry = {name + " " + std::to_string(id), {}};
     char text[256] = "";
     ::TableEntryGetName(table, id, text, sizeof text);
     entry.values.emplace_back("name", text);
@@ -144,26 +144,26 @@ void DrawingState::AddGraphics(const std::string& place, GraphicStruct* set) {
 }
 
 void DrawingState::AddGraphic(const std::string& place, GraphicStruct* graphic) {
-    Thing thing = {place, {{"type", std::to_string(graphic->bType)}}};
+    RecordedObject object = {place, {{"type", std::to_string(graphic->bType)}}};
     for (const PropertyInfo& property : kPropertyList)
-        if (const auto value = Read(graphic, property)) thing.values.emplace_back(property.name, *value);
-    thing.values.emplace_back("style tree", graphic->pszStyleName ? graphic->pszStyleName : "");
-    thing.values.emplace_back("outline", std::to_string(graphic->dwOneOutline));
-    thing.values.emplace_back("vertices", Vertices(graphic));
-    thing.values.emplace_back("box", Box(graphic));
-    m_things.push_back(std::move(thing));
+        if (const auto value = Read(graphic, property)) object.values.emplace_back(property.name, *value);
+    object.values.emplace_back("style tree", graphic->pszStyleName ? graphic->pszStyleName : "");
+    object.values.emplace_back("outline", std::to_string(graphic->dwOneOutline));
+    object.values.emplace_back("vertices", Vertices(graphic));
+    object.values.emplace_back("box", Box(graphic));
+    m_things.push_back(std::move(object));
     AddGraphics(place, graphic);
 }
 
 std::vector<std::string> DrawingState::DifferencesTo(const DrawingState& later, size_t most) const {
     std::vector<std::string> lines;
     if (m_things.size() != later.m_things.size()) {
-        lines.push_back(std::to_string(m_things.size()) + " things before, " + std::to_string(later.m_things.size()) +
+        lines.push_back(std::to_string(m_things.size()) + " objects before, " + std::to_string(later.m_things.size()) +
                         " now");
     }
     const size_t common = std::min(m_things.size(), later.m_things.size());
     for (size_t i = 0; i < common && lines.size() < most; ++i) {
-        const Thing &a = m_things[i], &b = later.m_things[i];
+        const RecordedObject &a = m_things[i], &b = later.m_things[i];
         if (a.name != b.name || a.values.size() != b.values.size()) {
             lines.push_back(a.name + " is now " + b.name);
             continue;
@@ -179,9 +179,9 @@ std::vector<std::string> DrawingState::DifferencesTo(const DrawingState& later, 
 
 std::vector<std::string> DrawingState::Lines() const {
     std::vector<std::string> lines;
-    for (const Thing& thing : m_things)
-        for (const auto& [name, value] : thing.values)
-            lines.push_back(thing.name + ", " + name + ": " + value);
+    for (const RecordedObject& object : m_things)
+        for (const auto& [name, value] : object.values)
+            lines.push_back(object.name + ", " + name + ": " + value);
     return lines;
 }
 
@@ -213,8 +213,8 @@ std::vector<PropertyChange> DrawingState::ChangesTo(const DrawingState& later) c
 
 std::map<std::string, int> DrawingState::Values(const std::string& name) const {
     std::map<std::string, int> counts;
-    for (const Thing& thing : m_things)
-        for (const auto& value : thing.values)
+    for (const RecordedObject& object : m_things)
+        for (const auto& value : object.values)
             if (value.first == name) ++counts[value.second];
     return counts;
 }

@@ -39,7 +39,7 @@ public:
 
 private:
     // An object: a graphic by its position, or a table entry by its number.
-    struct Thing {
+    struct RecordedObject {
         std::string name;
         std::vector<std::pair<std::string, std::string>> values;
     };
@@ -49,5 +49,5 @@ private:
     void AddGraphics(const std::string& place, GraphicStruct* set);
     void AddGraphic(const std::string& place, GraphicStruct* graphic);
 
-    std::vector<Thing> m_things;
+    std::vector<RecordedObject> m_things;
 };

@@ -93,6 +93,6 @@ void HostProcess::PressInTabs(HWND sheet, WPARAM key) {
     ::PostMessageA(::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr), WM_KEYDOWN, key, 1);
 }
 
-LRESULT Ask(HWND control, UINT message) {
+LRESULT Query(HWND control, UINT message) {
     return ::SendMessageA(control, message, 0, 0);
 }

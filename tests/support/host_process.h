@@ -29,4 +29,4 @@ private:
     HANDLE m_output = nullptr; // a pipe that the program writes to
 };
 
-LRESULT Ask(HWND control, UINT message);
+LRESULT Query(HWND control, UINT message);

@@ -1,7 +1,7 @@
 // Answers the message boxes of this thread when they appear, and records their texts. Other dialogs are not affected.
 //
 //   MessageBoxWatcher boxes;                       // presses OK
-//   EXPECT_TRUE(Refused([&] { DDX_Text(1, &save, kEdit, number); }));
+//   EXPECT_TRUE(Fails([&] { DDX_Text(1, &save, kEdit, number); }));
 //   EXPECT_EQ("Please enter an integer.", boxes.OnlyText());
 #pragma once
 

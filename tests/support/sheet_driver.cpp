@@ -45,7 +45,7 @@ void SheetDriver::Type(int id, const std::string& text) {
     m_user.Type(text);
 }
 
-void SheetDriver::Choose(int id, int index) {
+void SheetDriver::SelectItem(int id, int index) {
     Focus(id);
     m_user.Key(VK_HOME);
     m_user.Keys(VK_DOWN, index);

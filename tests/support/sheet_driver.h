@@ -39,7 +39,7 @@ public:
 
     void Focus(int id);
     void Type(int id, const std::string& text); // replaces the text
-    void Choose(int id, int index);             // in a combo box or list, with Home and Down
+    void SelectItem(int id, int index);         // in a combo box or list, with Home and Down
     void Key(UINT virtualKey, bool shift = false, bool control = false);
     void Mnemonic(char letter) { m_user.Mnemonic(letter); }
 

@@ -7,9 +7,9 @@
 #include "drawcore/selection.h"
 #include "orlo/host/owners.h"
 
-class Crowd {
+class SelectedDrawing {
 public:
-    Crowd() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) { ::AppSetCurrentDrawing(Drawing()); }
+    SelectedDrawing() : m_drawing(::DrawingNew()), m_selection(::SelectionNew()) { ::AppSetCurrentDrawing(Drawing()); }
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
     GraphicStruct* Selection() const { return m_selection.get(); }
@@ -24,9 +24,9 @@ private:
 };
 
 // Graphics of one type.
-class UniformCrowd : public Crowd {
+class UniformDrawing : public SelectedDrawing {
 public:
-    UniformCrowd(int n, int type) {
+    UniformDrawing(int n, int type) {
         for (int i = 0; i < n; ++i)
             Add(::GraphicNewEx(type, 0, 1));
     }

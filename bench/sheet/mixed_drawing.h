@@ -1,9 +1,9 @@
 // A drawing with many selected graphics of every kind: outlines, texts and insertions in turn.
 #pragma once
 
-#include "bench/sheet/crowd.h"
+#include "bench/sheet/selected_drawing.h"
 
-class MixedCrowd : public Crowd {
+class MixedDrawing : public SelectedDrawing {
 public:
-    explicit MixedCrowd(int n);
+    explicit MixedDrawing(int n);
 };

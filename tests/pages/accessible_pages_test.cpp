@@ -35,7 +35,7 @@ TEST(SpokenPages, NameEveryFieldAndItem) {
     EXPECT_LT(50, fields);
 }
 
-TEST(SpokenPages, MultipleValuesAreReportedAsVaried) {
+TEST(AccessiblePages, MultipleValuesAreReportedAsVaried) {
     EveryKind kinds;
     HostFrame frame(kinds.Drawing());
     kinds.Select(kShapes);
@@ -45,14 +45,14 @@ TEST(SpokenPages, MultipleValuesAreReportedAsVaried) {
         user.SelectPage(1);
         EXPECT_EQ(Accessible(user.Control(IDC_COLOR)).Value(), "varied");
         EXPECT_EQ(Accessible(user.Control(IDC_LINE_STYLE_LIST)).Value(), "By Layer");
-        user.Choose(IDC_COLOR, 0);
+        user.SelectItem(IDC_COLOR, 0);
         EXPECT_NE(Accessible(user.Control(IDC_COLOR)).Value(), "varied");
         int graphics = 0;
         ForEachChild(user.Sheet(), [&](HWND child) {
-            const Accessible spoken(child);
-            if (spoken.Role() != ROLE_SYSTEM_GRAPHIC) return;
+            const Accessible accessible(child);
+            if (accessible.Role() != ROLE_SYSTEM_GRAPHIC) return;
             ++graphics;
-            EXPECT_EQ(spoken.Name(), "Preview");
+            EXPECT_EQ(accessible.Name(), "Preview");
         });
         EXPECT_EQ(graphics, 1);
     });

@@ -1,5 +1,5 @@
 // Creates one graphic of each kind in turn.
-#include "bench/sheet/mixed_crowd.h"
+#include "bench/sheet/mixed_drawing.h"
 
 #include <initializer_list>
 
@@ -16,7 +16,7 @@ void AddSegment(GraphicStruct* outline, VertexStruct* vertex, double length) {
 
 } // namespace
 
-MixedCrowd::MixedCrowd(int n) {
+MixedDrawing::MixedDrawing(int n) {
     const orlo::host::OwnedVertex vertex(::VertexNewEx(0, 0, 0));
     TableStruct* blocks = ::BlocksFromDrawing(Drawing());
     GraphicStruct* content = ::GraphicNewEx(kGraphicVertices, 0, 1);
