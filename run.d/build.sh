@@ -1,7 +1,7 @@
 # ./run build [TARGET...]
 # Builds everything, or the named targets, for 64-bit Windows into build/bin.
 
-# Other commands source this file with targets and preset set; no targets: everything.
+# Other commands source this file after setting targets and preset; without targets everything is built.
 
 source run.d/setup.sh
 say "building ($preset Windows)"

@@ -64,7 +64,7 @@ on_one_processor() {
     taskset -cp "$(processors | tail -n 1)" $BASHPID >/dev/null || true
 }
 
-# One server and one window for the whole session: without them every program waits seconds for its own.
+# Keeps one server and one window during the whole session; otherwise every program waits seconds for its own.
 # display: "own" always starts an Xvfb; "users" takes the caller's display where there is one.
 wine_session() {
     local display=$1

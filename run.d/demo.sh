@@ -41,8 +41,8 @@ managed() {
     wine reg add "HKCU\\Software\\Wine\\AppDefaults\\${program##*/}\\X11 Driver" /v Managed /d "$1" /f >/dev/null
 }
 
-# Wine has the dialogs' font in a few sizes only. A Wine prefix of the viewer's own replaces it by one that is as wide
-# and has every size, so that pages grow with the resolution as on Windows.
+# Wine has the dialogs' font in a few sizes only. A separate Wine prefix of the viewer replaces it by a scalable font of
+# the same width, so that pages grow with the resolution as on Windows.
 scalable_dialog_font() {
     derive_wine_prefix demo
     [ -e "$WINEPREFIX/.scalable" ] && return

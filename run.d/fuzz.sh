@@ -1,5 +1,5 @@
 # ./run fuzz [SECONDS] [NAME...]
-# Fuzzes the readers of foreign data, or those named, one after the other for SECONDS (60) each.
+# Fuzzes the readers of untrusted files, or those named, one after the other for SECONDS (60) each.
 
 seconds=${1:-60}
 wanted=" ${*:2} "

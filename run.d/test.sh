@@ -9,7 +9,7 @@ if [ "${1-}" = --bits ]; then
     case ${2-} in
         64) ;;
         32) preset=i686 bin=build/bin32 native=no targets=(all) ;;
-        *) die "test: --bits takes 32 or 64" ;;
+        *) die "test: --bits must be 32 or 64" ;;
     esac
     shift 2
 fi

@@ -23,13 +23,13 @@ fetch_wine32() {
     local release mirror
     release=$(. /etc/os-release && echo "${VERSION_CODENAME-}")
     mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' "Codename: $release" 'Component: main' | head -n 1)
-    [ -n "$mirror" ] || die "32-bit tests need a Debian system: apt names no repository of '$release' to take 32-bit Wine from"
+    [ -n "$mirror" ] || die "32-bit tests need a Debian system: apt has no repository of '$release' with 32-bit Wine"
     say "fetching 32-bit Wine into build/wine32 (once, about 700 MB unpacked)"
     rm -rf "$wine32_root"
     mkdir -p "$wine32_root"
     mmdebstrap --quiet --architectures=i386 --variant=extract --include=libc-bin,wine,wine32,fonts-wine,fonts-dejavu-core "$release" \
         "$wine32_root" "deb $mirror $release main" >build/wine32/fetch.log 2>&1 ||
-        { cat build/wine32/fetch.log; rm -rf "$wine32_root"; die "32-bit Wine could not be fetched"; }
+        { cat build/wine32/fetch.log; rm -rf "$wine32_root"; die "cannot download 32-bit Wine"; }
     # As the package's installation does, adds the marker by which Wine recognizes its own DLLs.
     local zlib=$wine32_root/usr/i686-w64-mingw32/lib/zlib1.dll
     { head -c 64 "$zlib"; printf 'Wine builtin DLL'; head -c 16 /dev/zero; tail -c +97 "$zlib"; } \

@@ -10,7 +10,7 @@ function(check example document)
   endif()
   string(FIND "${text}" "${code}" found)
   if(found EQUAL -1)
-    message(SEND_ERROR "${document} does not hold ${example} as it is")
+    message(SEND_ERROR "${document} does not contain ${example} unchanged")
   endif()
 endfunction()
 

@@ -20,7 +20,7 @@ DOCUMENTS = {"report.doc": "ole/test11--695187.doc", "letter.doc": "ole/Bug48075
 
 
 def make_drawings(folder):
-    """plan.dxf with walls, doors and texts; sheet1.dxf to sheet3.dxf with title blocks."""
+    """Creates plan.dxf with walls, doors and texts, and sheet1.dxf to sheet3.dxf with title blocks."""
     drawing = ezdxf.new("R2010")
     for name, color in {"WALLS": 7, "WALLS-NEW": 7, "DOORS": 3, "NOTES": 2}.items():
         drawing.layers.add(name, color=color)
@@ -53,7 +53,7 @@ def prepare(guide, data, folder):
 
 
 def blocks(lines):
-    """Commands of the section, each with the numbers of its lines: first, end of the command, end of the output."""
+    """Returns the section's commands, each with its line numbers: first, end of the command, end of the output."""
     inside, at = False, 0
     while at < len(lines):
         line = lines[at]

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Selects, edits and compares drawings by dxfprops, and reads them by ezdxf: check_edits.py DXFPROPS"""
+"""Selects, edits and compares drawings with dxfprops, and reads them with ezdxf: check_edits.py DXFPROPS"""
 import json
 import os
 import subprocess
@@ -29,7 +29,7 @@ def read(name):
 
 
 def audited(name):
-    """The drawing as the other reader sees it; it must find no fault."""
+    """Returns the drawing as read by ezdxf, which must report no errors."""
     drawing, auditor = recover.readfile(name)
     expect(f"faults of {name}", not auditor.errors, auditor.errors)
     return drawing

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Where dxfprops writes a drawing: check_output.py DXFPROPS DRAWING"""
+"""Checks the files and streams that dxfprops writes to: check_output.py DXFPROPS DRAWING"""
 import os
 import shutil
 import stat

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Saves drawings with dxfprops and looks at the files from outside: byte by byte, group by group, by another reader.
+"""Saves drawings with dxfprops and checks the files byte by byte, group by group, and with ezdxf.
 
 check_saved.py DXFPROPS FOLDER RESTRUCTURE
 """
@@ -24,7 +24,7 @@ BLOCKS = os.path.join(FOLDER, "acadsharp-sample-AC1032.dxf")
 WORK = tempfile.mkdtemp()
 OUT = os.path.join(WORK, "saved.dxf")
 OWN = {1000, 1001, 1002, 1040}  # extended data
-# The properties that are set, and the groups that may change; all others must stay.
+# The properties that are set, and the groups that may change; all others must not.
 ROWS = [
     (["PenColor=red"], {62, 420, 430, 1, 3}),
     (["PenColor=By Layer"], {62, 420, 430, 1, 3}),
@@ -44,7 +44,7 @@ ROWS = [
     (["TextFormat=Right"], {1, 3, 10, 20, 30, 11, 21, 31, 71, 72, 73, 74} | OWN),
     (["TextFormat=Center", "TextStyle=All Caps"], {1, 3, 7, 10, 20, 30, 11, 21, 31, 70, 71, 72, 73, 74} | OWN),
 ]
-# The attributes that the other reader sees then, for entities that have the property.
+# The attributes that ezdxf then reads, for entities that have the property.
 SEEN = {
     "PenColor=red": [("LINE LWPOLYLINE CIRCLE ARC TEXT INSERT", "color", 1)],
     "PenColor=#123456": [("LINE LWPOLYLINE", "true_color", 0x123456)],
@@ -73,20 +73,20 @@ def pairs(path):
 
 
 def entities(path):
-    """The groups of the sections of entities, each as bytes of code and value."""
+    """Returns the groups of the sections with entities, each as bytes of code and value."""
     groups = [(int(code), value) for code, value in pairs(path)]
     start = next((i for i, group in enumerate(groups) if group == (2, b"ENTITIES")), 0)
     return groups[start:]
 
 
 def version(path):
-    """Of the file; the other reader takes older ones as newer."""
+    """Returns the version of the file; ezdxf treats older versions as newer ones."""
     found = [value for code, value in pairs(path)[:40] if value.startswith(b"AC10")]
     return found[0] if found else b""
 
 
 def audit(path):
-    """The number of faults, and the drawing; none where the other reader gives up."""
+    """Returns the number of errors and the drawing, or None if ezdxf cannot read it."""
     try:
         drawing, auditor = recover.readfile(path)
     except Exception:
@@ -121,7 +121,7 @@ def check_row(path, values, codes):
 
 
 def has_free_handles(path):
-    """Whether no handle is there twice, and the next free one follows them."""
+    """Returns whether all handles are unique and less than the next free one."""
     groups = [(int(code), value.strip()) for code, value in pairs(path)]
     seeds = [groups.pop(i + 1)[1] for i, group in enumerate(groups) if group == (9, b"$HANDSEED")]
     handles = [int(value, 16) for code, value in groups if code in (5, 105) and value]
@@ -129,7 +129,7 @@ def has_free_handles(path):
 
 
 def check_structure(path):
-    """Entities and a block that were added are there for another reader, too; what was removed is gone."""
+    """Checks with ezdxf that added entities and blocks exist, and that removed ones do not."""
     done = subprocess.run([RESTRUCTURE, path, OUT], capture_output=True)
     if done.returncode:
         return failures.append(f"{path}: {done.stderr.decode()}")
@@ -156,7 +156,7 @@ def handles_in(path, codes):
 
 
 def check_references():
-    """References to what was removed go with it, in every kind of record that another program writes."""
+    """Checks that references to removed objects are removed, in every kind of record that ezdxf writes."""
     source, references = os.path.join(WORK, "references.dxf"), {*range(320, 370), 1005}
     for version in ("R2000", "R2010", "R2018"):
         drawing = ezdxf.new(version)
@@ -195,7 +195,7 @@ def check_references():
 
 
 def check_blocks():
-    """Entities of a block are chosen, changed and compared like those of model space; JSON says the same as the lines."""
+    """Checks that entities of a block are selected, changed and compared like those of model space, also in JSON."""
     done = run("set", BLOCKS, "--where", "block=MyBlock,kind=LINE", "PenColor=red", "PenScale=1+1/2", "-o", OUT)
     lines = run("diff", BLOCKS, OUT)
     found = json.loads(run("diff", BLOCKS, OUT, "--json").stdout)[0]["differences"]
@@ -219,7 +219,7 @@ def check_blocks():
 
 
 def check_words():
-    """Wrong words get those that are allowed; results are reported by exit codes."""
+    """Checks that messages for invalid arguments list the valid ones, and checks the exit codes."""
     drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
     for arguments, code, words in [
         (["set", drawing, "PenHue=red", "-o", OUT], 2, "'PenHue' is not one of "),
@@ -249,7 +249,7 @@ def check_words():
 
 
 def check_safety(path):
-    """A full disk and the end of the process leave the old file."""
+    """Checks that a full disk and the end of the process leave the old file unchanged."""
     copy = os.path.join(WORK, "copy.dxf")
     run("set", path, "PenColor=red", "-o", OUT)
     old, new = read(path), read(OUT)
@@ -263,7 +263,7 @@ def check_safety(path):
         done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size, signal.SIG_IGN))
         if done.returncode != 2 or read(copy) != old or len(os.listdir(WORK)) != len({OUT, OUT + "2", copy}):
             failures.append(f"a disk that is full at {size}: {done}")
-    for size in range(0, len(new), len(new) // 40):  # the process is ended when it writes more than that
+    for size in range(0, len(new), len(new) // 40):  # the process is killed if it writes more
         shutil.copy(path, copy)
         done = run("set", copy, "PenColor=red", "--in-place", preexec_fn=lambda size=size: limit(size, signal.SIG_DFL))
         if done.returncode != -signal.SIGXFSZ or read(copy) != old:

@@ -8,13 +8,13 @@ import pathlib
 import re
 import sys
 
-PUBLIC = "public"  # what a host includes: orlo.h and all that it reaches, orlo_c.h, orlo/host, and these
+PUBLIC = "public"  # headers for hosts: orlo.h and what it includes, orlo_c.h, orlo/host, and these
 ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, not part of the interface
 TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # included with angle brackets, as by a host
 
 
 def downward(area, modules, also=""):
-    """Modules from top to bottom: each may include itself, those below it, and others that all of them may."""
+    """Adds modules from top to bottom: each may include itself, those below it, and the common ones."""
     names = [f"{area}/{module}" for module in modules.split()]
     return {name: {*names[place:], *also.split()} for place, name in enumerate(names)}
 
@@ -69,7 +69,7 @@ def sources(folder):
 
 
 def module_of(name):
-    """The module of a file, given by its path from the root."""
+    """Returns the module of a file, given by its path from the root."""
     parts = name.split("/")
     if parts[:2] == ["drawcore", "src"]:
         del parts[1]
@@ -79,7 +79,7 @@ def module_of(name):
 
 
 def found(root, path, header):
-    """The path from the root of an included file of this tree; None for a header of the system."""
+    """Returns the path of an included file from the root; None for a system header."""
     for folder in [root / folder for folder in SEARCHED] + [path.parent]:
         if (folder / header).is_file():
             return (folder / header).resolve().relative_to(root.resolve()).as_posix()
@@ -87,7 +87,7 @@ def found(root, path, header):
 
 
 def public_headers(root):
-    """What orlo.h reaches, orlo_c.h, and the host contract with its C++ helpers."""
+    """Returns the headers that orlo.h includes, orlo_c.h, and the host contract with its C++ helpers."""
     host = [path.relative_to(root).as_posix() for path in root.glob("orlo/host/*.h")]
     reached, open_ = set(), ["orlo/include/orlo.h", "orlo/include/orlo_c.h", *ALSO_PUBLIC, *host]
     while open_:
@@ -100,7 +100,7 @@ def public_headers(root):
 
 
 def forbidden(root, path, header, public):
-    """Why a file may not include that header; None if it may."""
+    """Returns the reason why a file may not include that header; None if it may."""
     module = module_of(path.relative_to(root).as_posix())
     if module in WITHOUT_WINDOWS and WINDOW_HEADERS.fullmatch(header):
         return f"{module} has no windows"
@@ -130,7 +130,7 @@ def faults(root, public):
 
 
 def unreached(root, public):
-    """Names that the library exports and no public header has: functions, and the classes of members."""
+    """Returns exported names that no public header declares: functions, and the classes of members."""
     code = " ".join(re.sub(r"//.*", "", (root / name).read_text(encoding="utf-8")) for name in public)
     known = set(re.findall(r"\w+", code))
     for line in (root / "tests/exports/orlo.exports").read_text().splitlines():
@@ -141,7 +141,7 @@ def unreached(root, public):
 
 
 def undeclared(root, public):
-    """Public headers that no CMakeLists.txt names as such, and the other way round."""
+    """Returns public headers that no CMakeLists.txt lists as public, and listed ones that are not public."""
     declared = set()
     for lists in root.glob("orlo/**/CMakeLists.txt"):
         for files in re.findall(r"FILE_SET .*\s+FILES\s+([^)]*)\)", lists.read_text()):

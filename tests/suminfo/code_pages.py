@@ -1,5 +1,5 @@
-"""Makes streams whose texts have every byte, and every second one after a lead byte, in many code pages: code_pages.py FOLDER
-And names of custom properties in letters with and without case."""
+"""Creates streams with texts of every byte, and of every pair of lead byte and byte, in many code pages, and names of
+custom properties in scripts with and without case: code_pages.py FOLDER"""
 import pathlib
 import struct
 import sys
@@ -22,7 +22,7 @@ def padded(data):
 
 
 def stream(code_page, values, names=()):
-    """A set of one section: its code page, a dictionary if there are names, and the values from 2 on."""
+    """Returns a set of one section: its code page, a dictionary if there are names, and the values from ID 2 on."""
     parts = [(1, struct.pack("<IHH", 2, code_page, 0))]
     if names:
         entries = b"".join(struct.pack("<II", i, len(n) + 1) + n + b"\0" for i, n in names)

@@ -1,4 +1,4 @@
-"""Damages each file of a folder in many ways, the same ones in every run: damage.py FROM TO"""
+"""Damages each file of a folder in many ways, reproducibly: damage.py FROM TO"""
 import pathlib
 import random
 import sys

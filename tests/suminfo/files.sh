@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Tests suminfo with links, permissions and a full disk. files.sh "COMMAND" DOCUMENTS FOLDER
-# Ends with 77 where it may not mount a disk of its own.
+# Exits with 77 if it cannot mount a disk.
 set -euo pipefail
 program=$1 document=$2/input-bw-one-band--340370.fpx folder=$3
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The program for this machine and what only this machine has: names of any bytes, pipes and devices in a folder, permissions.
-# Several documents, standard streams, forms for programs. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
+# Tests of the Linux program: names of arbitrary bytes, pipes and devices in a folder, permissions, several documents,
+# standard streams, machine-readable output. here.sh SUMINFO DOCUMENTS STREAMS FOLDER
 set -euo pipefail
 here=$(dirname "$(realpath "$0")")
 program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5.vsd folder=$4
@@ -69,7 +69,7 @@ if [ ${#targets[@]} = 2 ]; then
 fi
 expect "beside it" "$(ls)" $'err\nnames\nout\nscript.rc\nsome\nstatus\ntaken'
 
-# Three says that it is work for the other program.
+# Exit code 3 means that the Windows program is required.
 expect "a metafile" "$(ended suminfo thumbnail "$picture" picture.png; cat out err)" 3
 [ ! -e picture.png ] || fail "a picture was made"
 
@@ -115,13 +115,13 @@ expect "a script" "$(suminfo rc --stream "$stream" - | grep -c RCDATA)" 1
 expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/full || echo $?)" \
     $'suminfo: -: the output cannot be written: the disk is full\n1'
 
-# The picture as it is stored, and endings.
+# The stored picture, and file name extensions.
 suminfo thumbnail --original "$picture" picture.wmf
 expect "a metafile's first bytes" "$(od -An -tx1 -N 4 picture.wmf)" " 01 00 09 00"
 expect "another ending" "$(suminfo thumbnail --original "$picture" picture.png 2>&1)" \
     "suminfo: warning: picture.png: the file contains a metafile; the usual extension is .wmf"
 
-# Lines for programs, also of what failed.
+# Machine-readable output, also for files that fail.
 expect "CSV" "$(ended suminfo show --csv one.doc missing.doc; grep -c '^one.doc,' out; grep -e ^file -e Client -e missing out)" \
     "1
 $(suminfo show --json one.doc | grep -o '"vt"' | wc -l)
@@ -131,11 +131,11 @@ missing.doc,,,,,the file cannot be opened: no such file"
 expect "JSON" "$(ended suminfo show --json missing.doc; cat out)" \
     $'1\n{"file":"missing.doc","error":"the file cannot be opened: no such file"}'
 
-# A manual page that the formatter has nothing to say about, and a completion that bash understands.
+# A manual page without warnings of the formatter, and a completion that bash accepts.
 suminfo --man >suminfo.1
 if command -v groff >/dev/null; then expect "its faults" "$(groff -man -Tutf8 -ww suminfo.1 2>&1 >page)" ""; fi
 suminfo --completion >suminfo.bash
-complete_line() { # WORDS...: what is proposed for the last
+complete_line() { # WORDS...: prints the completions of the last
     bash -c 'source ./suminfo.bash; COMP_WORDS=(suminfo "$@"); COMP_CWORD=$#; _suminfo 2>/dev/null; printf "%s " "${COMPREPLY[@]}"' bash "$@"
 }
 expect "commands" "$(complete_line sh)" "show "

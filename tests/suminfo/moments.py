@@ -1,4 +1,4 @@
-"""Makes a stream with moments of many centuries, and the table of it by another calendar: moments.py STREAM TABLE"""
+"""Creates a stream with times of many centuries, and the table expected by Python: moments.py STREAM TABLE"""
 import datetime
 import pathlib
 import random

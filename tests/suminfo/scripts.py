@@ -17,7 +17,7 @@ def run(*command):
 
 
 def sections(stream):
-    """What suminfo shows of each section, without its place in the stream."""
+    """Returns what suminfo shows of each section, without its offset in the stream."""
     shown = json.loads(run(SUMINFO, "show", "--json", "--stream", stream).stdout)
     for section in shown["sections"]:
         for key in ("offset", "size"):
@@ -28,7 +28,7 @@ def sections(stream):
 
 
 def resources():
-    """The raw data in a compiled script."""
+    """Returns the raw data in a compiled script."""
     with open(RESOURCES, "rb") as file:
         data = file.read()
     at = 0

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Edits every document of a folder by suminfo and reads it by olefile and gsf: write_back.py SUMINFO FOLDER
-Also those of the folder that ORLO_CORPUS names.
-All else must be as it was: streams byte for byte, classes, times and state bits of storages. Documents that suminfo
-calls damaged must stay as they are."""
+"""Edits every document of a folder with suminfo and reads it with olefile and gsf: write_back.py SUMINFO FOLDER
+Uses also the documents of the folder that ORLO_CORPUS names. Everything else must be unchanged: streams byte for byte,
+classes, times and state bits of storages. Documents that suminfo
+reports as damaged must not change."""
 import os
 import shutil
 import subprocess
@@ -16,7 +16,7 @@ EDITS = [["set", "FILE", "title=" + "t" * size] for size in (1, 3000, 9000)] + [
 
 
 def contents(path):
-    """Streams and storages but the summary."""
+    """Returns all streams and storages except the summary."""
     found = {}
     with olefile.OleFileIO(path) as ole:
         found["/"] = ole.root.clsid, ole.root.dwUserFlags, ole.root.createTime, ole.root.modifyTime
@@ -30,13 +30,13 @@ def contents(path):
 
 
 def listed(path):
-    """What gsf reads: how many streams, or nothing if it cannot open the file."""
+    """Returns the number of streams that gsf reads, or None if it cannot open the file."""
     done = subprocess.run(["gsf", "list", path], capture_output=True, timeout=60, check=False)
     return None if done.returncode else done.stdout.count(b"\n")
 
 
 def title(path):
-    """In whatever code page: without NULs."""
+    """Returns the text without NULs, whatever the code page."""
     with olefile.OleFileIO(path) as ole:
         value = ole.getproperties(SUMMARY).get(2) or "" if ole.exists(SUMMARY) else ""
     return (value if isinstance(value, str) else value.decode("latin-1")).replace("\0", "")
