@@ -48,7 +48,7 @@ void CheckStructure(std::string_view text, const dxf::Document& drawing) {
     const size_t added = patch.Add(line, nullptr);
     const std::string changed = patch.Finish();
     const std::vector<dxf::Entity> after = dxf::Read(changed, {}).entities;
-    if (after.size() != drawing.entities.size() / 2 + 1 || after.back().offset != patch.PlaceOf(added)) std::abort();
+    if (after.size() != drawing.entities.size() / 2 + 1 || after.back().offset != patch.OffsetOf(added)) std::abort();
     for (size_t i = 1; i < drawing.entities.size(); i += 2)
         if (after[i / 2].offset != patch.Moved(drawing.entities[i].offset)) std::abort();
 }

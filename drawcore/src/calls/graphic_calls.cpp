@@ -33,16 +33,16 @@ Graphic* NewOfType(int type) {
 }
 
 // Returns the first member at or after that index that passes the filter, and sets the position after it.
-GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t place, void* position, uint32_t filter) {
+GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t index, void* position, uint32_t filter) {
     if (!set || !position) return nullptr;
     const Graphic& graphic = *Graphic::From(set);
     const size_t count = graphic.MemberCount();
     Graphic* found = nullptr;
-    while (place < count && !found) {
-        Graphic* member = graphic.MemberAt(place++);
+    while (index < count && !found) {
+        Graphic* member = graphic.MemberAt(index++);
         if (PassesFilter(*member, filter)) found = member;
     }
-    *static_cast<uint32_t*>(position) = place;
+    *static_cast<uint32_t*>(position) = index;
     return found;
 }
 

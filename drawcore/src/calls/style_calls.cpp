@@ -23,11 +23,11 @@ constexpr size_t kShownDashes = 8; // size of a caller's buffer
 constexpr int kMostLines = 256;
 
 // Returns the line at that index and sets the cookie after it.
-const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int place, int* cookie) {
+const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int index, int* cookie) {
     const BrushStyle* style = FindStyle<BrushStyleTable>(table, id);
-    if (!style || !cookie || place < 0 || static_cast<size_t>(place) >= style->lines.size()) return nullptr;
-    *cookie = place + 1;
-    return &style->lines[place];
+    if (!style || !cookie || index < 0 || static_cast<size_t>(index) >= style->lines.size()) return nullptr;
+    *cookie = index + 1;
+    return &style->lines[index];
 }
 
 bool HasFiniteNumbers(const BrushLine& line) {

@@ -63,8 +63,8 @@ void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, Viewport
     graphic->dwFlags &= ~kFlagDirty;
 }
 
-int GraphicDrawTimed(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t* place, int milliseconds) {
-    if (!graphic || !viewport || !place) return 1;
+int GraphicDrawTimed(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t* position, int milliseconds) {
+    if (!graphic || !viewport || !position) return 1;
     Viewport& view = *Viewport::From(viewport);
     const auto end = PaintClock::now() + std::chrono::milliseconds(milliseconds);
     if (!PaintUntil(end, *Graphic::From(graphic), view, *place, {}, SettingsOf(view, false), false)) return 0;

@@ -60,7 +60,7 @@ private:
             Appearance appearance = member.GetAppearance();
             appearance.lastPage = 0; // not stored in files
             number_ = number_ * 31 + AppearanceHash()(appearance);
-            for (size_t place = 0; const Vertex* vertex = member.VertexAt(place); ++place) {
+            for (size_t index = 0; const Vertex* vertex = member.VertexAt(index); ++index) {
                 Mix(vertex->x);
                 Mix(vertex->y);
                 Mix(vertex->z);

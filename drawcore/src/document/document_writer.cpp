@@ -103,7 +103,7 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     if (isMoved) place.position = &*edit.position;
     if (edit.text) place.text = &*edit.text;
     try {
-        patch.Change(entity.offset, appearance, place);
+        patch.Change(entity.offset, appearance, entityChange);
     } catch (const SaveError& error) {
         throw SaveError(reader.NameOf(ref).Text() + ": " + error.what());
     }

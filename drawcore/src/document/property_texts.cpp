@@ -362,12 +362,12 @@ std::vector<std::string> PropertyTexts::Names() {
     std::vector<std::string> names;
     for (const PropertyInfo& info : kPropertyList)
         names.push_back(info.name);
-    const auto place = [](const std::string& name) {
+    const auto rank = [](const std::string& name) {
         const PropertyInfo& info = *FindPropertyInfo(name);
         return std::make_pair(info.part, info.meaning != PropertyMeaning::ScaleSystem); // before the width
     };
     std::stable_sort(names.begin(), names.end(),
-                     [&](const std::string& a, const std::string& b) { return place(a) < place(b); });
+                     [&](const std::string& a, const std::string& b) { return rank(a) < rank(b); });
     return names;
 }
 

@@ -8,7 +8,7 @@ namespace dxf {
 
 namespace {
 
-struct Place {
+struct Accessor {
     const char* name;
     double (*get)(const Appearance&);
     void (*set)(Appearance&, double);
@@ -28,7 +28,7 @@ auto& InText(Appearance& appearance) {
 }
 
 template <auto& in>
-constexpr Place At(const char* name) {
+constexpr Accessor At(const char* name) {
     return {name,
             [](const Appearance& appearance) { return static_cast<double>(in(const_cast<Appearance&>(appearance))); },
             [](Appearance& appearance, double value) {
@@ -37,7 +37,7 @@ constexpr Place At(const char* name) {
             }};
 }
 
-constexpr Place kPlaces[] = {
+constexpr Accessor kAccessors[] = {
     At<In<&Appearance::color>>(kPropPenColor),
     At<In<&Appearance::lineScale>>(kPropPenScale),
     At<In<&Appearance::dashesFitted>>(kPropPenAlignment),
@@ -51,16 +51,16 @@ constexpr Place kPlaces[] = {
     At<InText<&TextAppearance::format>>(kPropTextFormat),
 };
 
-const Place* FindPlace(std::string_view name) {
-    const auto* found =
-        std::find_if(std::begin(kPlaces), std::end(kPlaces), [&](const Place& place) { return name == place.name; });
-    return found != std::end(kPlaces) ? found : nullptr;
+const Accessor* FindAccessor(std::string_view name) {
+    const auto* found = std::find_if(std::begin(kAccessors), std::end(kAccessors),
+                                     [&](const Accessor& accessor) { return name == accessor.name; });
+    return found != std::end(kAccessors) ? found : nullptr;
 }
 
 } // namespace
 
 std::optional<double> NumberOf(const Appearance& appearance, std::string_view property) {
-    if (const Place* place = FindPlace(property)) return place->get(appearance);
+    if (const Accessor* accessor = FindAccessor(property)) return accessor->get(appearance);
     const ExtendedValue* value = FindExtended(appearance.extended, property);
     return value && !value->numbers.empty() ? std::optional(value->numbers[0]) : std::nullopt;
 }
@@ -72,8 +72,8 @@ std::string TextOf(const Appearance& appearance, std::string_view property) {
 }
 
 void SetNumber(Appearance& appearance, const char* property, double value) {
-    if (const Place* place = FindPlace(property))
-        place->set(appearance, value);
+    if (const Accessor* accessor = FindAccessor(property))
+        accessor->set(appearance, value);
     else
         SetExtended(appearance, {property, "", {value}});
 }

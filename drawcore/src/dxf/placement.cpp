@@ -109,8 +109,8 @@ std::optional<AxisEnds> ExtendedAxisEnds(const Entity& entity) {
     const GroupNumbers groups = GroupNumbersOf(entity);
     if (own->numbers.size() >= 12 + groups.size())
         return std::equal(groups.begin(), groups.end(), n + 12) ? std::optional(ends) : std::nullopt;
-    const Vec3 place = PlacementByGroups(entity).Apply({});
-    if (!Near(Vec3{n[12], n[13], n[14]}, place)) return std::nullopt;
+    const Vec3 point = PlacementByGroups(entity).Apply({});
+    if (!Near(Vec3{n[12], n[13], n[14]}, point)) return std::nullopt;
     return AxisEndsOf(Matrix::FromAxes(ends[0], ends[1], ends[2], ends[3]));
 }
 
@@ -149,8 +149,8 @@ std::vector<double> NumbersOf(const AxisEnds& ends, const Entity& entity) {
     return numbers;
 }
 
-double RoundingAt(const Vec3& place) {
-    const double magnitude = std::max({1.0, std::fabs(place.x), std::fabs(place.y), std::fabs(place.z)});
+double RoundingAt(const Vec3& point) {
+    const double magnitude = std::max({1.0, std::fabs(point.x), std::fabs(point.y), std::fabs(point.z)});
     return 4 * std::numeric_limits<double>::epsilon() * magnitude;
 }
 

@@ -34,7 +34,7 @@ Matrix PlacementOf(const AxisEnds& ends);
 // Returns the points as numbers for the extended data of the entity.
 std::vector<double> NumbersOf(const AxisEnds& ends, const Entity& entity);
 // Returns the rounding error of differences between coordinates of that size.
-double RoundingAt(const Vec3& place);
+double RoundingAt(const Vec3& point);
 // Returns whether the axes of two placements differ only by rounding.
 bool HaveSameAxes(const Matrix& a, const Matrix& b);
 // Returns the motion from one placement to another; without a rotation if their axes are the same.

@@ -33,7 +33,7 @@ public:
                 throw ReadError(tag_.line, "expected a section or the end of the file, found group code " +
                                                std::to_string(tag_.code) + " with " + Quoted(tag_.value));
             ReadSection();
-            in_.tags.SetPlace(nullptr);
+            in_.tags.SetContext(nullptr);
             in_.tags.Next();
         }
         entities_.ReportSkipped();
@@ -45,7 +45,7 @@ private:
     // Ends at the section's ENDSEC.
     void ReadSection() {
         sectionLine_ = tag_.line;
-        in_.tags.SetPlace("a section");
+        in_.tags.SetContext("a section");
         if (in_.tags.Next().code != 2) throw ReadError(tag_.line, "the section has no name");
         const std::string_view name = tag_.Trimmed();
         if (name == "HEADER")
@@ -77,7 +77,7 @@ private:
     }
 
     void ReadHeader() {
-        in_.tags.SetPlace("section HEADER");
+        in_.tags.SetContext("section HEADER");
         std::string_view variable;
         in_.tags.Next();
         while (!AtSectionEnd()) {
@@ -90,14 +90,14 @@ private:
     }
 
     void ReadTables() {
-        in_.tags.SetPlace("section TABLES");
+        in_.tags.SetContext("section TABLES");
         in_.tags.SkipRecord();
         while (!AtSectionEnd())
             ReadTableRecord(in_);
     }
 
     void ReadBlocks() {
-        in_.tags.SetPlace("section BLOCKS");
+        in_.tags.SetContext("section BLOCKS");
         in_.tags.SkipRecord();
         while (!AtSectionEnd()) {
             if (tag_.Is(0, "BLOCK"))
@@ -140,7 +140,7 @@ private:
     }
 
     void ReadEntities() {
-        in_.tags.SetPlace("section ENTITIES");
+        in_.tags.SetContext("section ENTITIES");
         entities_.CountRecords();
         in_.tags.SkipRecord();
         while (!AtSectionEnd())

@@ -105,7 +105,7 @@ int TagReader::ParseCode(std::string_view text) const {
 }
 
 void TagReader::FailAtEnd() const {
-    const std::string where = place_ ? std::string("within ") + place_ : "without EOF";
+    const std::string where = context_ ? std::string("within ") + context_ : "without EOF";
     throw ReadError(line_, "the file is truncated: it ends " + where);
 }
 

@@ -60,7 +60,7 @@ public:
 
     // Sets the description of the current part, for the message about a truncated file; null between sections. The
     // pointer is stored.
-    void SetPlace(const char* place) { place_ = place; }
+    void SetContext(const char* context) { context_ = context; }
 
 private:
     bool NextLine(std::string_view& line);
@@ -73,7 +73,7 @@ private:
     size_t reportAt_; // offset at which progress_ is called next
     uint32_t line_ = 0;
     Tag tag_;
-    const char* place_ = nullptr;
+    const char* context_ = nullptr;
     const Progress& progress_;
 };
 

@@ -18,10 +18,10 @@ namespace {
 // Maps the objects of the file to entries of the drawing's table.
 template <class Index, class Object, class Entry>
 std::map<Id, Index> InTable(const std::vector<Object>& objects, const TableOf<Entry>& table) {
-    std::map<Id, Index> places;
+    std::map<Id, Index> indices;
     for (size_t i = 0; i < objects.size(); ++i)
-        if (const Id id = table.IdOf(HostName(objects[i].name))) places.emplace(id, Index(i));
-    return places;
+        if (const Id id = table.IdOf(HostName(objects[i].name))) indices.emplace(id, Index(i));
+    return indices;
 }
 
 } // namespace
@@ -112,8 +112,8 @@ void AppearanceExport::SetPlain(const Graphic& graphic, const PropertyInfo& info
     }
 }
 
-void AppearanceExport::Write(const Graphic& graphic, size_t place) {
-    const dxf::Entity entity = patch_.EntityAt(place);
+void AppearanceExport::Write(const Graphic& graphic, size_t offset) {
+    const dxf::Entity entity = patch_.EntityAt(offset);
     VertexGraphic group;
     import_.AddTo(group, entity, false);
     if (group.MemberCount() == 0) throw dxf::SaveError("no part of it would be visible");
@@ -130,7 +130,7 @@ void AppearanceExport::Write(const Graphic& graphic, size_t place) {
             SetPlain(graphic, info, appearance);
         appearance.varied &= static_cast<uint8_t>(~dxf::VariedBit(info.name));
     }
-    dxf::EntityPlace wanted;
+    dxf::EntityChange wanted;
     dxf::AxisEnds ends;
     std::vector<Vec3> positions;
     const bool isMoved = comparison_.DifferentShape(graphic, shown, false) != nullptr;
@@ -142,7 +142,7 @@ void AppearanceExport::Write(const Graphic& graphic, size_t place) {
             positions.push_back(vertex.Position());
         wanted.vertices = &positions;
     }
-    patch_.Change(place, appearance, wanted);
+    patch_.Change(offset, appearance, wanted);
 }
 
 } // namespace drawcore

@@ -20,7 +20,7 @@ public:
 
     // Changes the record at the offset if the graphic differs from it. Throws SaveError for values that the file cannot
     // contain.
-    void Write(const Graphic& graphic, size_t place);
+    void Write(const Graphic& graphic, size_t offset);
     // Adds a layer that the file does not contain.
     void AddLayer(Id id);
     // Return the file's entries for those of the drawing. Missing ones are described and added when an entity needs

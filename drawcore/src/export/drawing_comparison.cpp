@@ -59,10 +59,10 @@ private:
     }
 
     // Returns the next member that the file contains.
-    size_t SkipOmitted(const Graphic& group, size_t place) const {
-        while (place < group.MemberCount() && IsLeftOut(*group.MemberAt(place)))
-            ++place;
-        return place;
+    size_t SkipOmitted(const Graphic& group, size_t index) const {
+        while (index < group.MemberCount() && IsLeftOut(*group.MemberAt(index)))
+            ++index;
+        return index;
     }
 
     bool StaysRemoved(const dxf::Entity& entity) const {
@@ -70,27 +70,27 @@ private:
     }
 
     bool SameMembers(const Graphic& saved, const std::vector<dxf::Entity>& entities, bool inBlock) {
-        size_t place = SkipOmitted(saved, 0);
+        size_t index = SkipOmitted(saved, 0);
         for (size_t i = 0; i < entities.size(); ++i) {
             const dxf::Entity& entity = entities[i];
             Advance(entity.offset);
             if ((!inBlock && entity.inPaperSpace) || StaysRemoved(entity)) continue;
             const size_t end = i + 1 < entities.size() ? entities[i + 1].offset : 0;
-            if (place < saved.MemberCount() && IsAsBefore(*saved.MemberAt(place), entity.offset, end)) {
-                SetSources(*saved.MemberAt(place), entity.offset);
-                place = SkipOmitted(saved, place + 1);
+            if (index < saved.MemberCount() && IsAsBefore(*saved.MemberAt(index), entity.offset, end)) {
+                SetSources(*saved.MemberAt(index), entity.offset);
+                index = SkipOmitted(saved, index + 1);
                 continue;
             }
             VertexGraphic imported;
             import_.AddTo(imported, entity, inBlock);
             const bool isTilted = entity.normal.x != 0 || entity.normal.y != 0;
             const bool calculated = isTilted || std::holds_alternative<dxf::Boxed<dxf::Hatch>>(entity.shape);
-            for (size_t k = 0; k < imported.MemberCount(); ++k, place = SkipOmitted(saved, place + 1)) {
-                if (place >= saved.MemberCount()) return false;
-                Compare(*saved.MemberAt(place), *imported.MemberAt(k), calculated);
+            for (size_t k = 0; k < imported.MemberCount(); ++k, index = SkipOmitted(saved, index + 1)) {
+                if (index >= saved.MemberCount()) return false;
+                Compare(*saved.MemberAt(index), *imported.MemberAt(k), calculated);
             }
         }
-        return place == saved.MemberCount();
+        return index == saved.MemberCount();
     }
 
     void Advance(size_t offset) {
@@ -111,9 +111,9 @@ private:
                before_.compare(graphic.source, end - begin, text_, begin, end - begin) == 0;
     }
 
-    void SetSources(Graphic& graphic, uint32_t place) {
-        const uint32_t shift = place - graphic.source;
-        sources_.emplace_back(&graphic, place);
+    void SetSources(Graphic& graphic, uint32_t offset) {
+        const uint32_t shift = offset - graphic.source;
+        sources_.emplace_back(&graphic, offset);
         for (size_t i = 0; i < graphic.MemberCount(); ++i)
             SetSources(*graphic.MemberAt(i), graphic.MemberAt(i)->source + shift);
     }

@@ -85,7 +85,7 @@ const char* DifferentText(const Graphic& a, const Graphic& b, bool calculated) {
                            dxf::Near(one.up, other.up);
     const bool sameForm = one.widthFactor == other.widthFactor && dxf::Near(one.fitWidth, other.fitWidth) &&
                           one.wrapWidth == other.wrapWidth && one.lineSpacing == other.lineSpacing;
-    return !samePlace ? "its place" : !sameForm ? "its width" : nullptr;
+    return !samePlace ? "its position" : !sameForm ? "its width" : nullptr;
 }
 
 } // namespace

@@ -22,11 +22,11 @@ void OmittedObjects::Add(const Graphic& graphic, const std::string& why) {
     warnings_.push_back({name.line, name.Text() + ": " + why});
 }
 
-void OmittedObjects::AddRemoved(uint32_t place, const std::string& why) {
-    if (!removed_.insert(place).second) return;
+void OmittedObjects::AddRemoved(uint32_t offset, const std::string& why) {
+    if (!removed_.insert(offset).second) return;
     const std::string_view text = dxf::TextOf(drawing_.source->bytes);
-    dxf::RecordName name = dxf::NameOfRecord(text, place);
-    name.line = dxf::LineAt(text, place);
+    dxf::RecordName name = dxf::NameOfRecord(text, offset);
+    name.line = dxf::LineAt(text, offset);
     warnings_.push_back({name.line, name.Text() + ": " + why});
 }
 

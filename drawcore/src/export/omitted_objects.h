@@ -22,7 +22,7 @@ public:
     void Add(const Graphic& graphic, const std::string& why);
     bool Has(const Graphic& graphic) const { return graphics_.count(&graphic) != 0; }
     // Adds a record that is kept although its graphic was removed.
-    void AddRemoved(uint32_t place, const std::string& why);
+    void AddRemoved(uint32_t offset, const std::string& why);
     const std::set<uint32_t>& Removed() const { return removed_; }
     // Adds anything else, by name.
     void Add(const std::string& what, const std::string& why);

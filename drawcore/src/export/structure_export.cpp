@@ -52,10 +52,10 @@ bool StructureExport::Has(const Block& block) {
     return block.name != kPreviewBlock;
 }
 
-uint32_t StructureExport::PlaceOf(const Graphic& graphic) const {
+uint32_t StructureExport::OffsetOf(const Graphic& graphic) const {
     const auto added = added_.find(&graphic);
-    const size_t place = added != added_.end() ? patch_.PlaceOf(added->second) : patch_.Moved(graphic.source);
-    return static_cast<uint32_t>(place);
+    const size_t offset = added != added_.end() ? patch_.OffsetOf(added->second) : patch_.Moved(graphic.source);
+    return static_cast<uint32_t>(offset);
 }
 
 void StructureExport::RemoveBlocks() {
@@ -157,21 +157,21 @@ void StructureExport::RemoveOthers() {
 
 void StructureExport::ReportBlockingReferences() {
     for (const dxf::ReferenceRemoval::BlockingReference& blocking : patch_.BlockingReferences()) {
-        const auto place = static_cast<uint32_t>(blocking.place);
+        const auto offset = static_cast<uint32_t>(blocking.objectOffset);
         std::string what;
         for (const auto& [folded, block] : inFile_)
-            if (block.begin == place) what = OmittedObjects::NameOfBlock(HostName(block.name));
+            if (block.begin == offset) what = OmittedObjects::NameOfBlock(HostName(block.name));
         for (const dxf::Layer& layer : drawing_.source->known.layers)
-            if (layer.declared && layer.offset == place) what = OmittedObjects::NameOfLayer(HostName(layer.name));
-        what.empty() ? omitted_.AddRemoved(place, blocking.why) : omitted_.Add(what, blocking.why);
+            if (layer.declared && layer.offset == offset) what = OmittedObjects::NameOfLayer(HostName(layer.name));
+        what.empty() ? omitted_.AddRemoved(offset, blocking.why) : omitted_.Add(what, blocking.why);
     }
 }
 
 std::vector<uint32_t> StructureExport::NotRemoved() const {
-    std::vector<uint32_t> places;
-    for (const uint32_t place : omitted_.Removed())
-        places.push_back(static_cast<uint32_t>(patch_.Moved(place)));
-    return places;
+    std::vector<uint32_t> offsets;
+    for (const uint32_t offset : omitted_.Removed())
+        offsets.push_back(static_cast<uint32_t>(patch_.Moved(offset)));
+    return offsets;
 }
 
 std::string StyleTreeOf(const Block& block) {

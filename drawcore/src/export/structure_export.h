@@ -20,7 +20,7 @@ public:
     // Adds graphics that the file cannot contain to `omitted`, and skips those that are already there.
     void Write();
     // Returns the offset of the graphic's record in the changed text. Valid after the patch is finished.
-    uint32_t PlaceOf(const Graphic& graphic) const;
+    uint32_t OffsetOf(const Graphic& graphic) const;
     // Adds objects that cannot be removed to `omitted`. Valid after the patch is finished.
     void ReportBlockingReferences();
     // Returns whether a new graphic gets a record.

@@ -74,7 +74,7 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
     if (!parts_) parts_ = std::make_unique<std::vector<std::unique_ptr<Graphic>>>();
     Graphic* added = parts_->emplace_back(std::move(part)).get();
     added->pParent = this;
-    added->GetHostData().place = static_cast<uint32_t>(parts_->size() - 1);
+    added->GetHostData().index = static_cast<uint32_t>(parts_->size() - 1);
     added->dwFlags &= ~kFlagNoParent;
     if (DrawingContents* drawing = GetHostData().drawing) added->Attach(drawing);
     InvalidateExtents();
@@ -82,12 +82,12 @@ Graphic* Graphic::Add(std::unique_ptr<Graphic> part) {
 }
 
 std::unique_ptr<Graphic> Graphic::Release(Graphic* part) {
-    const size_t place = part->GetHostData().place;
-    if (!parts_ || place >= parts_->size() || (*parts_)[place].get() != part) return nullptr;
-    std::unique_ptr<Graphic> released = std::move((*parts_)[place]);
-    parts_->erase(parts_->begin() + static_cast<std::ptrdiff_t>(place));
-    for (size_t i = place; i < parts_->size(); ++i)
-        (*parts_)[i]->GetHostData().place = static_cast<uint32_t>(i);
+    const size_t index = part->GetHostData().index;
+    if (!parts_ || index >= parts_->size() || (*parts_)[index].get() != part) return nullptr;
+    std::unique_ptr<Graphic> released = std::move((*parts_)[index]);
+    parts_->erase(parts_->begin() + static_cast<std::ptrdiff_t>(index));
+    for (size_t i = index; i < parts_->size(); ++i)
+        (*parts_)[i]->GetHostData().index = static_cast<uint32_t>(i);
     MembersMoved();
     released->pParent = nullptr;
     released->dwFlags |= kFlagNoParent;

@@ -134,8 +134,8 @@ private:
     struct HostData {
         DrawingContents* drawing = nullptr;
         const PropertyTable* properties = nullptr;
-        uint32_t undoPlace = 0; // index in the open undo step; only a hint
-        uint32_t place = 0;     // index among the parts of its owner
+        uint32_t undoIndex = 0; // index in the open undo step; only a hint
+        uint32_t index = 0;     // index among the parts of its owner
     };
     HostData& GetHostData() { return *Place<HostData>(host68); }
     const HostData& GetHostData() const { return *Place<HostData>(const_cast<Graphic*>(this)->host68); }

@@ -85,10 +85,10 @@ void InsertGraphic::StorePlacement() {
     if (leads && !(more_ && more_->first)) GetMore().first = Placement();
 }
 
-Vertex* InsertGraphic::VertexAt(size_t place) {
-    if (place >= std::size(vertices)) return nullptr;
+Vertex* InsertGraphic::VertexAt(size_t index) {
+    if (index >= std::size(vertices)) return nullptr;
     StorePlacement();
-    return &vertices[place];
+    return &vertices[index];
 }
 
 bool InsertGraphic::FindMotion(Matrix& motion) const {

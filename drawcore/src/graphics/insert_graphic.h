@@ -30,7 +30,7 @@ public:
     size_t StateSize() const override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
 
-    Vertex* VertexAt(size_t place) override;
+    Vertex* VertexAt(size_t index) override;
     bool FindMotion(Matrix& motion) const override;
 
     // Returns the matrix from block to drawing coordinates, without the block's base point.

@@ -50,8 +50,8 @@ template <class Place>
 struct Assigned {
     template <class Value>
     static void Set(Graphic& graphic, Value value) {
-        auto& place = Place::In(graphic);
-        place = static_cast<std::decay_t<decltype(place)>>(value);
+        auto& target = Place::In(graphic);
+        target = static_cast<std::decay_t<decltype(target)>>(value);
     }
 };
 template <auto field>
@@ -345,27 +345,27 @@ int Set(GraphicStruct* record, int32_t number, int vt, const void* in) {
 namespace {
 
 // Every graphic has a pen and a brush.
-bool HasStored(const Graphic& graphic, size_t place) {
+bool HasStored(const Graphic& graphic, size_t index) {
     const uint8_t owner = graphic.GetKind() == Kind::Text     ? kOfTexts
                           : graphic.GetKind() == Kind::Insert ? kOfInserts
                                                               : kOfShapes;
-    return kPropertyList[place].owners & (kOfShapes | owner);
+    return kPropertyList[index].owners & (kOfShapes | owner);
 }
 
 } // namespace
 
-StoredProperty GetStored(const Graphic& graphic, size_t place) {
-    const Property& property = kProperties[place];
-    if (!HasStored(graphic, place)) return {};
+StoredProperty GetStored(const Graphic& graphic, size_t index) {
+    const Property& property = kProperties[index];
+    if (!HasStored(graphic, index)) return {};
     if (property.integer.get) return property.integer.get(graphic);
     if (property.real.get) return property.real.stored ? property.real.stored(graphic) : property.real.get(graphic);
     return std::string(property.text.stored ? property.text.stored(graphic) : property.text.get(graphic));
 }
 
-void SetStored(Graphic& graphic, size_t place, const StoredProperty& value) {
-    const Property& property = kProperties[place];
-    const PropertyInfo& info = kPropertyList[place];
-    if (!HasStored(graphic, place)) return;
+void SetStored(Graphic& graphic, size_t index, const StoredProperty& value) {
+    const Property& property = kProperties[index];
+    const PropertyInfo& info = kPropertyList[index];
+    if (!HasStored(graphic, index)) return;
     const auto* integer = std::get_if<int64_t>(&value);
     const auto* real = std::get_if<double>(&value);
     const auto* text = std::get_if<std::string>(&value);

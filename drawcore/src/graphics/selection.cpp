@@ -31,10 +31,10 @@ bool Selection::Include(Graphic* graphic) {
 bool Selection::Exclude(Graphic* graphic) {
     const auto found = places_.find(graphic);
     if (found == places_.end()) return false;
-    const size_t place = found->second;
+    const size_t index = found->second;
     places_.erase(found);
-    members_.erase(members_.begin() + static_cast<std::ptrdiff_t>(place));
-    for (size_t i = place; i < members_.size(); ++i)
+    members_.erase(members_.begin() + static_cast<std::ptrdiff_t>(index));
+    for (size_t i = index; i < members_.size(); ++i)
         places_[members_[i]] = i;
     return true;
 }

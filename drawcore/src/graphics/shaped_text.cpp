@@ -63,8 +63,8 @@ std::vector<ShapedRun> ShapeRow(HDC dc, SCRIPT_CACHE& cache, std::wstring_view r
 
     std::vector<ShapedRun> runs;
     int left = 0;
-    for (const int place : order) {
-        const SCRIPT_ITEM *item = &items[static_cast<size_t>(place)], *next = item + 1;
+    for (const int index : order) {
+        const SCRIPT_ITEM *item = &items[static_cast<size_t>(index)], *next = item + 1;
         ShapedRun& run = runs.emplace_back();
         run.analysis = item->a;
         run.left = left;

@@ -25,7 +25,7 @@ using TreeBox = bg::model::box<TreePoint>;
 
 struct Entry {
     TreeBox box;
-    uint32_t place;
+    uint32_t index;
 };
 
 struct BoxOfEntry {
@@ -33,8 +33,8 @@ struct BoxOfEntry {
     result_type operator()(const Entry& entry) const { return entry.box; }
 };
 
-struct SamePlace {
-    bool operator()(const Entry& a, const Entry& b) const { return a.place == b.place; }
+struct SameIndex {
+    bool operator()(const Entry& a, const Entry& b) const { return a.index == b.index; }
 };
 
 constexpr float kFarthest = std::numeric_limits<float>::max();
@@ -67,7 +67,7 @@ bool ContainsMuch(const Extents& box, const Extents& all) {
 
 } // namespace
 
-class SpatialIndex::Tree : public bgi::rtree<Entry, bgi::quadratic<16>, BoxOfEntry, SamePlace> {
+class SpatialIndex::Tree : public bgi::rtree<Entry, bgi::quadratic<16>, BoxOfEntry, SameIndex> {
 public:
     using rtree::rtree;
 };
@@ -91,10 +91,10 @@ void SpatialIndex::NoteMember(const Graphic& member) {
 void SpatialIndex::Build(const Graphic& group) {
     std::vector<Entry> entries;
     entries.reserve(group.MemberCount());
-    for (uint32_t place = 0; place < group.MemberCount(); ++place) {
-        Graphic& member = *group.MemberAt(place);
+    for (uint32_t index = 0; index < group.MemberCount(); ++index) {
+        Graphic& member = *group.MemberAt(index);
         const Extents& extents = member.GetExtents();
-        if (!extents.IsEmpty()) entries.push_back({BoxOf(extents), place});
+        if (!extents.IsEmpty()) entries.push_back({BoxOf(extents), index});
         member.indexed_ = true;
         NoteMember(member);
     }
@@ -110,10 +110,10 @@ void SpatialIndex::AddNewMembers(const Graphic& group) {
     constexpr size_t kFew = 64;
     if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16)
         return Build(group); // faster than updating one by one
-    for (const uint32_t place : changed_) {
-        Graphic& member = *group.MemberAt(place);
+    for (const uint32_t index : changed_) {
+        Graphic& member = *group.MemberAt(index);
         const Extents& extents = member.GetExtents();
-        if (!extents.IsEmpty()) tree_->insert({BoxOf(extents), place});
+        if (!extents.IsEmpty()) tree_->insert({BoxOf(extents), index});
         member.indexed_ = true;
         NoteMember(member);
     }
@@ -123,9 +123,9 @@ void SpatialIndex::AddNewMembers(const Graphic& group) {
 void SpatialIndex::Forget(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
-    changed_.push_back(member.GetHostData().place);
+    changed_.push_back(member.GetHostData().index);
     const Extents& extents = member.Box();
-    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.GetHostData().place});
+    if (!extents.IsEmpty()) tree_->remove({BoxOf(extents), member.GetHostData().index});
 }
 
 void SpatialIndex::Drop() {
@@ -139,11 +139,11 @@ std::optional<std::vector<uint32_t>> SpatialIndex::Find(const Graphic& group, co
     Extents around = box;
     around.Add(box.low - Vec3{reach, reach, 0});
     around.Add(box.high + Vec3{reach, reach, 0});
-    std::vector<uint32_t> places;
+    std::vector<uint32_t> indices;
     tree_->query(bgi::intersects(BoxOf(around)),
-                 boost::make_function_output_iterator([&](const Entry& entry) { places.push_back(entry.place); }));
-    std::sort(places.begin(), places.end());
-    return places;
+                 boost::make_function_output_iterator([&](const Entry& entry) { indices.push_back(entry.index); }));
+    std::sort(indices.begin(), indices.end());
+    return indices;
 }
 
 } // namespace drawcore

@@ -169,12 +169,12 @@ uint32_t UndoLog::Mark() const {
 
 UndoLog::Saved* UndoLog::InOpenStep(const Graphic& graphic) {
     std::deque<Saved>& saved = steps_.back().saved;
-    const size_t place = graphic.GetHostData().undoPlace;
-    return place < saved.size() && saved[place].graphic == &graphic ? &saved[place] : nullptr;
+    const size_t index = graphic.GetHostData().undoIndex;
+    return index < saved.size() && saved[index].graphic == &graphic ? &saved[index] : nullptr;
 }
 
 void UndoLog::AddToStep(Graphic& graphic) {
-    graphic.GetHostData().undoPlace = static_cast<uint32_t>(steps_.back().saved.size());
+    graphic.GetHostData().undoIndex = static_cast<uint32_t>(steps_.back().saved.size());
     graphic.inUndoLog_ = true;
 }
 
@@ -209,7 +209,7 @@ void UndoLog::Remove(Graphic& graphic) {
             std::deque<Saved>& saved = steps_.back().saved;
             if (entry != &saved.back()) {
                 *entry = std::move(saved.back());
-                entry->graphic->GetHostData().undoPlace = graphic.GetHostData().undoPlace;
+                entry->graphic->GetHostData().undoIndex = graphic.GetHostData().undoIndex;
             }
             saved.pop_back();
         }

@@ -22,7 +22,7 @@ public:
     size_t StateSize() const override;
     void TraceShape(const Trace& trace, const PenUse& use) const override;
     double Reach() const override;
-    Vertex* VertexAt(size_t place) override { return place < vertices.size() ? &vertices[place] : nullptr; }
+    Vertex* VertexAt(size_t index) override { return index < vertices.size() ? &vertices[index] : nullptr; }
 
     bool IsGroup() const { return vertices.empty() && MemberCount() != 0; }
     void AddVertex(const Vec3& point, bool drawn = true) { vertices.emplace_back(point, drawn); }

@@ -65,9 +65,9 @@ Lines LinesIn(const Family& family, const Box& box) {
     double low = INFINITY, high = -INFINITY;
     for (const Point& p :
          {Point{box.left, box.top}, {box.right, box.top}, {box.left, box.bottom}, {box.right, box.bottom}}) {
-        const double place = family.Across(p) / family.spacing;
-        low = std::min(low, place);
-        high = std::max(high, place);
+        const double number = family.Across(p) / family.spacing;
+        low = std::min(low, number);
+        high = std::max(high, number);
     }
     constexpr double kFarthest = 1e15; // beyond, a double is too coarse to distinguish lines
     if (!(low > -kFarthest && high < kFarthest)) return {1, 0};

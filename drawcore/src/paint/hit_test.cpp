@@ -142,10 +142,10 @@ private:
 // Traces the members of a set one after the other.
 class Picker {
 public:
-    // place: contains everything that can be hit.
-    Picker(const Viewport& viewport, const Graphic& set, const Box& place, HitSink& sink, uint32_t filter)
+    // area: contains everything that can be hit.
+    Picker(const Viewport& viewport, const Graphic& set, const Box& area, HitSink& sink, uint32_t filter)
         : set_(set), sink_(sink), filter_(filter), tools_(DrawingOf(viewport, set)), matrix_(viewport.ToDevice()),
-          near_(set, place, matrix_, kInch) {}
+          near_(set, area, matrix_, kInch) {}
 
     size_t Count() const { return near_.CountIn(set_); }
     Graphic* At(size_t number) const { return near_.At(set_, number); }
@@ -181,8 +181,8 @@ private:
 
 Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance, uint32_t filter) {
     PointSink sink(device, tolerance);
-    const Box place = Box{device.x, device.y, device.x, device.y}.Grown(tolerance);
-    Picker picker(viewport, set, place, sink, filter);
+    const Box area = Box{device.x, device.y, device.x, device.y}.Grown(tolerance);
+    Picker picker(viewport, set, area, sink, filter);
     for (size_t i = picker.Count(); i-- > 0;)
         if (picker.Hits(i)) return picker.At(i);
     return nullptr;

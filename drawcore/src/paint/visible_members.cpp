@@ -27,12 +27,12 @@ VisibleMembers::VisibleMembers(const Graphic& set, const Box& device, const Matr
     SpatialIndex* index = set.MemberIndex();
     if (!index || !KeepsBoxes(toDevice)) return;
     constexpr double kRounding = 1; // in pixels; greater than any rounding error
-    places_ = index->Find(set, BackFrom(device.Grown(kRounding), toDevice), paperInch / toDevice.PlanScale());
+    indices_ = index->Find(set, BackFrom(device.Grown(kRounding), toDevice), paperInch / toDevice.PlanScale());
 }
 
 Graphic* VisibleMembers::At(const Graphic& set, size_t number) const {
-    const size_t place = places_ ? (*places_)[number] : number;
-    return place < set.MemberCount() ? set.MemberAt(place) : nullptr;
+    const size_t index = indices_ ? (*indices_)[number] : number;
+    return index < set.MemberCount() ? set.MemberAt(index) : nullptr;
 }
 
 } // namespace drawcore

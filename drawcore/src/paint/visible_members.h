@@ -16,11 +16,11 @@ public:
     VisibleMembers(const Graphic& set, const Box& device, const Matrix& toDevice, double paperInch);
 
     // In drawing order. The set must be the same one. Returns null if members have been removed since.
-    size_t CountIn(const Graphic& set) const { return places_ ? places_->size() : set.MemberCount(); }
+    size_t CountIn(const Graphic& set) const { return indices_ ? indices_->size() : set.MemberCount(); }
     Graphic* At(const Graphic& set, size_t number) const;
 
 private:
-    std::optional<std::vector<uint32_t>> places_; // nothing for all
+    std::optional<std::vector<uint32_t>> indices_; // nothing for all
 };
 
 } // namespace drawcore

@@ -91,17 +91,17 @@ void AppearanceWriter::ReplacePattern(const std::vector<RecordPatch::Value>& val
     const auto from =
         std::find_if(groups.rbegin(), groups.rend(), [](const Group& group) { return group.code == kHatchStyle; });
     if (from == groups.rend()) throw SaveError("the groups of a hatch's pattern are missing");
-    size_t place = from->end;
+    size_t offset = from->end;
     bool inPattern = true, inGradient = false;
     for (auto group = from.base(); group != groups.end() && !group->attached; ++group) {
-        if (group->code == kPatternType) place = group->end;
+        if (group->code == kPatternType) offset = group->end;
         inPattern = inPattern && group->code != kSeeds;
         inGradient = inGradient || group->code == kGradient;
         if ((inPattern && IsOfPattern(group->code)) || (inGradient && IsOfGradient(group->code)))
             record_.Remove(*group);
     }
     for (const RecordPatch::Value& value : values)
-        record_.Insert(place, value.code, value.text);
+        record_.Insert(offset, value.code, value.text);
 }
 
 void AppearanceWriter::PutHatchHead(const Hatch& hatch) {

@@ -26,7 +26,7 @@ Entity DrawingPatch::EntityAt(size_t offset) {
     return std::move(read[0]);
 }
 
-void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityPlace& place) {
+void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityChange& change) {
     const auto moved = moved_.find(offset);
     AppearanceWriter writer(*this, offset);
     if (moved != moved_.end()) {

@@ -19,7 +19,7 @@
 namespace dxf {
 
 // The requested position of an entity, and the requested contents of a text; null members leave it as it is.
-struct EntityPlace {
+struct EntityChange {
     // For an insertion. Its attributes move with it, even those without other changes.
     const AxisEnds* ends = nullptr;
     // In world coordinates, for an entity with a position (placement.h) that is not an insertion.
@@ -51,7 +51,7 @@ public:
     Appearance AppearanceAt(size_t offset) { return AppearanceOf(Known(), EntityAt(offset)); }
 
     // May be called once per entity.
-    void Change(size_t offset, const Appearance& wanted, const EntityPlace& place = {});
+    void Change(size_t offset, const Appearance& wanted, const EntityChange& change = {});
 
     // Changes color, flags, line type (by name), weight and plotting of a layer; once per layer, and before changes of
     // entities.

@@ -100,7 +100,7 @@ void RecordPatch::RemoveAll(int code, bool common) {
 
 // Some programs write the groups of all entities after the subclass marker of the kind.
 void RecordPatch::SetCommon(int code, const std::string& value) {
-    SetAll(code, value, HasCommon(code), CommonPlace(code));
+    SetAll(code, value, HasCommon(code), CommonOffset(code));
 }
 
 void RecordPatch::RemoveCommon(int code) {
@@ -108,7 +108,7 @@ void RecordPatch::RemoveCommon(int code) {
 }
 
 void RecordPatch::Set(int code, const std::string& value, std::initializer_list<int> after) {
-    SetAll(code, value, false, PlaceAfter(after));
+    SetAll(code, value, false, OffsetAfter(after));
 }
 
 void RecordPatch::Remove(int code) {
@@ -116,23 +116,23 @@ void RecordPatch::Remove(int code) {
 }
 
 // Returns the offset after the last of the groups that precede it in the usual order.
-size_t RecordPatch::CommonPlace(int code) const {
+size_t RecordPatch::CommonOffset(int code) const {
     const auto order = [](int wanted) {
         return std::find(std::begin(kCommonOrder), std::end(kCommonOrder), wanted) - kCommonOrder;
     };
-    size_t place = groups_[0].end;
+    size_t offset = groups_[0].end;
     for (const Group& group : groups_)
-        if (IsCommon(group) ? order(group.code) < order(code) : hasParts_ && group.part == 0) place = group.end;
-    return place;
+        if (IsCommon(group) ? order(group.code) < order(code) : hasParts_ && group.part == 0) offset = group.end;
+    return offset;
 }
 
-size_t RecordPatch::PlaceAfter(std::initializer_list<int> codes) const {
-    size_t place = 0, end = groups_[0].end;
+size_t RecordPatch::OffsetAfter(std::initializer_list<int> codes) const {
+    size_t offset = 0, end = groups_[0].end;
     for (const Group& group : groups_) {
         if (!group.attached) end = group.end;
-        if (!group.attached && std::find(codes.begin(), codes.end(), group.code) != codes.end()) place = group.end;
+        if (!group.attached && std::find(codes.begin(), codes.end(), group.code) != codes.end()) offset = group.end;
     }
-    return place != 0 ? place : end;
+    return offset != 0 ? offset : end;
 }
 
 void RecordPatch::SetExtended(const char* application, const std::vector<Value>& values) {

@@ -43,7 +43,7 @@ public:
     void Remove(const Group& group) { patch_.Replace(group.begin, group.end - group.begin, {}); }
     void Insert(size_t at, int code, const std::string& value) { patch_.Insert(at, Lines(code, value)); }
     // Returns the offset after the last of these groups, else the end of the record's own groups.
-    size_t PlaceAfter(std::initializer_list<int> codes) const;
+    size_t OffsetAfter(std::initializer_list<int> codes) const;
 
     // Replaces the extended data of that application; empty values remove it.
     struct Value {
@@ -61,7 +61,7 @@ private:
     const Group* Find(int code, bool common) const;
     void SetAll(int code, const std::string& value, bool common, size_t placeIfMissing);
     void RemoveAll(int code, bool common);
-    size_t CommonPlace(int code) const;
+    size_t CommonOffset(int code) const;
 
     TextPatch& patch_;
     std::vector<Group> groups_; // the first one has code 0

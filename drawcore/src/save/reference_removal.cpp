@@ -99,23 +99,23 @@ private:
             groups_->begin(), groups_->end(), [](const Group& group) { return group.code == 340 && !group.attached; }));
     }
 
-    bool IsOwnedBy(size_t place) const {
+    bool IsOwnedBy(size_t objectOffset) const {
         for (const Group& group : *groups_) {
             if (group.code == kSubclass) break;
             if (group.code != kOwner || group.attached) continue;
             const auto found = of_.handles_.find(KeyOf(group.value));
-            return found != of_.handles_.end() && found->second == place;
+            return found != of_.handles_.end() && found->second == objectOffset;
         }
         return false;
     }
 
     // Removes the record up to `end`, discarding all but the first `edits` edits.
-    void RemoveRecord(size_t end, size_t place, size_t edits) {
+    void RemoveRecord(size_t end, size_t objectOffset, size_t edits) {
         const size_t begin = (*groups_)[0].begin;
         of_.edits_.resize(edits);
         of_.edits_.push_back({begin, end - begin, {}});
-        of_.ranges_.emplace(begin, Range{end, place});
-        of_.NoteHandles(begin, {end, place});
+        of_.ranges_.emplace(begin, Range{end, objectOffset});
+        of_.NoteHandles(begin, {end, objectOffset});
         grows_ = true;
         tags_.Seek(end);
     }
@@ -196,9 +196,9 @@ private:
     bool grows_ = false;
 };
 
-void ReferenceRemoval::Add(size_t begin, size_t end, size_t place) {
-    ranges_.emplace(begin, Range{end, place});
-    NoteHandles(begin, {end, place});
+void ReferenceRemoval::Add(size_t begin, size_t end, size_t objectOffset) {
+    ranges_.emplace(begin, Range{end, objectOffset});
+    NoteHandles(begin, {end, objectOffset});
 }
 
 void ReferenceRemoval::NoteHandles(size_t begin, const Range& range) {
@@ -209,9 +209,9 @@ void ReferenceRemoval::NoteHandles(size_t begin, const Range& range) {
         bool hasHandle = false;
         for (const Group& group : record.Groups()) {
             const std::string key = KeyOf(group.value);
-            if (group.code == kHandle && !hasHandle && !key.empty()) handles_.emplace(key, range.place);
+            if (group.code == kHandle && !hasHandle && !key.empty()) handles_.emplace(key, range.objectOffset);
             hasHandle = hasHandle || group.code == kHandle;
-            if (group.code == kHardOwner && !key.empty()) owned_.emplace(key, range.place);
+            if (group.code == kHardOwner && !key.empty()) owned_.emplace(key, range.objectOffset);
         }
         at = record.End();
     }

@@ -16,21 +16,21 @@ class ReferenceRemoval {
 public:
     ReferenceRemoval(TextPatch& patch) : patch_(patch) {}
 
-    // Adds records that the caller removes, from begin to end. The offset `place` identifies them in
+    // Adds records that the caller removes, from begin to end. The offset `objectOffset` identifies them in
     // blocking references.
-    void Add(size_t begin, size_t end, size_t place);
+    void Add(size_t begin, size_t end, size_t objectOffset);
 
     // Removes all references, or none if one of them cannot be removed.
     void Run();
     struct BlockingReference {
-        size_t place;    // of the record that cannot be removed
-        std::string why; // for example "GROUP 2F (line 1024) refers to it"
+        size_t objectOffset; // of the record that cannot be removed
+        std::string why;     // for example "GROUP 2F (line 1024) refers to it"
     };
     const std::vector<BlockingReference>& BlockingReferences() const { return blocking_; }
 
 private:
     struct Range {
-        size_t end, place;
+        size_t end, objectOffset;
     };
     struct Edit {
         size_t at, length;

@@ -30,9 +30,9 @@ void StructurePatch::Remove(size_t offset) {
     RemoveText(offset, removedEnd_, offset);
 }
 
-void StructurePatch::RemoveText(size_t begin, size_t end, size_t place) {
+void StructurePatch::RemoveText(size_t begin, size_t end, size_t objectOffset) {
     patch_.Replace(begin, end - begin, {});
-    references_.Add(begin, end, place);
+    references_.Add(begin, end, objectOffset);
     changed_ = true;
 }
 
@@ -121,7 +121,7 @@ std::string StructurePatch::Finish() {
     }
     std::string changed = patch_.Result();
     for (Added& added : added_)
-        added.place += patch_.Moved(pieces_[added.piece].at) - offsetInPiece[added.piece];
+        added.offset += patch_.Moved(pieces_[added.piece].at) - offsetInPiece[added.piece];
     return changed;
 }
 

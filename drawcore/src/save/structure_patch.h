@@ -5,7 +5,7 @@
 //   structure.Remove(entity.offset);
 //   const size_t added = structure.Add(line, nullptr);
 //   const std::string changed = structure.Finish();
-//   ... structure.PlaceOf(added), structure.Moved(other.offset)
+//   ... structure.OffsetOf(added), structure.Moved(other.offset)
 #pragma once
 
 #include <string>
@@ -35,7 +35,7 @@ public:
 
     // Throws SaveError if the version has no such entity.
     void Check(const Entity& entity) { records_.LinesOf(entity, {}); }
-    // Appends the entity to a block of the file or, with null, to model space. Returns its number for PlaceOf.
+    // Appends the entity to a block of the file or, with null, to model space. Returns its number for OffsetOf.
     size_t Add(const Entity& entity, const Block* block);
     // Adds a block with its name, extended data and entities, before any entity is added. Returns the number of the
     // first entity; the others follow.
@@ -49,7 +49,7 @@ public:
         return references_.BlockingReferences();
     }
     // Returns the offset of an added entity's record in the changed text, or that of existing contents.
-    size_t PlaceOf(size_t added) const { return added_[added].place; }
+    size_t OffsetOf(size_t added) const { return added_[added].offset; }
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }
 
 private:
@@ -60,11 +60,11 @@ private:
         const char* section; // section of the piece; null if it is part of one
     };
     struct Added {
-        size_t piece, place; // in the piece; after Finish, in the text
+        size_t piece, offset; // in the piece; after Finish, in the text
     };
 
     void ResetCurrentLayer(const Layer& removed);
-    void RemoveText(size_t begin, size_t end, size_t place);
+    void RemoveText(size_t begin, size_t end, size_t objectOffset);
     size_t PieceAt(size_t at, const char* section = nullptr);
     size_t PieceOf(const std::optional<size_t>& sectionEnd, const char* section);
     size_t Append(size_t piece, const Entity& entity, const std::string& owner);

@@ -96,11 +96,11 @@ void AppearanceWriter::PutFace(Text& text, const FontFace& face) {
 
 // The insertion point does not move.
 void AppearanceWriter::PutFormat(Text& text, uint16_t format) {
-    const Vec3 place = HangsOnInsertion(text) ? text.insertion : text.alignment;
+    const Vec3 position = HangsOnInsertion(text) ? text.insertion : text.alignment;
     constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center, Text::Horizontal::right};
     if (text.horizontal == Text::Horizontal::middle) text.vertical = Text::Vertical::middle;
     text.horizontal = kFormats[format];
-    (HangsOnInsertion(text) ? text.insertion : text.alignment) = place;
+    (HangsOnInsertion(text) ? text.insertion : text.alignment) = position;
 }
 
 namespace {
@@ -244,20 +244,20 @@ void AppearanceWriter::PutText(const MText& now) {
 // Writes the text in pieces: code 3, and code 1 for the last one.
 void AppearanceWriter::PutParagraphs(const std::string& text) {
     std::string stored;
-    size_t place = record_.PlaceAfter({72, 71, 41, 40});
+    size_t offset = record_.OffsetAfter({72, 71, 41, 40});
     bool first = true;
     for (const Group& group : record_.Groups()) {
         if (group.attached || (group.code != 1 && group.code != 3)) continue;
         stored += group.value;
-        if (first) place = group.begin;
+        if (first) offset = group.begin;
         first = false;
         record_.Remove(group);
     }
     CheckText(stored);
     const std::vector<std::string> pieces = drawing_.in_.decoder.EncodePieces(text);
     for (size_t i = 0; i + 1 < pieces.size(); ++i)
-        record_.Insert(place, 3, pieces[i]);
-    record_.Insert(place, 1, pieces.empty() ? "" : pieces.back());
+        record_.Insert(offset, 3, pieces[i]);
+    record_.Insert(offset, 1, pieces.empty() ? "" : pieces.back());
 }
 
 } // namespace dxf
