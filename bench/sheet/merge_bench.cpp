@@ -102,7 +102,7 @@ Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
         });
 }
 
-// Measures in a sheet over n graphics of that type.
+// Measures in a sheet for n graphics of that type.
 template <class Measuring>
 auto MeasureCrowd(int n, int type, Measuring measure) {
     const UniformDrawing drawing(n, type);

@@ -28,6 +28,6 @@ void PaintSheet(HWND sheet);
 void RunSystemSheet(LoopWatch& watch, int pages, const std::function<void(HWND sheet)>& act);
 void ShowSystemPage(HWND sheet, int page);
 
-// Creates the library's sheet over a selection with all its pages. It is canceled after act.
+// Creates the library's sheet for a selection with all its pages. It is canceled after act.
 std::unique_ptr<CGraphicPropertySheet> NewSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* selection);
 void RunSheet(LoopWatch& watch, CGraphicPropertySheet& sheet, const std::function<void(HWND sheet)>& act);

@@ -1,4 +1,4 @@
-// The sheet with all five pages over real graphics of every kind, against the system's property sheet with the same
+// The sheet with all five pages for real graphics of every kind, against the system's property sheet with the same
 // templates: opening it, changing pages, and many pages against few.
 
 #include "bench/sheet/sheet_bench.h"

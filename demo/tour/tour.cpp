@@ -205,7 +205,7 @@ void Tour::SaveCopy() {
     TakePicture("saved");
 }
 
-// Opens the pane over the next graphic that has a pen, and edits it.
+// Opens the pane for the next graphic that has a pen, and edits it.
 void Tour::ShowPaneAndLayers() {
     Report("F4 opens the pane of properties; Tab selects the next graphic.");
     m_user.Key(VK_F4);

@@ -1,6 +1,6 @@
 // The public C++ interface of the library: includes every exported class and function.
 //
-//   entry/entry.h                  opens a sheet over a selection
+//   entry/entry.h                  opens a sheet for a selection
 //   frame/graphic_property_page.h  base class of a host's own pages
 //   exchange/ddp.h, ddx.h          data exchange between properties, members and controls of a page
 //   pages/                         the library's own pages

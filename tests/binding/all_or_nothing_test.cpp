@@ -26,7 +26,7 @@ struct TwoNumbers {
     }
 };
 
-// A sheet over two graphics that have both numbers.
+// A sheet for two graphics that have both numbers.
 struct OverTwo {
     OverTwo() {
         for (int i = 0; i < 2; ++i)

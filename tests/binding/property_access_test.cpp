@@ -10,7 +10,7 @@
 
 namespace {
 
-// Runs the test with a page of an open sheet over the kit.
+// Runs the test with a page of an open sheet for the kit.
 void WithPage(GraphicKit& kit, std::function<void(ExchangePage&)> test, unsigned long filter = kAllGraphics) {
     TestSheet sheet(kit, filter);
     ExchangePage& page = sheet.Add([](CDataExchange*) {});

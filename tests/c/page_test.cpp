@@ -178,7 +178,7 @@ TEST_F(CPages, AreAddedOnlyForTheirGraphics) {
                   });
 }
 
-// The record of the first version ends before the pages. What follows it in memory is not read.
+// The record of the first version ends before the pages. Memory after the record is not read.
 TEST_F(CPages, RecordOfTheFirstVersionIsAccepted) {
     std::memset(&sheet.pages, 0xAB, sizeof sheet - offsetof(OrloSheet, pages));
     sheet.size = offsetof(OrloSheet, pages);

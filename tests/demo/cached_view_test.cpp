@@ -1,4 +1,4 @@
-// A picture that moves along: what it shows meanwhile, and that it is the same at rest as one drawn there.
+// The cached picture: its contents during movement, and its equality with a redrawn picture at rest.
 
 #include "demo/viewer/cached_view.h"
 

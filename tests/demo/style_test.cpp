@@ -1,4 +1,4 @@
-// Styles in the viewer: the wizard that creates one, the sheet over a style with its end codes, and applying styles.
+// Styles in the viewer: the wizard that creates one, the sheet for a style with its end codes, and applying styles.
 
 #include <cctype>
 #include <set>
@@ -205,7 +205,7 @@ TEST_F(Styles, StyleSelectedInTheSheetBecomesCurrent) {
     Make("Blue");
     InStyleSheets({[&](HWND sheet) {
                        TypeStyle(sheet, "Red");
-                       user.Click(OnPage(sheet, IDC_INFO)); // leaving the combo box reopens the sheet over that style
+                       user.Click(OnPage(sheet, IDC_INFO)); // leaving the combo box reopens the sheet for that style
                    },
                    [&](HWND sheet) {
                        EXPECT_EQ(WindowText(OnPage(sheet, IDC_STYLE_NAME)), "Red");

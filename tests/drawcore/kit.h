@@ -25,7 +25,7 @@ struct P {
 // Create graphics without an owner.
 GraphicStruct* MakeLines(const std::vector<P>& points);
 GraphicStruct* MakeSquare(double left, double bottom, double size);
-// In Tahoma, with its natural width if width is 0.
+// Creates a text in Tahoma, with its natural width if width is 0.
 GraphicStruct* MakeText(const char* text, P at, double height, double angle = 0, double width = 0);
 GraphicStruct* MakeInsert(TableStruct* blocks, uint16_t block, P at, double sx, double sy, double angle = 0);
 

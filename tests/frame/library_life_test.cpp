@@ -29,7 +29,7 @@ public:
 
     HMODULE Module() const { return m_module; }
 
-    // Opens a sheet over the kit's graphics and runs the script.
+    // Opens a sheet for the kit's graphics and runs the script.
     int Run(GraphicKit& kit, SheetDriver::Script script) const {
         // The class belongs to the library; this program only knows its base class in the framework.
         void* made = Function<decltype(::InitGraphicPropertySheet)>("InitGraphicPropertySheet")(

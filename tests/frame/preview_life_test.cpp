@@ -1,4 +1,4 @@
-// Previews of sheets that run twice, and of several sheets over one drawing.
+// Previews of sheets that run twice, and of several sheets for one drawing.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// All pages in one sheet over real graphics of every kind.
+// All pages in one sheet for real graphics of every kind.
 
 #include <gtest/gtest.h>
 

@@ -20,7 +20,7 @@ public:
 
     // Adds two of each of these kinds (Content) to drawing and selection.
     void Select(int content);
-    // Creates a sheet over the selection with all its pages.
+    // Creates a sheet for the selection with all its pages.
     std::unique_ptr<CGraphicPropertySheet> NewSheet() const;
 
 private:

@@ -1,4 +1,4 @@
-// The Block Insertion page over real insertions: equal and differing ones, writing, and the preview.
+// The Block Insertion page for real insertions: equal and differing ones, writing, and the preview.
 
 #include <gtest/gtest.h>
 

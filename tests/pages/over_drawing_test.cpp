@@ -1,4 +1,4 @@
-// The Pen and Text pages over all graphics of real drawings, with undo.
+// The Pen and Text pages for all graphics of real drawings, with undo.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// One page of the library in a sheet over a kit's graphics, for the tests of the Pen, Brush and Text pages.
+// One page of the library in a sheet for a kit's graphics, for the tests of the Pen, Brush and Text pages.
 #pragma once
 
 #include <gtest/gtest.h>

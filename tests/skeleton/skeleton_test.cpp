@@ -1,4 +1,4 @@
-// The real sheet over the skeleton's database: every page opens, and edits are stored in the graphics.
+// The real sheet with the skeleton's database: every page opens, and edits are stored in the graphics.
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,7 @@
 #!/usr/bin/env python3
 """Edits every document of a folder with suminfo and reads it with olefile and gsf: write_back.py SUMINFO FOLDER
-Uses also the documents of the folder that ORLO_CORPUS names. Everything else must be unchanged: streams byte for byte,
-classes, times and state bits of storages. Documents that suminfo
-reports as damaged must not change."""
+Also uses the documents of the folder that ORLO_CORPUS names. Everything else must be unchanged: streams byte for byte,
+classes, times and state bits of storages. Documents that suminfo reports as damaged must not change."""
 import os
 import shutil
 import subprocess

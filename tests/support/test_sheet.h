@@ -1,4 +1,4 @@
-// A real graphic property sheet over a GraphicKit's selection, with pages whose exchange a test writes as a function.
+// A real graphic property sheet for a GraphicKit's selection, with pages whose exchange a test writes as a function.
 #pragma once
 
 #include <functional>

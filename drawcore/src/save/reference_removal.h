@@ -16,8 +16,8 @@ class ReferenceRemoval {
 public:
     ReferenceRemoval(TextPatch& patch) : patch_(patch) {}
 
-    // Adds records that the caller removes, from begin to end. The offset `objectOffset` identifies them in
-    // blocking references.
+    // Adds records that the caller removes, from begin to end. objectOffset identifies them in blocking
+    // references.
     void Add(size_t begin, size_t end, size_t objectOffset);
 
     // Removes all references, or none if one of them cannot be removed.
