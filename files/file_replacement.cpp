@@ -27,7 +27,7 @@ namespace files {
 namespace {
 
 constexpr char kNotReplaced[] = "the file cannot be replaced";
-constexpr char kNotKept[] = "owner, permissions and attributes of the file cannot be preserved";
+constexpr char kNotPreserved[] = "owner, permissions and attributes of the file cannot be preserved";
 
 // The file to remove on an interrupt, or null.
 std::atomic<const fs::path::value_type*> temporaryFile{nullptr};
@@ -36,9 +36,9 @@ std::atomic<const fs::path::value_type*> temporaryFile{nullptr};
     throw FileError("not a regular file; it cannot be replaced");
 }
 
-struct Found {
+struct TargetFile {
     fs::path path;
-    bool isThere;
+    bool exists;
 };
 
 #ifdef _WIN32
@@ -52,7 +52,7 @@ struct BlockedSignals {
 };
 
 // Returns the file that a name refers to. Device names exist in every folder.
-Found FindFile(const fs::path& target) {
+TargetFile FindFile(const fs::path& target) {
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) ThrowNotRegular();
     const OpenFile file = OpenShared(target, FILE_READ_ATTRIBUTES);
@@ -85,19 +85,19 @@ AccessList AccessListOf(const fs::path& path) {
     return list;
 }
 
-void KeepAttributes(const fs::path& from, const fs::path& to) {
+void CopyAttributes(const fs::path& from, const fs::path& to) {
     AccessList list = AccessListOf(from);
     if (!list.empty() && list != AccessListOf(to) &&
         !::SetFileSecurityW(to.c_str(), DACL_SECURITY_INFORMATION, list.data()))
-        ThrowLastError(kNotKept);
-    WIN32_FILE_ATTRIBUTE_DATA kept;
-    if (!::GetFileAttributesExW(from.c_str(), GetFileExInfoStandard, &kept)) ThrowLastError(kNotKept);
-    ::SetFileTime(OpenToWrite(to).get(), &kept.ftCreationTime, nullptr, nullptr);
+        ThrowLastError(kNotPreserved);
+    WIN32_FILE_ATTRIBUTE_DATA original;
+    if (!::GetFileAttributesExW(from.c_str(), GetFileExInfoStandard, &original)) ThrowLastError(kNotPreserved);
+    ::SetFileTime(OpenToWrite(to).get(), &original.ftCreationTime, nullptr, nullptr);
     constexpr DWORD kSettable =
         FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
-    const DWORD attributes = kept.dwFileAttributes & kSettable;
+    const DWORD attributes = original.dwFileAttributes & kSettable;
     if (!::SetFileAttributesW(to.c_str(), attributes != 0 ? attributes : FILE_ATTRIBUTE_NORMAL))
-        ThrowLastError(kNotKept);
+        ThrowLastError(kNotPreserved);
 }
 
 // Replaces in a single step. ReplaceFileW would preserve more, such as named streams, but takes several steps, between
@@ -144,7 +144,7 @@ private:
     sigset_t before_;
 };
 
-Found FindFile(const fs::path& target) {
+TargetFile FindFile(const fs::path& target) {
     std::error_code error;
     const fs::file_status status = fs::status(target, error);
     if (status.type() == fs::file_type::not_found) {
@@ -176,7 +176,7 @@ std::string ExtendedAttribute(const fs::path& path, const char* name) {
 }
 
 // Includes access lists. Labels of security modules are set by the system.
-void KeepExtendedAttributes(const fs::path& from, const fs::path& to) {
+void CopyExtendedAttributes(const fs::path& from, const fs::path& to) {
     std::string names(65536, '\0');
     const ssize_t size = ::listxattr(from.c_str(), names.data(), names.size());
     names.resize(size > 0 ? static_cast<size_t>(size) : 0); // NUL-terminated
@@ -185,18 +185,18 @@ void KeepExtendedAttributes(const fs::path& from, const fs::path& to) {
         const std::string value = ExtendedAttribute(from, name.c_str());
         const bool isOfUsers = name.compare(0, 5, "user.") == 0 || name.compare(0, 7, "system.") == 0;
         if (::setxattr(to.c_str(), name.c_str(), value.data(), value.size(), 0) != 0 && isOfUsers)
-            ThrowLastError(kNotKept);
+            ThrowLastError(kNotPreserved);
     }
 }
 
-void KeepAttributes(const fs::path& from, const fs::path& to) {
-    struct stat kept, created;
-    if (::stat(from.c_str(), &kept) != 0 || ::stat(to.c_str(), &created) != 0) ThrowLastError(kNotKept);
-    const bool isOther = kept.st_uid != created.st_uid || kept.st_gid != created.st_gid;
-    if (isOther && ::chown(to.c_str(), kept.st_uid, kept.st_gid) != 0) ThrowLastError(kNotKept);
+void CopyAttributes(const fs::path& from, const fs::path& to) {
+    struct stat original, created;
+    if (::stat(from.c_str(), &original) != 0 || ::stat(to.c_str(), &created) != 0) ThrowLastError(kNotPreserved);
+    const bool isOther = original.st_uid != created.st_uid || original.st_gid != created.st_gid;
+    if (isOther && ::chown(to.c_str(), original.st_uid, original.st_gid) != 0) ThrowLastError(kNotPreserved);
     constexpr mode_t kPermissions = 07777;
-    if (::chmod(to.c_str(), kept.st_mode & kPermissions) != 0) ThrowLastError(kNotKept);
-    KeepExtendedAttributes(from, to);
+    if (::chmod(to.c_str(), original.st_mode & kPermissions) != 0) ThrowLastError(kNotPreserved);
+    CopyExtendedAttributes(from, to);
 }
 
 void Rename(const fs::path& from, const fs::path& to) {
@@ -221,17 +221,17 @@ void RemoveAndEnd(int signal) {
 } // namespace
 
 bool RequireReplaceable(const fs::path& target) {
-    return FindFile(target).isThere;
+    return FindFile(target).exists;
 }
 
 FileReplacement::FileReplacement(const fs::path& target) {
-    Found found = FindFile(target);
+    TargetFile found = FindFile(target);
     target_ = std::move(found.path);
-    isThere_ = found.isThere;
+    exists_ = found.exists;
     for (int number = 0;; ++number) { // a file may remain from an earlier process with the same identifier
         path_ = target_.parent_path() / ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
         const BlockedSignals blocked;
-        if (Create(path_, isThere_)) {
+        if (Create(path_, exists_)) {
             temporaryFile = path_.c_str();
             return;
         }
@@ -262,7 +262,7 @@ void FileReplacement::Write(std::string_view bytes, const std::function<void(siz
 }
 
 void FileReplacement::Commit() {
-    if (isThere_) KeepAttributes(target_, path_);
+    if (exists_) CopyAttributes(target_, path_);
     Flush(OpenToWrite(path_).get());
     Rename(path_, target_);
     temporaryFile = nullptr;

@@ -41,7 +41,7 @@ public:
 
 private:
     std::filesystem::path target_;
-    bool isThere_;               // the target exists
+    bool exists_;                // the target exists
     std::filesystem::path path_; // empty after the temporary file has been renamed or removed
 };
 

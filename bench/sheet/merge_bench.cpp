@@ -104,7 +104,7 @@ Pair MeasureBits(CGraphicPropertyPage& page, GraphicStruct* selection) {
 
 // Measures in a sheet for n graphics of that type.
 template <class Measuring>
-auto MeasureCrowd(int n, int type, Measuring measure) {
+auto MeasureSheet(int n, int type, Measuring measure) {
     const UniformDrawing drawing(n, type);
     ::PropPageInit();
     const std::unique_ptr<CGraphicPropertySheet> sheet(
@@ -122,8 +122,8 @@ auto MeasureCrowd(int n, int type, Measuring measure) {
 } // namespace
 
 void BenchMerge() {
-    const Results small = MeasureCrowd(100000, kGraphicVertices, Measure);
-    const Results large = MeasureCrowd(1000000, kGraphicVertices, Measure);
+    const Results small = MeasureSheet(100000, kGraphicVertices, Measure);
+    const Results large = MeasureSheet(1000000, kGraphicVertices, Measure);
     Print("merge_number_1000000", large.number.ratio, "x_bare_host_calls");
     PrintGrowth("merge_number", small.number, large.number);
     Print("merge_text_1000000", large.text.ratio, "x_bare_host_calls");
@@ -134,8 +134,8 @@ void BenchMerge() {
     Print("write_text_1000000", large.writeText.ratio, "x_bare_host_calls");
     PrintGrowth("write_text", small.writeText, large.writeText);
 
-    const Pair fewTexts = MeasureCrowd(100000, kGraphicText, MeasureBits);
-    const Pair texts = MeasureCrowd(1000000, kGraphicText, MeasureBits);
+    const Pair fewTexts = MeasureSheet(100000, kGraphicText, MeasureBits);
+    const Pair texts = MeasureSheet(1000000, kGraphicText, MeasureBits);
     Print("merge_text_style_1000000", texts.ratio, "x_bare_host_calls");
     PrintGrowth("merge_text_style", fewTexts, texts);
 }

@@ -45,7 +45,7 @@ bool Tour::Play(const std::string& drawing) {
         if (!EditAndUndo("changed", "undone", [this] { EditPen(); })) return false;
         Report("Ctrl+Y redoes it.");
         m_user.Key('Y', UserInput::kControl);
-        MakeStyle();
+        CreateStyle();
         Report("Ctrl+A selects all.");
         m_user.Key(VK_HOME);
         m_user.Key('A', UserInput::kControl);
@@ -107,7 +107,7 @@ void Tour::Open(const std::string& drawing) {
 bool Tour::SelectVariedSet() {
     const std::optional<WorldBox> box = FindVariedWindow(*m_frame.GetDocument());
     if (!box) return false;
-    ShowClosely(*box);
+    ZoomTo(*box);
 
     CRect frame = m_frame.View().GetCamera().ToPixels(*box);
     frame.InflateRect(kBandMargin, kBandMargin);
@@ -126,7 +126,7 @@ bool Tour::SelectVariedSet() {
 }
 
 // Moves to the center and turns the wheel, like a user.
-void Tour::ShowClosely(const WorldBox& box) {
+void Tour::ZoomTo(const WorldBox& box) {
     const HWND view = m_frame.View().m_hWnd;
     CRect client;
     ::GetClientRect(view, client);
@@ -159,7 +159,7 @@ void Tour::OpenPage(HWND sheet, const std::string& title) {
 }
 
 // Three wizard pages and Finish.
-void Tour::MakeStyle() {
+void Tour::CreateStyle() {
     Report("Ctrl+N creates a style from the selection.");
     m_user.InDialog([this] { m_user.Key('N', UserInput::kControl); },
                     [this](HWND wizard) {

@@ -24,9 +24,9 @@ private:
 
     void Open(const std::string& drawing);
     bool SelectVariedSet();
-    void ShowClosely(const struct WorldBox& box);
+    void ZoomTo(const struct WorldBox& box);
     bool EditAndUndo(const std::string& changed, const std::string& undone, const std::function<void()>& edit);
-    void MakeStyle();
+    void CreateStyle();
     void EditAllPages();
     void SaveCopy();
     void ShowPaneAndLayers();

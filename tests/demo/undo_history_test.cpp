@@ -29,7 +29,7 @@ protected:
                       });
     }
     bool IsLocked() { return (::LayerGetFlags(document().Drawing(), 1) & kLayerLocked) != 0; }
-    void MakeStyle(const std::string& name) {
+    void CreateStyle(const std::string& name) {
         user.Key('A', UserInput::kControl);
         user.InDialog([&] { user.Key('N', UserInput::kControl); },
                       [&](HWND) {
@@ -105,7 +105,7 @@ TEST_F(History, StepsDroppedByTheDatabaseRemoveOlderOnes) {
 }
 
 TEST_F(History, UndoRestoresStylesWithTheirGraphics) {
-    MakeStyle("Walls");
+    CreateStyle("Walls");
     user.Key('A', UserInput::kControl);
     user.Key('E', UserInput::kControl);
     ASSERT_EQ(StylesOfGraphics(), "Walls:4 ");
@@ -122,7 +122,7 @@ TEST_F(History, UndoRestoresStylesWithTheirGraphics) {
 }
 
 TEST_F(History, StyleEditIsOneStepUnlessCanceled) {
-    MakeStyle("Walls");
+    CreateStyle("Walls");
     const auto edit = [&](const char* text, UINT end) {
         user.InDialog([&] { user.Key(VK_RETURN, UserInput::kControl); },
                       [&](HWND sheet) {

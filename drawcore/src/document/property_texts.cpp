@@ -129,7 +129,7 @@ double ReadNumber(const std::string& text) {
     return value;
 }
 
-uint32_t ReadWhole(const PropertyInfo& info, const std::string& text) {
+uint32_t ReadInteger(const PropertyInfo& info, const std::string& text) {
     if (info.meaning == PropertyMeaning::Color) return ReadColor(text, info.part == PropertyPart::Brush);
     if (info.meaning == PropertyMeaning::TextStyle) return ReadTextStyle(text);
     const std::vector<PropertyWord>& words = WordsOf(info.meaning);
@@ -203,7 +203,7 @@ struct PropertyForms {
     // A width in drawing units must be a number rather than a marker.
     static void SetSystem(const PropertyTexts& of, const PropertyInfo& info, const std::string& text,
                           Appearance& appearance) {
-        appearance.worldWidth = ReadWhole(info, text) == kScaleWorld;
+        appearance.worldWidth = ReadInteger(info, text) == kScaleWorld;
         const bool inherits = appearance.worldWidth && appearance.width < 0;
         if (inherits)
             appearance.width = appearance.width == kPenWidthByLayer
@@ -293,7 +293,7 @@ struct PropertyForms {
                 ThrowNotOneOf(text, "the blocks " + Listed(NamesOf(of.document_.blocks)));
             return SetText(appearance, info.name, text);
         }
-        SetNumber(appearance, info.name, info.IsReal() ? ReadReal(of, info, text) : ReadWhole(info, text));
+        SetNumber(appearance, info.name, info.IsReal() ? ReadReal(of, info, text) : ReadInteger(info, text));
     }
     static double ReadReal(const PropertyTexts& of, const PropertyInfo& info, const std::string& text) {
         if (info.meaning == PropertyMeaning::Angle) {

@@ -20,17 +20,17 @@ public:
     HatchParts(RecordReader& in, Hatch& hatch) : in_(in), hatch_(hatch) {}
 
     // Returns false if the code has no meaning for a hatch at this position.
-    bool Take(const Tag& tag) {
+    bool Read(const Tag& tag) {
         if (StartsPart(tag)) return true;
         switch (part_) {
         case Part::head:
-            return TakeHead(tag);
+            return ReadHead(tag);
         case Part::outline:
-            return TakeOutline(tag);
+            return ReadOutline(tag);
         case Part::edges:
-            return TakeEdge(tag);
+            return ReadEdge(tag);
         case Part::pattern:
-            return in_.SetField(kPattern, hatch_, tag) || TakePatternLine(tag);
+            return in_.SetField(kPattern, hatch_, tag) || ReadPatternLine(tag);
         case Part::seeds:
             return tag.code == 450 && ((hatch_.gradient = tag.Flag()), true);
         }
@@ -70,12 +70,12 @@ private:
         part_ = flags & kOutlineLoop ? Part::outline : Part::edges;
     }
 
-    bool TakeHead(const Tag& tag) {
+    bool ReadHead(const Tag& tag) {
         if (tag.code == 30) hatch_.elevation = in_.Real(tag);
         return tag.code == 10 || tag.code == 20 || tag.code == 30 || in_.SetField(kHead, hatch_, tag);
     }
 
-    bool TakeOutline(const Tag& tag) {
+    bool ReadOutline(const Tag& tag) {
         std::vector<Polyline::Vertex>& vertices = hatch_.loops.back().outline.vertices;
         if (tag.code == 10) vertices.emplace_back();
         if (vertices.empty()) return tag.code == 72 || tag.code == 73 || tag.code == 93;
@@ -84,7 +84,7 @@ private:
         return tag.code == 10 || tag.code == 20 || tag.code == 42;
     }
 
-    bool TakeEdge(const Tag& tag) {
+    bool ReadEdge(const Tag& tag) {
         using Kind = Hatch::Edge::Kind;
         std::vector<Hatch::Edge>& edges = hatch_.loops.back().edges;
         if (tag.code == 72) {
@@ -94,10 +94,10 @@ private:
             return true;
         }
         if (edges.empty()) return tag.code == 93;
-        return edges.back().kind == Kind::spline ? TakeSpline(edges.back().spline, tag) : TakeCurve(edges.back(), tag);
+        return edges.back().kind == Kind::spline ? ReadSpline(edges.back().spline, tag) : ReadCurve(edges.back(), tag);
     }
 
-    bool TakeCurve(Hatch::Edge& edge, const Tag& tag) {
+    bool ReadCurve(Hatch::Edge& edge, const Tag& tag) {
         switch (tag.code) {
         case 10:
         case 20:
@@ -124,7 +124,7 @@ private:
         }
     }
 
-    bool TakeSpline(Spline& spline, const Tag& tag) {
+    bool ReadSpline(Spline& spline, const Tag& tag) {
         switch (tag.code) {
         case 94:
             spline.degree = tag.Integer();
@@ -152,7 +152,7 @@ private:
         }
     }
 
-    bool TakePatternLine(const Tag& tag) {
+    bool ReadPatternLine(const Tag& tag) {
         if (tag.code == 53) hatch_.lines.emplace_back().angle = in_.Real(tag);
         if (hatch_.lines.empty()) return false;
         Hatch::PatternLine& line = hatch_.lines.back();
@@ -189,7 +189,7 @@ void EntityReader::ReadHatch(Entity& entity) {
     Hatch& hatch = *entity.shape.emplace<Boxed<Hatch>>(std::make_unique<Hatch>());
     HatchParts parts(in_, hatch);
     while (in_.NextTag())
-        if (!parts.Take(in_.tags.Current())) SetCommon(entity);
+        if (!parts.Read(in_.tags.Current())) SetCommon(entity);
     parts.Finish();
 }
 

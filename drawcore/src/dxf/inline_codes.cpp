@@ -33,14 +33,14 @@ public:
     }
 
 private:
-    char Take() {
+    char Next() {
         const char c = rest_[0];
         rest_.remove_prefix(1);
         return c;
     }
 
     // Returns the text up to the next semicolon and skips both.
-    std::string_view TakeArgument() {
+    std::string_view NextArgument() {
         const size_t length = std::min(rest_.find(';'), rest_.size());
         const std::string_view argument = rest_.substr(0, length);
         rest_.remove_prefix(std::min(length + 1, rest_.size()));
@@ -65,15 +65,15 @@ private:
             rest_.remove_prefix(length);
             return;
         }
-        const char c = Take();
+        const char c = Next();
         if (c == '\\' && !rest_.empty()) {
-            ReadCode(Take());
+            ReadCode(Next());
         } else if (c == '{') {
             OpenGroup();
         } else if (c == '}') {
             CloseGroup();
         } else if (c == '^' && !rest_.empty()) {
-            const char control = Take(); // ^I is a tab, ^J a line feed, "^ " a caret
+            const char control = Next(); // ^I is a tab, ^J a line feed, "^ " a caret
             if (control == 'I')
                 text_ += '\t';
             else if (control == 'J')
@@ -138,30 +138,30 @@ private:
             break;
         case 'F':
         case 'f':
-            ReadFont(TakeArgument());
+            ReadFont(NextArgument());
             break;
         case 'H':
-            ReadHeight(TakeArgument());
+            ReadHeight(NextArgument());
             break;
         case 'W':
-            ReadWidth(TakeArgument());
+            ReadWidth(NextArgument());
             break;
         case 'C':
-            ReadColor(TakeArgument());
+            ReadColor(NextArgument());
             break;
         case 'c':
-            ReadTrueColor(TakeArgument());
+            ReadTrueColor(NextArgument());
             break;
         case 'S':
-            ReadStack(TakeArgument());
+            ReadStack(NextArgument());
             break;
         case 'A':
         case 'Q':
         case 'T':
-            TakeArgument();
+            NextArgument();
             break;
         case 'p':
-            ReadParagraph(TakeArgument());
+            ReadParagraph(NextArgument());
             break;
         default:
             text_ += '\\', text_ += code;

@@ -25,7 +25,7 @@ public:
         if (raw == lastRaw_ && !objects_.empty()) return last_; // consecutive entities are often on the same layer
         const size_t known = objects_.size();
         last_ = FindUtf8(decoder_.Decode(raw));
-        if (last_ == known) Keep(raw, objects_[last_]);
+        if (last_ == known) SetStored(raw, objects_[last_]);
         lastRaw_ = raw;
         return last_;
     }
@@ -45,7 +45,7 @@ public:
             objects_.emplace_back();
         }
         objects_[at].name = decoder_.Decode(raw);
-        Keep(raw, objects_[at]);
+        SetStored(raw, objects_[at]);
         objects_[at].declared = true;
         return objects_[at];
     }
@@ -57,7 +57,7 @@ public:
 
 private:
     // Encoding may result in other bytes: a file may have names in a code page although its version requires UTF-8.
-    void Keep(std::string_view raw, Object& object) const {
+    void SetStored(std::string_view raw, Object& object) const {
         object.stored = decoder_.Encode(object.name) == raw ? std::string_view() : raw;
     }
 

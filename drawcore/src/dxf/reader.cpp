@@ -13,7 +13,7 @@ namespace dxf {
 
 namespace {
 
-void RefuseOtherFiles(std::string_view bytes) {
+void RejectOtherFormats(std::string_view bytes) {
     if (bytes.empty()) throw ReadError(0, "the file is empty");
     if (bytes.substr(0, 18) == "AutoCAD Binary DXF") throw ReadError(1, "binary DXF files are not supported");
     if (bytes.substr(0, 2) == "AC" && bytes.size() > 6 && bytes[6] == '\0')
@@ -188,7 +188,7 @@ std::string_view TextOf(std::string_view bytes) {
 }
 
 Document Read(std::string_view bytes, const Progress& progress) {
-    RefuseOtherFiles(bytes);
+    RejectOtherFormats(bytes);
     Document document = FileReader(TextOf(bytes), progress).Read();
     if (progress) progress(1000);
     return document;

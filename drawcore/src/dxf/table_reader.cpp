@@ -62,7 +62,7 @@ void ReadLineType(RecordReader& in) {
 }
 
 // Family and style of a TrueType face are in extended data of the application ACAD.
-void TakeTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
+void ReadTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
     constexpr int kBold = 0x2000000;
     constexpr int kItalic = 0x1000000;
     if (tag.code == 1001) own = tag.Is(1001, "ACAD");
@@ -88,7 +88,7 @@ void ReadTextStyle(RecordReader& in) {
         else if (tag.code == 71)
             read.backward = (tag.Integer() & 2) != 0, read.upsideDown = (tag.Integer() & 4) != 0;
         else if (!in.SetField(kFields, read, tag))
-            TakeTypeFace(read, tag, own, in);
+            ReadTypeFace(read, tag, own, in);
     }
     if (name.empty()) return; // a shape file for line types
     TextStyle& style = in.textStyles.Declare(name);

@@ -19,7 +19,7 @@ struct TextCodes {
     int vertical = 0;
     int attributeFlags = 0;
 
-    bool Take(const Tag& tag) {
+    bool Read(const Tag& tag) {
         if (tag.code == verticalCode)
             vertical = tag.Integer();
         else if (tag.code == 70)
@@ -58,7 +58,7 @@ void EntityReader::ReadText(Entity& entity) {
     TextCodes codes{73};
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
-        if (!in_.SetField(kText, text, tag) && !codes.Take(tag)) SetCommon(entity);
+        if (!in_.SetField(kText, text, tag) && !codes.Read(tag)) SetCommon(entity);
     }
     SetCodes(text, codes);
 }
@@ -70,7 +70,7 @@ void EntityReader::ReadAttribute(Entity& entity) {
     TextCodes codes{74};
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
-        if (!in_.SetField(kText, text, tag) && !in_.SetField(kTag, text, tag) && !codes.Take(tag)) SetCommon(entity);
+        if (!in_.SetField(kText, text, tag) && !in_.SetField(kTag, text, tag) && !codes.Read(tag)) SetCommon(entity);
     }
     SetCodes(text, codes);
     if (!isDefinition)

@@ -54,18 +54,18 @@ private:
             omitted_.Add(OmittedObjects::NameOfBlock(block.name), "the file format cannot store its style tree");
     }
 
-    bool IsLeftOut(const Graphic& graphic) const {
+    bool IsOmitted(const Graphic& graphic) const {
         return graphic.source == Graphic::kNoSource && omitted_.Has(graphic);
     }
 
     // Returns the next member that the file contains.
     size_t SkipOmitted(const Graphic& group, size_t index) const {
-        while (index < group.MemberCount() && IsLeftOut(*group.MemberAt(index)))
+        while (index < group.MemberCount() && IsOmitted(*group.MemberAt(index)))
             ++index;
         return index;
     }
 
-    bool StaysRemoved(const dxf::Entity& entity) const {
+    bool IsNotRemoved(const dxf::Entity& entity) const {
         return std::find(notRemoved_.begin(), notRemoved_.end(), entity.offset) != notRemoved_.end();
     }
 
@@ -74,7 +74,7 @@ private:
         for (size_t i = 0; i < entities.size(); ++i) {
             const dxf::Entity& entity = entities[i];
             Advance(entity.offset);
-            if ((!inBlock && entity.inPaperSpace) || StaysRemoved(entity)) continue;
+            if ((!inBlock && entity.inPaperSpace) || IsNotRemoved(entity)) continue;
             const size_t end = i + 1 < entities.size() ? entities[i + 1].offset : 0;
             if (index < saved.MemberCount() && IsAsBefore(*saved.MemberAt(index), entity.offset, end)) {
                 SetSources(*saved.MemberAt(index), entity.offset);

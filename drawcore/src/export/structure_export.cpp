@@ -129,25 +129,25 @@ void StructureExport::AddMissing(const Graphic& group, const dxf::Block* block) 
     for (size_t i = 0; i < group.MemberCount(); ++i) {
         const Graphic& graphic = *group.MemberAt(i);
         if (!IsNew(graphic))
-            Keep(graphic);
+            RetainGraphic(graphic);
         else if (!omitted_.Has(graphic))
             omitted_.RunOrOmit(graphic, [&] { added_.emplace(&graphic, patch_.Add(EntityOf(graphic), block)); });
     }
 }
 
-// Keeps a graphic that is in the file with all its members.
-void StructureExport::Keep(const Graphic& graphic) {
+// Retains a graphic that is in the file, with all its members.
+void StructureExport::RetainGraphic(const Graphic& graphic) {
     if (IsNew(graphic)) return omitted_.Add(graphic, "added attributes cannot be saved");
-    kept_.push_back(graphic.source);
+    retained_.push_back(graphic.source);
     for (size_t i = 0; i < graphic.MemberCount(); ++i)
-        Keep(*graphic.MemberAt(i));
+        RetainGraphic(*graphic.MemberAt(i));
 }
 
 void StructureExport::RemoveOthers() {
-    std::sort(kept_.begin(), kept_.end());
+    std::sort(retained_.begin(), retained_.end());
     std::vector<uint32_t> others;
     const std::vector<uint32_t>& all = drawing_.source->graphics;
-    std::set_difference(all.begin(), all.end(), kept_.begin(), kept_.end(), std::back_inserter(others));
+    std::set_difference(all.begin(), all.end(), retained_.begin(), retained_.end(), std::back_inserter(others));
     for (const uint32_t offset : others) {
         const auto holds = [offset](const auto& range) { return range.first < offset && offset < range.second; };
         if (omitted_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), holds))

@@ -37,7 +37,7 @@ private:
     void CheckGroup(const std::string& name, const Graphic& group);
     void WriteTree(const Block& block, const dxf::Block& known);
     void AddMissing(const Graphic& group, const dxf::Block* block);
-    void Keep(const Graphic& graphic);
+    void RetainGraphic(const Graphic& graphic);
     void RemoveOthers();
     dxf::Entity EntityOf(const Graphic& graphic);
 
@@ -46,7 +46,7 @@ private:
     OmittedObjects& omitted_;
     std::map<std::string, dxf::Block> inFile_; // by case-folded name in the drawing
     std::unordered_map<const Graphic*, size_t> added_;
-    std::vector<uint32_t> kept_;
+    std::vector<uint32_t> retained_;
     std::vector<std::pair<uint32_t, uint32_t>> removed_; // begin and end of blocks
 };
 

@@ -11,7 +11,7 @@ namespace drawcore {
 
 DrawingContents::DrawingContents()
     : DrawingStruct{}, undo_(std::make_unique<UndoLog>()), root_(std::make_unique<DrawingRoot>()) {
-    Live<DrawingStruct>::Enter(this);
+    Live<DrawingStruct>::Add(this);
     AddTable(kTableLayers, std::make_unique<LayerTable>(this));
     AddTable(kTableLineStyles, std::make_unique<LineStyleTable>(this));
     AddTable(kTableBrushStyles, std::make_unique<BrushStyleTable>(this));
@@ -25,7 +25,7 @@ DrawingContents::DrawingContents()
 }
 
 DrawingContents::~DrawingContents() {
-    Live<DrawingStruct>::Leave(this);
+    Live<DrawingStruct>::Remove(this);
 }
 
 DrawingContents* DrawingContents::Find(DrawingStruct* drawing) {

@@ -247,7 +247,7 @@ bool ReadInteger(int vt, const void* in, int64_t& value) {
     }
 }
 
-bool GiveReal(int vt, void* out, double value) {
+bool StoreReal(int vt, void* out, double value) {
     if (vt == VT_R8)
         *static_cast<double*>(out) = value;
     else if (vt == VT_R4 && std::fabs(value) <= std::numeric_limits<float>::max())
@@ -257,7 +257,7 @@ bool GiveReal(int vt, void* out, double value) {
     return true;
 }
 
-bool TakeReal(int vt, const void* in, double& value) {
+bool ReadReal(int vt, const void* in, double& value) {
     if (vt == VT_R8)
         value = *static_cast<const double*>(in);
     else if (vt == VT_R4)
@@ -267,7 +267,7 @@ bool TakeReal(int vt, const void* in, double& value) {
     return true;
 }
 
-bool GiveText(int vt, void* out, const char* text) {
+bool StoreText(int vt, void* out, const char* text) {
     if (vt != VT_BSTR) return false;
     char** variable = static_cast<char**>(out);
     const size_t size = std::strlen(text) + 1;
@@ -317,8 +317,8 @@ int Get(GraphicStruct* record, int32_t number, int vt, void* out) {
     const Property& property = kProperties[number];
     const Graphic& graphic = *Graphic::From(record);
     if (property.integer.get) return StoreInteger(vt, out, property.integer.get(graphic));
-    if (property.real.get) return GiveReal(vt, out, property.real.get(graphic));
-    return GiveText(vt, out, property.text.get(graphic));
+    if (property.real.get) return StoreReal(vt, out, property.real.get(graphic));
+    return StoreText(vt, out, property.text.get(graphic));
 }
 
 template <uint8_t owner>
@@ -335,7 +335,7 @@ int Set(GraphicStruct* record, int32_t number, int vt, const void* in) {
     }
     if (property.real.get) {
         double value;
-        return TakeReal(vt, in, value) && Accepts(*info, value) ? Put(graphic, *info, property.real, value) : 0;
+        return ReadReal(vt, in, value) && Accepts(*info, value) ? Put(graphic, *info, property.real, value) : 0;
     }
     return vt == VT_BSTR ? Put(graphic, *info, property.text, static_cast<const char*>(in)) : 0;
 }

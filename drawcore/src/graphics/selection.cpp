@@ -23,25 +23,25 @@ std::unique_ptr<Graphic> Selection::Copy() const {
 }
 
 bool Selection::Include(Graphic* graphic) {
-    if (!graphic || !places_.emplace(graphic, members_.size()).second) return false;
+    if (!graphic || !indices_.emplace(graphic, members_.size()).second) return false;
     members_.push_back(graphic);
     return true;
 }
 
 bool Selection::Exclude(Graphic* graphic) {
-    const auto found = places_.find(graphic);
-    if (found == places_.end()) return false;
+    const auto found = indices_.find(graphic);
+    if (found == indices_.end()) return false;
     const size_t index = found->second;
-    places_.erase(found);
+    indices_.erase(found);
     members_.erase(members_.begin() + static_cast<std::ptrdiff_t>(index));
     for (size_t i = index; i < members_.size(); ++i)
-        places_[members_[i]] = i;
+        indices_[members_[i]] = i;
     return true;
 }
 
 void Selection::Clear() {
     members_.clear();
-    places_.clear();
+    indices_.clear();
 }
 
 } // namespace drawcore

@@ -21,7 +21,7 @@ public:
     size_t MemberCount() const override { return members_.size(); }
     Graphic* MemberAt(size_t index) const override { return members_[index]; }
 
-    bool Contains(Graphic* graphic) const { return places_.count(graphic) != 0; }
+    bool Contains(Graphic* graphic) const { return indices_.count(graphic) != 0; }
     bool Include(Graphic* graphic); // at the end; returns false if it is already a member
     bool Exclude(Graphic* graphic); // keeps the order of the others
     void Clear();
@@ -31,7 +31,7 @@ protected:
 
 private:
     std::vector<Graphic*> members_;
-    std::unordered_map<Graphic*, size_t> places_;
+    std::unordered_map<Graphic*, size_t> indices_;
 };
 
 } // namespace drawcore

@@ -60,7 +60,7 @@ int UndoLog::Step::Restore() const {
 }
 
 // Many graphics share an appearance, so one just seen is found with a single comparison.
-const Appearance* UndoLog::Step::Take(const Graphic& graphic) {
+const Appearance* UndoLog::Step::StoreAppearance(const Graphic& graphic) {
     const size_t key = (graphic.GetPen().color * 5 + graphic.layer) * 3 + static_cast<size_t>(graphic.GetKind());
     const Appearance*& appearance = recent[key % recent.size()];
     if (!appearance || appearance->lastPage != graphic.wLastPage || !graphic.HasAppearance(*appearance))
@@ -69,7 +69,7 @@ const Appearance* UndoLog::Step::Take(const Graphic& graphic) {
 }
 
 void UndoLog::Step::Add(Graphic& graphic) {
-    saved.push_back({&graphic, Take(graphic), nullptr});
+    saved.push_back({&graphic, StoreAppearance(graphic), nullptr});
     sorted = false;
 }
 

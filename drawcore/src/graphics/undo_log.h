@@ -61,7 +61,7 @@ private:
 
         Saved* Find(const Graphic& graphic);
         void Add(Graphic& graphic);
-        const Appearance* Take(const Graphic& graphic);
+        const Appearance* StoreAppearance(const Graphic& graphic);
         void Forget(const Graphic& graphic);
         void Close();
         Step CurrentState() const; // the current state of the same graphics

@@ -27,9 +27,9 @@ public:
         Set(p);
     }
     Vertex(const Vertex& other) : Vertex() { *this = other; }
-    Vertex(Vertex&& other) noexcept : VertexStruct(other) { other.Keep({}); }
+    Vertex(Vertex&& other) noexcept : VertexStruct(other) { other.SetHostPart({}); }
     Vertex& operator=(const Vertex& other);
-    ~Vertex() { delete Kept().segment; }
+    ~Vertex() { delete GetHostPart().segment; }
 
     static Vertex* From(VertexStruct* vertex) { return static_cast<Vertex*>(vertex); }
 
@@ -40,13 +40,13 @@ public:
         z = p.z;
     }
 
-    Segment Next() const { return Kept().segment ? *Kept().segment : Segment{}; }
+    Segment Next() const { return GetHostPart().segment ? *GetHostPart().segment : Segment{}; }
     void SetNext(const Segment& segment);
 
     // Returns the graphic that the vertex belongs to, set when the vertex is passed to a caller: writing to it then
     // changes the graphic. Copies belong to none.
-    Graphic* Owner() const { return Kept().owner; }
-    void SetOwner(Graphic* owner) { Keep({Kept().segment, owner}); }
+    Graphic* Owner() const { return GetHostPart().owner; }
+    void SetOwner(Graphic* owner) { SetHostPart({GetHostPart().segment, owner}); }
 
 private:
     // Stored in the record's bytes that belong to the host.
@@ -56,12 +56,12 @@ private:
     };
     static_assert(sizeof(HostPart) <= sizeof VertexStruct::host6);
 
-    HostPart Kept() const {
+    HostPart GetHostPart() const {
         HostPart part;
         std::memcpy(&part, host6, sizeof part);
         return part;
     }
-    void Keep(const HostPart& part) { std::memcpy(host6, &part, sizeof part); }
+    void SetHostPart(const HostPart& part) { std::memcpy(host6, &part, sizeof part); }
 };
 
 static_assert(sizeof(Vertex) == sizeof(VertexStruct));

@@ -21,8 +21,8 @@ Vertex& Vertex::operator=(const Vertex& other) {
 
 void Vertex::SetNext(const Segment& segment) {
     const Segment* stored = segment.IsPlain() ? nullptr : new Segment(segment);
-    delete Kept().segment;
-    Keep({stored, Kept().owner});
+    delete GetHostPart().segment;
+    SetHostPart({stored, GetHostPart().owner});
 }
 
 bool operator==(const Vertex& a, const Vertex& b) {

@@ -16,8 +16,8 @@ public:
         : document_(document), progress_(progress), drawing_(std::make_unique<Drawing>()),
           tables_(ImportTables(document, *drawing_)), entities_(document, tables_, *drawing_) {
         for (const dxf::Block& block : document.blocks)
-            whole_ += block.entities.size();
-        whole_ += document.entities.size();
+            total_ += block.entities.size();
+        total_ += document.entities.size();
     }
 
     std::unique_ptr<Drawing> Run() {
@@ -49,8 +49,8 @@ private:
     }
 
     void Advance() {
-        constexpr size_t kOften = 4096;
-        if (++done_ % kOften == 0 && progress_) progress_(dxf::Permille(done_, whole_));
+        constexpr size_t kInterval = 4096;
+        if (++done_ % kInterval == 0 && progress_) progress_(dxf::Permille(done_, total_));
     }
 
     dxf::Document& document_;
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<Drawing> drawing_;
     const ImportedTables tables_;
     EntityImport entities_;
-    size_t whole_ = 0, done_ = 0;
+    size_t total_ = 0, done_ = 0;
 };
 
 } // namespace

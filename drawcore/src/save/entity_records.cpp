@@ -243,7 +243,7 @@ std::string EntityRecords::BlockEndLines(const std::string& owner) {
 }
 
 std::string EntityRecords::Begin(Values& to, const Head& head, const std::string& owner) {
-    const std::string handle = tables_.HasHandles() ? tables_.TakeHandle() : std::string();
+    const std::string handle = tables_.HasHandles() ? tables_.AllocateHandle() : std::string();
     to.push_back({0, head.name});
     if (!handle.empty()) to.push_back({kHandle, handle});
     if (tables_.HasOwners() && !owner.empty()) to.push_back({kOwner, owner});
@@ -275,7 +275,7 @@ void EntityRecords::AppendVertices(Values& to, const Polyline& polyline, const s
         Put(to, 70, flat ? 0 : kSpatialVertex);
     }
     to.push_back({0, "SEQEND"});
-    if (tables_.HasHandles()) to.push_back({kHandle, tables_.TakeHandle()});
+    if (tables_.HasHandles()) to.push_back({kHandle, tables_.AllocateHandle()});
     if (tables_.HasOwners() && !owner.empty()) to.push_back({kOwner, owner});
     Mark(to, "AcDbEntity");
     to.push_back({kLayer, "0"});

@@ -116,7 +116,7 @@ void TablePatch::Scan() {
         highest_ = std::max(highest_, *seed - 1);
 }
 
-std::string TablePatch::TakeHandle() {
+std::string TablePatch::AllocateHandle() {
     constexpr uint64_t kLast = UINT64_MAX - 1; // so that the following one is valid too
     if (highest_ >= kLast) throw SaveError("the drawing has no unused handles");
     handleTaken_ = true;
@@ -169,7 +169,7 @@ TablePatch::Table& TablePatch::RequireTable(const char* name) {
         throw SaveError(std::string("table ") + name + " has no end; nothing can be added to it");
     if (table.head != 0 || table.isNew) return table;
     table.isNew = true;
-    if (HasMarkers()) table.handle = TakeHandle();
+    if (HasMarkers()) table.handle = AllocateHandle();
     return table;
 }
 
@@ -192,7 +192,7 @@ std::string TablePatch::Add(const char* name, const char* marker, const Values& 
     if (table.sample) sample.emplace(patch_, tags, *table.sample);
     Values record = {{0, name}};
     std::string handle;
-    if (sample ? sample->Find(kHandle) != nullptr : HasMarkers()) handle = TakeHandle();
+    if (sample ? sample->Find(kHandle) != nullptr : HasMarkers()) handle = AllocateHandle();
     if (!handle.empty()) record.push_back({kHandle, handle});
     const bool owned = sample ? sample->Find(kOwner) != nullptr : HasOwners();
     if (owned && !table.handle.empty()) record.push_back({kOwner, table.handle});

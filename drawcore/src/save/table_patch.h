@@ -40,7 +40,7 @@ public:
     bool HasMarkers() const { return version_ >= "AC1012"; }
     bool HasOwners() const { return version_ >= "AC1015"; }
     bool HasHandles();
-    std::string TakeHandle();
+    std::string AllocateHandle();
     const TextDecoder& Decoder() const { return decoder_; }
     using Values = std::vector<RecordPatch::Value>;
     std::string LinesOf(const Values& values);

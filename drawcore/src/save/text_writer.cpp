@@ -96,11 +96,11 @@ void AppearanceWriter::PutFace(Text& text, const FontFace& face) {
 
 // The insertion point does not move.
 void AppearanceWriter::PutFormat(Text& text, uint16_t format) {
-    const Vec3 position = HangsOnInsertion(text) ? text.insertion : text.alignment;
+    const Vec3 position = IsPlacedByInsertion(text) ? text.insertion : text.alignment;
     constexpr Text::Horizontal kFormats[] = {Text::Horizontal::left, Text::Horizontal::center, Text::Horizontal::right};
     if (text.horizontal == Text::Horizontal::middle) text.vertical = Text::Vertical::middle;
     text.horizontal = kFormats[format];
-    (HangsOnInsertion(text) ? text.insertion : text.alignment) = position;
+    (IsPlacedByInsertion(text) ? text.insertion : text.alignment) = position;
 }
 
 namespace {
@@ -167,7 +167,7 @@ void AppearanceWriter::Move(const Matrix& motion) {
     Matrix back;
     if (!ObjectSystem(entity_.normal).Invert(back)) return;
     text.insertion = back.Apply(insertion);
-    const bool isInUse = !HangsOnInsertion(text) || record_.Find(11);
+    const bool isInUse = !IsPlacedByInsertion(text) || record_.Find(11);
     if (isInUse) text.alignment = back.Apply(alignment);
     along = back.Turn(along);
     rise = back.Turn(rise);

@@ -9,8 +9,8 @@ namespace drawcore {
 template <class Object>
 class Live {
 public:
-    static void Enter(const Object* object) { Set().insert(object); }
-    static void Leave(const Object* object) { Set().erase(object); }
+    static void Add(const Object* object) { Set().insert(object); }
+    static void Remove(const Object* object) { Set().erase(object); }
     static bool Has(const Object* object) { return object && Set().count(object) != 0; }
     static size_t Count() { return Set().size(); }
 

@@ -27,11 +27,11 @@ private:
 TableEntry::~TableEntry() = default;
 
 Table::Table(DrawingStruct* owner) : owner_(owner) {
-    Live<TableStruct>::Enter(this);
+    Live<TableStruct>::Add(this);
 }
 
 Table::~Table() {
-    Live<TableStruct>::Leave(this);
+    Live<TableStruct>::Remove(this);
 }
 
 Table* Table::Find(TableStruct* table) {

@@ -53,7 +53,7 @@ public:
         do {
             double number = 0;
             if (!cursor.Mixed(number)) return false;
-            const std::string_view name = cursor.TakeUnit();
+            const std::string_view name = cursor.ConsumeUnit();
             if (name.empty() && !before) {
                 angle = {number, false};
                 return true;

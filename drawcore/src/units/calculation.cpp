@@ -25,7 +25,7 @@ public:
         for (;;) {
             const TextCursor before = cursor_;
             Quantity next;
-            const char sign = cursor_.TakeOperator('+', '-');
+            const char sign = cursor_.ConsumeOperator('+', '-');
             if (sign && Product(next) && Add(result, next, sign == '-' ? -1 : 1)) continue;
             cursor_ = before;
             return true;
@@ -38,7 +38,7 @@ private:
         for (;;) {
             const TextCursor before = cursor_;
             Quantity next;
-            const char sign = cursor_.TakeOperator('*', '/');
+            const char sign = cursor_.ConsumeOperator('*', '/');
             if (sign == '*' && Factor(next, false) && Multiply(result, next)) continue;
             if (sign == '/' && Factor(next, true) && Divide(result, next)) continue;
             cursor_ = before;
@@ -49,8 +49,8 @@ private:
     // A divisor is not parsed as a fraction, because "8/4/2" would become 8 / (4/2).
     bool Factor(Quantity& result, bool divisor) {
         const TextCursor before = cursor_;
-        const bool negative = cursor_.TakeMinus();
-        if (cursor_.Take('(') ? Bracket(result) : divisor ? cursor_.Number(result.value) : One(result)) {
+        const bool negative = cursor_.ConsumeMinus();
+        if (cursor_.Consume('(') ? Bracket(result) : divisor ? cursor_.Number(result.value) : One(result)) {
             if (negative) result.value = -result.value;
             return true;
         }
@@ -67,12 +67,12 @@ private:
         const bool read = Sum(result);
         --depth_;
         cursor_.SkipBlanks();
-        return read && cursor_.Take(')') && (!measure_ || result.measured || UnitOfBracket(result));
+        return read && cursor_.Consume(')') && (!measure_ || result.measured || UnitOfBracket(result));
     }
 
     bool UnitOfBracket(Quantity& result) {
         const TextCursor before = cursor_;
-        const std::string_view name = cursor_.TakeUnit();
+        const std::string_view name = cursor_.ConsumeUnit();
         const double unit = measure_->Unit(name);
         if (unit) return Set(result, {result.value * unit, true});
         cursor_ = before;
@@ -114,7 +114,7 @@ private:
 // Parses a single number of the measure.
 bool ReadLiteral(TextCursor cursor, const Measure& measure, double& value) {
     Quantity one;
-    const bool negative = cursor.TakeMinus();
+    const bool negative = cursor.ConsumeMinus();
     if (!measure.ReadOne(cursor, one) || !cursor.AtEnd()) return false;
     const double size = one.measured ? one.value : one.value * measure.Bare();
     value = negative ? -size : size;
@@ -132,7 +132,7 @@ bool ReadWithoutUnit(TextCursor cursor, const Measure& measure, double& value) {
 bool ReadWithLastUnit(TextCursor cursor, const Measure& measure, double& value) {
     double number = 0;
     if (!ReadCalculation(cursor, number)) return false;
-    const double unit = measure.Unit(cursor.TakeUnit());
+    const double unit = measure.Unit(cursor.ConsumeUnit());
     value = number * unit;
     return unit != 0 && cursor.AtEnd();
 }
@@ -162,7 +162,7 @@ bool HasJoinedFraction(std::string_view text) {
 
 bool ReadCalculation(TextCursor& cursor, double& value) {
     TextCursor literal = cursor;
-    const bool negative = literal.TakeMinus();
+    const bool negative = literal.ConsumeMinus();
     double number = 0;
     if (literal.JoinedNumber(number) && TextCursor(literal).AtEnd()) {
         cursor = literal;

@@ -34,7 +34,7 @@ private:
     // which is more likely a typo for 1'-6" than a difference.
     bool ReadInches(TextCursor& cursor, double& feet) const {
         const TextCursor before = cursor;
-        const bool joined = cursor.Take('-');
+        const bool joined = cursor.Consume('-');
         if (!joined) cursor.SkipBlanks();
         Quantity inches;
         std::string_view name;
@@ -51,7 +51,7 @@ private:
     bool ReadPart(TextCursor& cursor, Quantity& part, std::string_view& name) const {
         double number = 0;
         if (!cursor.JoinedNumber(number)) return false;
-        name = cursor.TakeUnit();
+        name = cursor.ConsumeUnit();
         part = {number, false};
         if (name.empty()) return true;
         part = {number * Unit(name), true};

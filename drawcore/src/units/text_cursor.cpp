@@ -26,22 +26,22 @@ bool TextCursor::AtEnd() {
     return at_ == text_.size();
 }
 
-bool TextCursor::Take(char c) {
+bool TextCursor::Consume(char c) {
     const bool there = at_ < text_.size() && Lower(text_[at_]) == Lower(c);
     at_ += there;
     return there;
 }
 
-bool TextCursor::TakeMinus() {
-    const bool minus = Take('-');
-    if (!minus) Take('+');
+bool TextCursor::ConsumeMinus() {
+    const bool minus = Consume('-');
+    if (!minus) Consume('+');
     return minus;
 }
 
-char TextCursor::TakeOperator(char one, char other) {
+char TextCursor::ConsumeOperator(char one, char other) {
     const size_t begin = at_;
     SkipBlanks();
-    const char found = Take(one) ? one : Take(other) ? other : '\0';
+    const char found = Consume(one) ? one : Consume(other) ? other : '\0';
     SkipBlanks();
     const bool doubled = (found == '+' || found == '-') && Next() == found;
     if (found && !doubled) return found;
@@ -49,16 +49,16 @@ char TextCursor::TakeOperator(char one, char other) {
     return '\0';
 }
 
-std::string_view TextCursor::TakeWord() {
+std::string_view TextCursor::ConsumeWord() {
     const size_t begin = at_;
     while (at_ < text_.size() && IsWordCharacter(text_[at_]))
         ++at_;
     return text_.substr(begin, at_ - begin);
 }
 
-std::string_view TextCursor::TakeUnit() {
+std::string_view TextCursor::ConsumeUnit() {
     SkipBlanks();
-    return TakeWord();
+    return ConsumeWord();
 }
 
 bool TextCursor::NumberFollows() {
@@ -82,7 +82,7 @@ bool TextCursor::ReadInteger(double& value) {
 bool TextCursor::Fraction(double& value) {
     const size_t begin = at_;
     double over = 0, under = 0;
-    if (ReadInteger(over) && Take('/') && ReadInteger(under) && under > 0) {
+    if (ReadInteger(over) && Consume('/') && ReadInteger(under) && under > 0) {
         value = over / under;
         return true;
     }
@@ -113,7 +113,7 @@ bool TextCursor::Mixed(double& value) {
 }
 
 bool TextCursor::JoinedNumber(double& value) {
-    return WholeAndFraction(value, [this] { return Take('-'); }) || Mixed(value);
+    return WholeAndFraction(value, [this] { return Consume('-'); }) || Mixed(value);
 }
 
 } // namespace drawcore

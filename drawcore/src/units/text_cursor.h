@@ -14,17 +14,17 @@ public:
     bool AtEnd(); // ignoring blanks
     std::string_view Rest() const { return text_.substr(at_); }
     void SkipBlanks();
-    // Takes the character if it comes next, ignoring case.
-    bool Take(char c);
-    // Takes an optional sign. Returns true for a minus.
-    bool TakeMinus();
-    // Takes one of the two operators, which blanks may surround, and returns it. Returns 0 and takes nothing if neither
-    // comes next or a sign follows a sign.
-    char TakeOperator(char one, char other);
-    // Takes the longest run of letters, foot and inch signs and non-ASCII characters, which may be empty.
-    std::string_view TakeWord();
+    // Consumes the character if it comes next, ignoring case.
+    bool Consume(char c);
+    // Consumes an optional sign. Returns true for a minus.
+    bool ConsumeMinus();
+    // Consumes one of the two operators, which blanks may surround, and returns it. Returns 0 and consumes nothing if
+    // neither comes next or a sign follows a sign.
+    char ConsumeOperator(char one, char other);
+    // Consumes the longest run of letters, foot and inch signs and non-ASCII characters, which may be empty.
+    std::string_view ConsumeWord();
     // Does the same after skipping blanks.
-    std::string_view TakeUnit();
+    std::string_view ConsumeUnit();
 
     bool Number(double& value);
     bool NumberFollows(); // after skipping blanks

@@ -9,7 +9,7 @@ namespace {
 
 // Returns whether the drawing uses feet and inches: engineering and architectural lengths imply inches unless the
 // header declares another unit.
-bool CountsInFeet(const dxf::Header& header) {
+bool HasFeetAndInches(const dxf::Header& header) {
     return header.lengthFormat == 3 || header.lengthFormat == 4;
 }
 
@@ -20,7 +20,7 @@ UnitSettings UnitsOf(const dxf::Header& header) {
     UnitSettings settings;
     if (unit)
         settings.drawingUnit = unit->name;
-    else if (header.metric == 0 || CountsInFeet(header))
+    else if (header.metric == 0 || HasFeetAndInches(header))
         settings.drawingUnit = "in";
     const bool imperial = settings.drawingUnit == "in" || settings.drawingUnit == "ft";
     if (imperial) settings.textSizeUnit = settings.penWidthUnit = "in";
