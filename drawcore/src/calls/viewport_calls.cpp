@@ -67,7 +67,7 @@ int GraphicDrawTimed(GraphicStruct* graphic, ViewportStruct* viewport, uint32_t*
     if (!graphic || !viewport || !position) return 1;
     Viewport& view = *Viewport::From(viewport);
     const auto end = PaintClock::now() + std::chrono::milliseconds(milliseconds);
-    if (!PaintUntil(end, *Graphic::From(graphic), view, *place, {}, SettingsOf(view, false), false)) return 0;
+    if (!PaintUntil(end, *Graphic::From(graphic), view, *position, {}, SettingsOf(view, false), false)) return 0;
     view.painting = {};
     graphic->dwFlags &= ~kFlagDirty;
     return 1;

@@ -98,10 +98,10 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     const std::optional<AxisEnds> ends = edit.EndsOf(entity);
     const bool isMoved = edit.Moves(entity);
     if (appearance == was && !edit.text && !ends && !isMoved) return false;
-    EntityPlace place;
-    if (ends) place.ends = &*ends;
-    if (isMoved) place.position = &*edit.position;
-    if (edit.text) place.text = &*edit.text;
+    EntityChange entityChange;
+    if (ends) entityChange.ends = &*ends;
+    if (isMoved) entityChange.position = &*edit.position;
+    if (edit.text) entityChange.text = &*edit.text;
     try {
         patch.Change(entity.offset, appearance, entityChange);
     } catch (const SaveError& error) {

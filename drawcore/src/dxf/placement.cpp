@@ -21,7 +21,7 @@ Matrix ObjectSystem(const Vec3& normal) {
     return Matrix::FromAxes(x, Cross(z, x), z, {});
 }
 
-bool HangsOnInsertion(const Text& text) {
+bool IsPlacedByInsertion(const Text& text) {
     return text.horizontal == Text::Horizontal::left && text.vertical == Text::Vertical::baseline;
 }
 
@@ -46,7 +46,7 @@ struct PositionFinder {
     }
     Found operator()(const Boxed<Text>& text) const {
         if (text->role == Text::Role::attribute) return std::nullopt;
-        return InWorld(HangsOnInsertion(*text) ? text->insertion : text->alignment);
+        return InWorld(IsPlacedByInsertion(*text) ? text->insertion : text->alignment);
     }
     Found operator()(const Boxed<MText>& text) const { return text->insertion; }
     Found operator()(const Boxed<Insert>& insert) const {

@@ -25,7 +25,7 @@ Matrix PlacementOf(const Entity& entity);
 // by their insertions.
 std::optional<Vec3> PositionOf(const Entity& entity);
 // Returns whether the insertion point places the text, not the alignment point.
-bool HangsOnInsertion(const Text& text);
+bool IsPlacedByInsertion(const Text& text);
 // The origin of the placed block, and the end points of its axes.
 using AxisEnds = std::array<Vec3, 4>;
 AxisEnds AxisEndsOf(const Matrix& placement);

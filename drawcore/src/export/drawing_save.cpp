@@ -50,7 +50,7 @@ private:
             const bool isNew = graphic.source == Graphic::kNoSource;
             if (isNew && !structure_.IsAdded(graphic)) continue;
             if ((graphic.touched || isNew) && !omitted_.Has(graphic))
-                omitted_.RunOrOmit(graphic, [&] { appearances_.Write(graphic, structure_.PlaceOf(graphic)); });
+                omitted_.RunOrOmit(graphic, [&] { appearances_.Write(graphic, structure_.OffsetOf(graphic)); });
             WriteMembers(graphic);
         }
     }

@@ -33,10 +33,10 @@ void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityC
         writer.Move(moved->second);
         moved_.erase(moved);
     }
-    if (place.ends) writer.Place(*place.ends);
-    if (place.position) writer.MoveTo(*place.position);
-    if (place.vertices) writer.MoveVertices(*place.vertices);
-    if (place.text) writer.PutContents(*place.text);
+    if (change.ends) writer.Place(*change.ends);
+    if (change.position) writer.MoveTo(*change.position);
+    if (change.vertices) writer.MoveVertices(*change.vertices);
+    if (change.text) writer.PutContents(*change.text);
     writer.Write(wanted);
 }
 

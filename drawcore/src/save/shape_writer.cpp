@@ -41,7 +41,7 @@ void AppearanceWriter::MoveTo(const Vec3& position) {
     const auto movedInObject = [&](const Vec3& point) { return back.Apply(moved(system.Apply(point))); };
     std::vector<Vec3> vertices = VerticesInWorld(entity_);
     if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) {
-        const bool usesAlignment = !HangsOnInsertion(**text) || record_.Find(11);
+        const bool usesAlignment = !IsPlacedByInsertion(**text) || record_.Find(11);
         (*text)->insertion = movedInObject((*text)->insertion);
         if (usesAlignment) (*text)->alignment = movedInObject((*text)->alignment);
     } else if (!vertices.empty()) {
