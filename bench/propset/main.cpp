@@ -1,5 +1,5 @@
 // bench_propset [NAME...]: measures property sets natively: real streams against libgsf and against copying their
-// bytes, growth with the size of the set, allocations per value, suminfo against gsf. Without a name: all.
+// bytes, growth with the size of the set, allocations per value, suminfo against gsf; dxfprops. Without a name: all.
 
 #include "bench/chosen_benches.h"
 #include "bench/propset/propset_bench.h"

@@ -56,7 +56,7 @@ public:
     std::vector<Difference::Value> Compare(const dxf::EntityRef& one, const dxf::EntityRef& other) const {
         std::vector<Difference::Value> values;
         if (!before_.IsLike(one, after_, other)) AddValues(one, other, Compared::properties, values);
-        if (compared_ == Compared::properties) return values;
+        if (compared_ == Compared::properties || before_.IsStoredLike(one, after_, other)) return values;
         const size_t properties = values.size();
         AddValues(one, other, Compared::all, values);
         std::set<std::string> reported;

@@ -54,7 +54,8 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output, boo
 
 std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) const {
     std::vector<dxf::EntityRef> found;
-    const auto add = [&found](const std::vector<dxf::EntityRef>& some) {
+    const auto add = [&found](std::vector<dxf::EntityRef> some) {
+        if (found.empty()) return found.swap(some); // not twice in memory
         found.insert(found.end(), some.begin(), some.end());
     };
     constexpr char kBlockIs[] = "block=";

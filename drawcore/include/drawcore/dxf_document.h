@@ -159,6 +159,8 @@ public:
     // Returns the coordinates, lengths and texts of the entity as stored, for comparison: two entities with the same
     // shape have equal ones.
     std::vector<std::string> ShapeOf(const EntityRef& entity) const;
+    // Returns whether the entities are stored alike, byte for byte. Shape, texts and positions are the same then.
+    bool IsStoredLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
     // Returns left, bottom, right and top in its own space, or nullopt if nothing of it is visible.
     std::optional<std::array<double, 4>> BoxOf(const EntityRef& entity) const;
     // Returns the insertion that an attribute belongs to, or nullopt for other entities.
@@ -172,7 +174,7 @@ private:
     std::string_view Text() const;
     void AddEntities(const Block* block, std::vector<EntityRef>& to, Space space = Space::model) const;
 
-    const std::string bytes_;
+    std::string bytes_;
     const std::unique_ptr<const Document> document_;
     const std::unique_ptr<const PropertyTexts> texts_;
     const std::unique_ptr<const EntityTexts> entityTexts_;

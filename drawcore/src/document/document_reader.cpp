@@ -54,9 +54,11 @@ Contents DocumentReader::GetContents() const {
 
 void DocumentReader::AddEntities(const Block* block, std::vector<EntityRef>& to, Space space) const {
     const auto add = [&](const Entity& entity, const Entity* insertion) {
-        if (PropertyTexts::Has(entity, kPropLayer)) to.push_back({entity, block, insertion});
+        if (PropertyTexts::HasAny(entity)) to.push_back({entity, block, insertion});
     };
-    for (const Entity& entity : block ? block->entities : document_->entities) {
+    const std::vector<Entity>& entities = block ? block->entities : document_->entities;
+    if (to.empty()) to.reserve(entities.size());
+    for (const Entity& entity : entities) {
         if (!block && entity.inPaperSpace != (space == Space::paper)) continue;
         add(entity, nullptr);
         if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
@@ -211,19 +213,36 @@ std::string Comparable(const Tag& tag) {
     return std::to_string(tag.code) + " " + (isNumber ? std::to_string(number) : std::string(text));
 }
 
-} // namespace
-
-std::vector<std::string> DocumentReader::ShapeOf(const EntityRef& entity) const {
+// Calls visit for each group of the entity and its vertices, and returns the offset of the end.
+template <class Visit>
+size_t VisitRecord(std::string_view text, const Entity& entity, const Visit& visit) {
     const Progress silent;
-    TagReader tags(Text(), silent);
-    std::vector<std::string> shape;
-    const Tag* tag = &tags.Seek(entity.entity_->offset);
+    TagReader tags(text, silent);
+    const Tag* tag = &tags.Seek(entity.offset);
     const bool hasVertices = tag->Is(0, "POLYLINE");
     for (tag = &tags.Next();; tag = &tags.Next()) {
         const bool goesOn = hasVertices && tag->Is(0, "VERTEX");
-        if (tag->StartsRecord() && !goesOn) return shape;
-        if (IsOfShape(tag->code)) shape.push_back(Comparable(*tag));
+        if (tag->StartsRecord() && !goesOn) return tag->offset;
+        visit(*tag);
     }
+}
+
+} // namespace
+
+std::vector<std::string> DocumentReader::ShapeOf(const EntityRef& entity) const {
+    std::vector<std::string> shape;
+    VisitRecord(Text(), *entity.entity_, [&shape](const Tag& tag) {
+        if (IsOfShape(tag.code)) shape.push_back(Comparable(tag));
+    });
+    return shape;
+}
+
+bool DocumentReader::IsStoredLike(const EntityRef& entity, const DocumentReader& other,
+                                  const EntityRef& otherEntity) const {
+    const size_t begin = entity.entity_->offset, at = otherEntity.entity_->offset;
+    const size_t size = VisitRecord(Text(), *entity.entity_, [](const Tag&) {}) - begin;
+    return Text().substr(begin, size) == other.Text().substr(at, size) &&
+           VisitRecord(other.Text(), *otherEntity.entity_, [](const Tag&) {}) - at == size;
 }
 
 } // namespace dxf

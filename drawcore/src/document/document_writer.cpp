@@ -256,9 +256,11 @@ void DocumentWriter::Parts::RequireAppearance(const EntityRef& entity, const App
 
 std::string DocumentWriter::Finish() {
     const std::string& bytes = parts_->reader.Bytes();
-    DocumentReader after(bytes.substr(0, bytes.size() - parts_->reader.Text().size()) + parts_->patch.Finish());
+    std::string changed = parts_->patch.Finish();
+    changed.insert(0, bytes, 0, bytes.size() - parts_->reader.Text().size()); // the byte order mark
+    DocumentReader after(std::move(changed));
     parts_->RequireRequestedValues(after);
-    return after.Bytes();
+    return std::move(after.bytes_);
 }
 
 } // namespace dxf

@@ -117,7 +117,7 @@ constexpr Row kRows[] = {
 
 const Row* Find(std::string_view name) {
     for (const Row& row : kRows)
-        if (IsSameName(row.name, name)) return &row;
+        if (row.name.size() == name.size() && IsSameName(row.name, name)) return &row;
     return nullptr;
 }
 

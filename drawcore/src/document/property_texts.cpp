@@ -334,8 +334,9 @@ const PropertyInfo& InfoOf(std::string_view name) {
             names.emplace_back(info.name);
         return names;
     }();
-    const auto found =
-        std::find_if(kNames.begin(), kNames.end(), [name](std::string_view known) { return IsSameName(known, name); });
+    auto found = std::find(kNames.begin(), kNames.end(), name); // as most callers write it
+    if (found == kNames.end())
+        found = std::find_if(kNames.begin(), kNames.end(), [&](auto known) { return IsSameName(known, name); });
     return kPropertyList[found - kNames.begin()];
 }
 
@@ -386,9 +387,13 @@ std::optional<double> PropertyTexts::NumberOf(std::string_view name, const Appea
     return info.IsReal() ? dxf::NumberOf(appearance, info.name) : std::nullopt;
 }
 
+bool PropertyTexts::HasAny(const Entity& entity) {
+    return !std::holds_alternative<Boxed<Viewport>>(entity.shape);
+}
+
 bool PropertyTexts::Has(const Entity& entity, std::string_view name) {
     const auto is = [&](auto... kinds) { return (std::holds_alternative<decltype(kinds)>(entity.shape) || ...); };
-    if (is(Boxed<Viewport>())) return false;
+    if (!HasAny(entity)) return false;
     const int owner = is(Boxed<Text>(), Boxed<MText>())         ? kOfTexts
                       : is(Boxed<Insert>(), Boxed<Dimension>()) ? kOfInserts
                                                                 : kOfShapes;
@@ -413,12 +418,14 @@ void PropertyTexts::Set(std::string_view name, const std::string& text, Appearan
 }
 
 bool SameAppearance(const Document& a, const Appearance& one, const Document& b, const Appearance& other) {
-    const auto name = [](const Document& of, LineTypeIndex type) {
-        return type < LineTypeIndex::none ? FoldName(ToDisplayText(of.At(type).name))
-                                          : std::to_string(static_cast<uint32_t>(type));
+    const auto isSame = [](const std::string& first, const std::string& second) {
+        return first == second || IsSameName(ToDisplayText(first), ToDisplayText(second));
     };
-    if (!IsSameName(ToDisplayText(a.At(one.layer).name), ToDisplayText(b.At(other.layer).name))) return false;
-    if (name(a, one.lineType) != name(b, other.lineType)) return false;
+    const bool isNamed = one.lineType < LineTypeIndex::none && other.lineType < LineTypeIndex::none;
+    if (!isSame(a.At(one.layer).name, b.At(other.layer).name)) return false;
+    if (!isNamed && one.lineType != other.lineType) return false;
+    if (isNamed && !isSame(a.At(one.lineType).name, b.At(other.lineType).name)) return false;
+    if (one.layer == other.layer && one.lineType == other.lineType) return one == other;
     Appearance adapted = other;
     adapted.layer = one.layer;
     adapted.lineType = one.lineType;

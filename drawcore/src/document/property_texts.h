@@ -25,6 +25,8 @@ public:
     // Returns the canonical spelling of the name, or nullopt if there is no such property. The other functions ignore
     // the case of names.
     static std::optional<std::string> NameOf(std::string_view name);
+    // Returns whether the entity has any property.
+    static bool HasAny(const Entity& entity);
     static bool Has(const Entity& entity, std::string_view name);
     // Returns the value as a number: a length in millimeters of paper or in drawing units, a factor or an angle; none
     // for other properties and for inherited widths.
