@@ -171,7 +171,7 @@ public:
     // Returns the nearest frame window that contains this one, or null.
     CFrameWnd* GetParentFrame() const;
     virtual BOOL IsFrameWnd() const;
-    CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
+    CWnd* GetDlgItem(int nID) const;
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     void SetDlgItemText(int nID, LPCSTR lpszString) { ::SetDlgItemTextA(m_hWnd, nID, lpszString); }
 

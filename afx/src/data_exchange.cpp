@@ -1,5 +1,7 @@
 // CDataExchange and the framework's own exchange functions.
 
+#include "thread_state.h"
+
 #include <afxapp.h>
 #include <afxdialog.h>
 #include <afxres.h>
@@ -16,7 +18,7 @@ void CDataExchange::Keep(std::unique_ptr<CObject> pObject) {
 }
 
 HWND CDataExchange::PrepareCtrl(int nIDC) {
-    HWND hWnd = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
+    HWND hWnd = AfxThreadState::Get().items.Find(m_pDlgWnd->m_hWnd, nIDC);
     if (hWnd == nullptr) AfxThrowNotSupportedException();
     m_hWndLastControl = hWnd;
     m_bEditLastControl = FALSE;

@@ -7,6 +7,26 @@
 
 #include <set>
 #include <unordered_map>
+#include <utility>
+
+// Remembers controls by their identifiers, because searching for a child is slow.
+class AfxDialogItems {
+public:
+    // Returns the control of the dialog, or null.
+    HWND Find(HWND dialog, int nID);
+    // Remembers a control that has been met in another way, unless one with its identifier is known.
+    void Note(HWND control);
+
+private:
+    HWND* At(HWND dialog, int nID);
+
+    struct Hash {
+        std::size_t operator()(const std::pair<HWND, int>& key) const {
+            return std::hash<HWND>()(key.first) * 31 + static_cast<std::size_t>(key.second);
+        }
+    };
+    std::unordered_map<std::pair<HWND, int>, HWND, Hash> m_found;
+};
 
 struct AfxThreadState {
     std::unordered_map<HWND, CWnd*> windows; // the permanent map
@@ -18,7 +38,7 @@ struct AfxThreadState {
     CWinThread* thread = nullptr;
     bool reporting = false;       // the message box of an exception is open
     std::set<HWND> paintFailures; // windows whose exceptions while painting were reported
-    HWND lastMeasured = nullptr;  // the control whose rows were last measured
+    AfxDialogItems items;
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
 

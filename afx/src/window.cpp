@@ -55,8 +55,12 @@ BOOL CWnd::SubclassWindow(HWND hWnd) {
     return TRUE;
 }
 
+CWnd* CWnd::GetDlgItem(int nID) const {
+    return FromHandle(AfxThreadState::Get().items.Find(m_hWnd, nID));
+}
+
 BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
-    return SubclassWindow(::GetDlgItem(pParent->m_hWnd, static_cast<int>(nID)));
+    return SubclassWindow(AfxThreadState::Get().items.Find(pParent->m_hWnd, static_cast<int>(nID)));
 }
 
 HWND CWnd::UnsubclassWindow() {
@@ -168,6 +172,7 @@ struct MessageToDescendants {
 
 BOOL CALLBACK SendToDescendant(HWND window, LPARAM lParam) {
     const auto& send = *reinterpret_cast<const MessageToDescendants*>(lParam);
+    AfxThreadState::Get().items.Note(window);
     const bool wanted = send.deep || ::GetParent(window) == send.ancestor;
     if (wanted && (!send.onlyPermanent || CWnd::FromHandlePermanent(window) != nullptr))
         ::SendMessageA(window, send.message, send.wParam, send.lParam);

@@ -164,18 +164,14 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct) {
     if (lpDrawItemStruct->CtlType == ODT_MENU || !NotifyChild(lpDrawItemStruct->hwndItem, &result)) Default();
 }
 
-// A list box sends a message for each item that is added, and searching for a child is slow, so the last one is tried
-// first.
-static HWND MeasuredControl(HWND parent, int id) {
-    HWND& last = AfxThreadState::Get().lastMeasured;
-    if (last == nullptr || ::GetDlgCtrlID(last) != id || ::GetParent(last) != parent) last = ::GetDlgItem(parent, id);
-    return last;
-}
-
 void CWnd::OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct) {
     // The only one of the four structures without the window's handle.
     LRESULT result = 0;
-    if (lpMeasureItemStruct->CtlType == ODT_MENU || !NotifyChild(MeasuredControl(m_hWnd, nIDCtl), &result)) Default();
+    if (lpMeasureItemStruct->CtlType != ODT_MENU) {
+        HWND control = AfxThreadState::Get().items.Find(m_hWnd, nIDCtl);
+        if (NotifyChild(control, &result)) return;
+    }
+    Default();
 }
 
 int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct) {
