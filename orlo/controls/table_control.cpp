@@ -34,7 +34,7 @@ SIZE WindowSize(HWND window) {
 
 void SetControlHeight(HWND control, int height) {
     ::SetWindowPos(control, nullptr, 0, 0, WindowSize(control).cx, height,
-                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE | SWP_DEFERERASE);
 }
 
 void NotifyApplication(CWnd& control, unsigned int kind, unsigned int notification) {

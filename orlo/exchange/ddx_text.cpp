@@ -122,16 +122,16 @@ int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, float& value) {
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, double& value) {
     // Only ExchangeRealText prepares the control, so that a field with the marker never gets the focus on failure.
-    const HWND control = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, nIDC);
+    const CWnd* const control = pDX->m_pDlgWnd->GetDlgItem(nIDC);
     if (pDX->m_bSaveAndValidate) {
-        if (control && IsIndeterminateText(WindowText(control))) return 0;
+        if (control && IsIndeterminateText(WindowText(control->m_hWnd))) return 0;
         float local = 0.0f;
         const int result = ExchangeRealText(bReport, pDX, nIDC, local, value);
         value = local;
         return result;
     }
     if (control && IsIndeterminate(value)) {
-        SetIndeterminateText(control);
+        SetIndeterminateText(control->m_hWnd);
         return 1;
     }
     float unused = 0.0f;

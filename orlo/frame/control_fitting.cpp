@@ -3,10 +3,9 @@
 #include "orlo/frame/control_fitting.h"
 
 #include <algorithm>
-#include <vector>
+#include <iterator>
 
 #include "orlo/frame/label_order.h"
-#include "orlo/win/child_windows.h"
 #include "orlo/win/gdi.h"
 #include "orlo/win/screen_scale.h"
 
@@ -80,17 +79,16 @@ void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
     const int fitting = std::min<int>(WantedWidth(child, width, box), limit - rect.left);
     if (fitting == width || fitting <= 0) return;
     ::SetWindowPos(child, nullptr, 0, 0, fitting, rect.bottom - rect.top,
-                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_DEFERERASE);
 }
 
 } // namespace
 
-void FitControls(HWND page) {
+void FitControls(HWND page, const std::vector<HWND>& children) {
     std::vector<HWND> controls;
-    ForEachChild(page, [&](HWND child) {
-        if (::GetParent(child) == page) controls.push_back(child); // skip child windows of controls
-    });
-    std::vector<RECT> groups; // with the sizes of the template
+    std::copy_if(children.begin(), children.end(), std::back_inserter(controls),
+                 [page](HWND child) { return ::GetParent(child) == page; }); // skip child windows of controls
+    std::vector<RECT> groups;                                                // with the sizes of the template
     for (const HWND control : controls)
         if (IsGroupBox(control)) groups.push_back(PlaceIn(page, control));
     const int box = ScreenPixels(kBoxWidth);

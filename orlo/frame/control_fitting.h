@@ -4,4 +4,7 @@
 
 #include <windows.h>
 
-void FitControls(HWND page);
+#include <vector>
+
+// children: the child windows of the page, recursively.
+void FitControls(HWND page, const std::vector<HWND>& children);

@@ -51,7 +51,7 @@ unsigned int CGraphicPropertyPage::GetTemplateNumber() const {
 
 BOOL CGraphicPropertyPage::OnInitDialog() {
     m_bInitializing = 1;
-    if (m_bFitControls) FitControls(m_hWnd);
+    if (m_bFitControls) FitControls(m_hWnd, m_pState->Children());
     const BOOL result = COrloPropertyPage::OnInitDialog();
     m_pState->AddPreviewGraphic();
     m_bInitializing = 0;

@@ -72,7 +72,7 @@ CGraphicPropertyPage* CGraphicPropertySheet::GetActiveGraphicPage() {
 void CGraphicPropertySheet::UpdatePreview(int bNow) {
     if (m_wndPreview.m_hWnd == nullptr) return;
     ::InvalidateRect(m_wndPreview.m_hWnd, nullptr, TRUE);
-    if (bNow) ::UpdateWindow(m_wndPreview.m_hWnd);
+    if (bNow && !m_defersPreview) ::UpdateWindow(m_wndPreview.m_hWnd);
 }
 
 void CGraphicPropertySheet::UpdateDesc(int) {}

@@ -78,6 +78,7 @@ protected:
     ORLO_API const AFX_MSGMAP* GetMessageMap() const override;
 
 private:
+    friend class PageState;
     static const AFX_MSGMAP_ENTRY* GetMessageEntries();
 
     CGraphicPropertyPage* GetActiveGraphicPage();
@@ -90,6 +91,7 @@ private:
     int m_cxPreview; // size of the preview pane, in device pixels
     int m_cyPreview;
     CGraphicPreview m_wndPreview;
+    bool m_defersPreview = false; // UpdatePreview(1) only invalidates it
     int m_bEndWithCode = 0;
     int m_nEndCode = 0;
     Written m_written;

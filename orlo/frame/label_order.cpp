@@ -68,7 +68,8 @@ void PutBefore(HWND label, HWND field, std::vector<HWND>& order) {
     const HWND previous = place == order.begin() ? HWND_TOP : place[-1];
     if (previous == label) return;
     EndGroup(label);
-    ::SetWindowPos(label, previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW);
+    ::SetWindowPos(label, previous, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_DEFERERASE);
     order.erase(std::find(order.begin(), order.end(), label));
     order.insert(std::find(order.begin(), order.end(), field), label);
 }

@@ -35,7 +35,7 @@ LoadedControls& LoadedControls::Of(CGraphicPropertyPage& page) {
 }
 
 HWND LoadedControls::Window(unsigned int nID) const {
-    return ::GetDlgItem(m_page.m_hWnd, static_cast<int>(nID));
+    return PageState::Of(m_page).Control(nID);
 }
 
 bool LoadedControls::IsUnchanged(unsigned int nID) const {

@@ -3,6 +3,7 @@
 #include "orlo/frame/orlo_property_page.h"
 
 #include "orlo/controls/combo_control.h"
+#include "orlo/win/child_windows.h"
 
 IMPLEMENT_DYNAMIC(COrloPropertyPage, CPropertyPage)
 
@@ -12,10 +13,10 @@ ON_MESSAGE(WM_NEXTDLGCTL, &COrloPropertyPage::OnNextDlgCtl)
 END_MESSAGE_MAP()
 
 COrloPropertyPage::COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption)
-    : CPropertyPage(nIDTemplate, nIDCaption) {}
+    : CPropertyPage(nIDTemplate, nIDCaption), m_children(std::make_unique<ChildWindows>()) {}
 
 COrloPropertyPage::COrloPropertyPage(const char* lpszTemplateName, unsigned int nIDCaption)
-    : CPropertyPage(lpszTemplateName, nIDCaption) {}
+    : CPropertyPage(lpszTemplateName, nIDCaption), m_children(std::make_unique<ChildWindows>()) {}
 
 COrloPropertyPage::~COrloPropertyPage() = default;
 
@@ -28,7 +29,9 @@ const char* COrloPropertyPage::GetTemplateName() const {
 }
 
 void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
-    SendMessageToDescendants(CB_SHOWDROPDOWN, FALSE, 0, TRUE, FALSE);
+    const std::vector<HWND> children = m_children->Of(m_hWnd); // a copy, because a list that closes may send messages
+    for (const HWND child : children)
+        ::SendMessageA(child, CB_SHOWDROPDOWN, FALSE, 0);
     Default();
 }
 

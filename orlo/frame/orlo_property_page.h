@@ -4,7 +4,11 @@
 
 #include <afxdlgs.h>
 
+#include <memory>
+
 #include "orlo/export.h"
+
+class ChildWindows;
 
 class ORLO_API COrloPropertyPage : public CPropertyPage {
     DECLARE_DYNAMIC(COrloPropertyPage)
@@ -36,4 +40,8 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    friend class PageState;
+    std::unique_ptr<ChildWindows> m_children;
 };

@@ -16,6 +16,19 @@
 
 namespace {
 
+// Sets a flag during its lifetime.
+class Deferred {
+public:
+    explicit Deferred(bool& flag) : m_flag(flag), m_before(std::exchange(flag, true)) {}
+    ~Deferred() { m_flag = m_before; }
+    Deferred(const Deferred&) = delete;
+    Deferred& operator=(const Deferred&) = delete;
+
+private:
+    bool& m_flag;
+    bool m_before;
+};
+
 GraphicStruct* OwnerOf(const GraphicStruct* graphic) {
     return graphic->dwFlags & kFlagNoParent ? nullptr : graphic->pParent;
 }
@@ -49,6 +62,7 @@ void PageState::AddPreviewGraphic() {
         return;
     }
     m_page.m_pPreviewGraphic->dwFlags |= kFlagPreview;
+    const Deferred deferred(sheet->m_defersPreview); // the page is not visible yet, and is about to update the preview
     for (int i = 0; i < sheet->GetPageCount(); ++i) {
         CPropertyPage* page = sheet->GetPage(i);
         if (page->m_hWnd != nullptr && page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
@@ -58,9 +72,8 @@ void PageState::AddPreviewGraphic() {
 
 void PageState::BuildStatusTable() {
     std::vector<ControlStatus> rows;
-    ForEachChild(m_page.m_hWnd, [&rows](HWND child) {
+    for (const HWND child : Children())
         rows.push_back({static_cast<unsigned int>(::GetDlgCtrlID(child)), 0});
-    });
     std::unique_ptr<ControlStatus[]> table(rows.empty() ? nullptr : new ControlStatus[rows.size()]);
     std::copy(rows.begin(), rows.end(), table.get());
     delete[] m_page.m_pStatus; // not earlier, so that the old table remains if memory runs out
@@ -74,6 +87,14 @@ ControlStatus* PageState::FindStatus(unsigned int nID) const {
     for (int i = 0; i < m_page.m_nControls; ++i)
         if (m_page.m_pStatus[i].nID == nID) return &m_page.m_pStatus[i];
     return nullptr;
+}
+
+const std::vector<HWND>& PageState::Children() const {
+    return m_page.m_children->Of(m_page.m_hWnd);
+}
+
+HWND PageState::Control(unsigned int nID) const {
+    return m_page.m_children->WithId(m_page.m_hWnd, static_cast<int>(nID));
 }
 
 bool PageState::IsIgnored(unsigned int nID) const {

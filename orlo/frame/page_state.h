@@ -4,6 +4,8 @@
 
 #include <afxwin.h>
 
+#include <vector>
+
 #include "orlo/binding/property_merge.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/loaded_controls.h"
@@ -34,6 +36,11 @@ public:
     void OnDroppedList(unsigned int code, HWND combo);
     // Marks the control as dirty if the notification changes it. Returns the flags for OnStatusChange.
     unsigned long ChangeFlags(unsigned int nID, unsigned int code, HWND control);
+
+    // Returns all child windows of the page, recursively.
+    const std::vector<HWND>& Children() const;
+    // Returns the window of the page's control, or null.
+    HWND Control(unsigned int nID) const;
 
     LoadedControls loaded;
     WriteOutcome* outcome = nullptr; // of the current write-back

@@ -266,7 +266,9 @@ void CBrushPage::SetPreviewStyle(CDataExchange* pDX) {
 void CBrushPage::EnableHatchControls(unsigned int style, unsigned short flags) {
     const bool vector = style != kBrushStyleNone && style != kSolid && (flags & kBrushVector) != 0;
     const bool colored = style == kSolid || vector || (style != kBrushStyleNone && (flags & kBrushTakesColor) != 0);
-    const auto enable = [this](int nID, bool on) { ::EnableWindow(::GetDlgItem(m_hWnd, nID), on); };
+    const auto enable = [this](int nID, bool on) {
+        if (CWnd* control = GetDlgItem(nID)) control->EnableWindow(on);
+    };
     enable(IDC_BRUSH_COLOR, colored);
     enable(IDC_BRUSH_SCALE, vector);
     enable(IDC_BRUSH_ANGLE, vector);

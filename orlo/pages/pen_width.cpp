@@ -46,7 +46,8 @@ int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double val
 
 int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, unsigned char scaleSystem,
                    DrawingStruct* drawing) {
-    const HWND combo = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, nIDC);
+    const CWnd* const control = pDX->m_pDlgWnd->GetDlgItem(nIDC);
+    const HWND combo = control != nullptr ? control->m_hWnd : nullptr;
     if (pDX->m_bSaveAndValidate) {
         const CString text = ShownText(combo);
         if (IsIndeterminateText(text)) return 1;

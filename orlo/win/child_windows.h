@@ -1,7 +1,9 @@
-// Iteration over child windows.
+// Child windows: iteration, and a list of them that is kept.
 #pragma once
 
 #include <windows.h>
+
+#include <vector>
 
 // A system callback, not a lambda because of the calling convention in 32-bit programs.
 template <class Visit>
@@ -15,3 +17,20 @@ template <class Visit>
 void ForEachChild(HWND window, Visit visit) {
     ::EnumChildWindows(window, VisitChild<Visit>, reinterpret_cast<LPARAM>(&visit));
 }
+
+// The child windows of a window. Listing them asks each of them for its own children, and searching for one asks for
+// the list of all; a dialog does both for every field whenever it is shown.
+class ChildWindows {
+public:
+    // Returns all child windows, recursively. Lists them again if the last one is no longer the last.
+    const std::vector<HWND>& Of(HWND window);
+    // Returns the direct child with that identifier, or null.
+    HWND WithId(HWND window, int id) const;
+
+private:
+    bool AreThoseOf(HWND window) const;
+
+    std::vector<HWND> m_windows;
+    HWND m_parent = nullptr;
+    HWND m_last = nullptr; // of the direct children
+};

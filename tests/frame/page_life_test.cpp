@@ -93,6 +93,33 @@ TEST_F(PageLife, IgnoredControlsAndUnrequestedRefreshesChangeNothing) {
     });
 }
 
+// The page lists its controls once, and again when others follow the last one.
+TEST_F(PageLife, ControlsThatJoinLaterAreTracked) {
+    sheet.Run([&](SheetDriver& user) {
+        const auto add = [&](const char* windowClass, int id) {
+            return ::CreateWindowExA(0, windowClass, "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, 0, 0, 60, 60,
+                                     user.Page(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), nullptr, nullptr);
+        };
+        const auto comeBack = [&] {
+            user.SelectPage(0);
+            user.SelectPage(1);
+        };
+        constexpr int kFirst = 900, kSecond = 901;
+        const HWND combo = add("COMBOBOX", kFirst);
+        EXPECT_EQ(page->GetControlStatus(kFirst), 1) << "not tracked yet";
+        ::SendMessageA(combo, CB_SHOWDROPDOWN, TRUE, 0);
+        ::SetWindowPos(user.Sheet(), nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        EXPECT_FALSE(::SendMessageA(combo, CB_GETDROPPEDSTATE, 0, 0));
+        comeBack();
+        EXPECT_EQ(page->GetControlStatus(kFirst), 0);
+        ::DestroyWindow(combo);
+        add("EDIT", kSecond);
+        comeBack();
+        EXPECT_EQ(page->GetControlStatus(kFirst), 1);
+        EXPECT_EQ(page->GetControlStatus(kSecond), 0);
+    });
+}
+
 TEST_F(PageLife, LeavingWritesAndReturningIsClean) {
     sheet.Run([&](SheetDriver& user) {
         user.Type(kEdit, "5");

@@ -107,6 +107,8 @@ TEST_F(Pane, HasBothBarsIfOneTakesTheRoomOfTheOther) {
     Shrink(50, 0);
     EXPECT_TRUE(HasBar(WS_HSCROLL) && HasBar(WS_VSCROLL));
     EXPECT_EQ(Scroll(SB_BOTTOM), -::GetSystemMetrics(SM_CYHSCROLL));
+    pane.SendMessage(WM_HSCROLL, SB_BOTTOM);
+    EXPECT_EQ(Scrolled().x, -50 - ::GetSystemMetrics(SM_CXVSCROLL));
     Shrink(50, -::GetSystemMetrics(SM_CYHSCROLL));
     EXPECT_TRUE(HasBar(WS_HSCROLL));
     EXPECT_FALSE(HasBar(WS_VSCROLL));
