@@ -10,7 +10,7 @@ namespace {
 
 constexpr Bench kBenches[] = {{"merge", BenchMerge}, {"insert", BenchInsert},   {"open", BenchOpen},
                               {"pages", BenchPages}, {"preview", BenchPreview}, {"fill", BenchFill},
-                              {"c", BenchC}};
+                              {"c", BenchC},         {"fields", BenchFields}};
 
 } // namespace
 

@@ -8,3 +8,4 @@ void BenchPages();
 void BenchPreview();
 void BenchFill();
 void BenchC();
+void BenchFields();

@@ -133,6 +133,12 @@ public:
 
     void MakeControls(CWnd& page);
     void MakeTips(HWND page);
+    // Returns the size of the contents in pixels.
+    CSize ContentsSize(HWND page) const {
+        CRect contents(0, 0, size.cx, size.cy);
+        ::MapDialogRect(page, &contents);
+        return contents.Size();
+    }
 
     FieldTable table;
     FieldAccess access;
@@ -155,6 +161,8 @@ void FieldPageParts::MakeControls(CWnd& page) {
 
 // A single window shows the tooltips of all fields; it is destroyed with the page.
 void FieldPageParts::MakeTips(HWND page) {
+    const bool hasHelp = std::any_of(table.rows.begin(), table.rows.end(), [](auto& row) { return !row.help.empty(); });
+    if (!hasHelp) return;
     const HWND tips = ::CreateWindowExA(WS_EX_TOPMOST, TOOLTIPS_CLASSA, nullptr,
                                         WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
                                         CW_USEDEFAULT, CW_USEDEFAULT, page, nullptr, LibraryModule(), nullptr);
@@ -194,16 +202,15 @@ BOOL CFieldPage::OnSetActive() {
         const HWND owner = ::GetWindow(sheet->m_hWnd, GW_OWNER);
         SetTemplateDirection(m_dialogTemplate, IsFromRightToLeft(sheet->m_hWnd) || IsFromRightToLeft(owner));
     }
-    return CGraphicPropertyPage::OnSetActive();
+    const BOOL result = CGraphicPropertyPage::OnSetActive();
+    m_parts->scroll.SetContents(m_hWnd, m_parts->ContentsSize(m_hWnd));
+    return result;
 }
 
 BOOL CFieldPage::OnInitDialog() {
     m_bInitializing = 1; // filling controls causes notifications
     m_parts->MakeControls(*this);
     m_parts->MakeTips(m_hWnd);
-    CRect contents(0, 0, m_parts->size.cx, m_parts->size.cy);
-    ::MapDialogRect(m_hWnd, &contents);
-    m_parts->scroll.SetContents(m_hWnd, contents.Size());
     return CGraphicPropertyPage::OnInitDialog();
 }
 
