@@ -29,7 +29,7 @@ void AddRoomPage(CGraphicPropertySheet* sheet, bool (*isRoom)(GraphicStruct*), d
                   {FieldKind::Length, "&Height:", "RoomHeight", "Size"},
                   AreaRow(areaOf),
                   {FieldKind::Choice, "&Fire rating", "FireRating"},
-                  {FieldKind::Lines, "&Remarks:", "Remarks"}};
+                  {FieldKind::Lines, "Re&marks:", "Remarks"}};
     table.rows[1].min = 2.0; // drawing units
     table.rows[1].max = 10.0;
     table.rows[2].group = "Size";

@@ -163,7 +163,7 @@ enum {
 typedef struct OrloField {
     uint32_t size;        // sizeof(OrloField); all fields of a page have the same size
     uint32_t kind;        // an OrloFieldKind
-    const char* label;    // required; an ampersand precedes the mnemonic, which is removed if an earlier field has it
+    const char* label;    // required; an ampersand precedes the mnemonic, which is removed if it is taken
     const char* property; // name of the property; null for a button or a note, can be null with kOrloFieldByCallback
     const char* group;    // consecutive fields of one group share a box with this title
     const char* unit;     // shown after the field

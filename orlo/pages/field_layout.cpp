@@ -7,6 +7,9 @@
 #include <set>
 #include <string>
 
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
+
 namespace {
 
 // In dialog units.
@@ -29,9 +32,14 @@ constexpr int kSplitGroup = 24; // by which a column may be longer to keep a gro
 
 constexpr char kDots[] = "...";
 
-// The labels of a page, with unique mnemonics. Letters that differ in case are the same mnemonic.
+// The labels of a page, with unique mnemonics. Letters that differ in case are the same mnemonic; those of the buttons
+// beside the page are taken.
 class Mnemonics {
 public:
+    Mnemonics() {
+        for (const UINT button : {IDS_PANE_APPLY, IDS_PANE_RESET, IDS_PANE_CLOSE})
+            Unique(std::string(LibraryText(button)));
+    }
     std::string Unique(const std::string& label) {
         std::string unique;
         for (const char* at = label.c_str(); *at != '\0';) {

@@ -127,7 +127,7 @@ static int RunSheet(const Database* database, struct DrawingStruct* drawing) {
     if (OneColor(database, all)) return 3; // OK would change nothing
     field.kind = kOrloFieldInteger;
     field.flags = kOrloFieldByCallback;
-    field.label = "&Rating:";
+    field.label = "Ra&ting:";
     sheet.filter = kOrloAllGraphics;
     sheet.owner = owner;
     sheet.drawing = drawing;

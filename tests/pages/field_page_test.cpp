@@ -539,6 +539,18 @@ TEST_F(FieldPage, LaterDuplicateMnemonicIsRemoved) {
     });
 }
 
+TEST_F(FieldPage, AMnemonicOfTheButtonsGivesWay) {
+    kit.Add({{"A", "a"}, {"B", "b"}, {"C", "c"}});
+    table.rows = {Row(FieldKind::Text, "&Rating:", "A"), Row(FieldKind::Text, "Unit &cost:", "B"),
+                  Row(FieldKind::Text, "&Area:", "C")};
+    RunOk([&](SheetDriver& user) {
+        for (size_t i = 0; i < 3; ++i) {
+            const HWND label = ::GetWindow(user.Control(CFieldPage::FieldID(i)), GW_HWNDPREV);
+            EXPECT_EQ(WindowText(label).find('&'), std::string::npos) << WindowText(label);
+        }
+    });
+}
+
 TEST_F(FieldPage, EveryFieldHasAName) {
     Add(1);
     table.rows = {Row(FieldKind::Text, "&Name:", "A"), Row(FieldKind::Check, "&Visible", "B"),
