@@ -51,6 +51,25 @@ FieldRow Row(FieldKind kind, const char* label, const char* group, Measure measu
     return row;
 }
 
+// A coordinate of the first corner, which moves with it.
+FieldRow FirstPoint(const char* label, double VertexStruct::*coordinate) {
+    FieldRow row(FieldKind::Length, label, "", "First point");
+    row.help = "Moves the first corner; the others stay";
+    row.get = [coordinate](GraphicStruct* graphic, FieldValue& value) {
+        const std::vector<VertexStruct*> corners = CornersOf(graphic);
+        if (!corners.empty()) value.number = corners[0]->*coordinate;
+        return !corners.empty();
+    };
+    row.set = [coordinate](GraphicStruct* graphic, const FieldValue& value) {
+        VertexStruct* first = CornersOf(graphic).at(0);
+        VertexStruct moved = *first;
+        moved.*coordinate = value.number;
+        ::VertexSet(first, moved.x, moved.y, moved.z);
+        return true;
+    };
+    return row;
+}
+
 } // namespace
 
 void AddGeometryPage(CGraphicPropertySheet* sheet) {
@@ -62,10 +81,7 @@ void AddGeometryPage(CGraphicPropertySheet* sheet) {
     const auto count = [](const std::vector<VertexStruct*>& corners) { return static_cast<double>(corners.size()); };
     table.rows = {Row(FieldKind::Length, "Length:", "Measures", LengthOf),
                   Row(FieldKind::Number, "Area:", "Measures", AreaOf),
-                  Row(FieldKind::Integer, "Corners:", "Measures", count),
-                  Row(FieldKind::Length, "X:", "First point",
-                      [](const std::vector<VertexStruct*>& corners) { return corners[0]->x; }),
-                  Row(FieldKind::Length, "Y:", "First point",
-                      [](const std::vector<VertexStruct*>& corners) { return corners[0]->y; })};
+                  Row(FieldKind::Integer, "Corners:", "Measures", count), FirstPoint("&X:", &VertexStruct::x),
+                  FirstPoint("&Y:", &VertexStruct::y)};
     AddFieldPage(sheet, kGeometryPage, std::move(table));
 }

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "demo/viewer/document.h"
+#include "demo/viewer/extended_data_page.h"
 #include "demo/viewer/geometry_page.h"
 #include "demo/viewer/settings.h"
 #include "drawcore/application.h"
@@ -53,7 +54,9 @@ SelectionSheet::SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruc
     if (!m_sheet) return;
     for (GraphicStruct* graphic : orlo::host::Members(set, flags))
         ::AddGraphicPropertyPage(m_methods.get(), graphic, m_sheet.get());
-    if (flags == kAllGraphics) AddGeometryPage(m_sheet.get());
+    if (flags != kAllGraphics) return; // the sheet of a style
+    AddGeometryPage(m_sheet.get());
+    AddExtendedDataPage(m_sheet.get(), set);
 }
 
 void SelectionSheet::ChooseRememberedPage() {

@@ -10,6 +10,7 @@
 #include "demo/tour/report.h"
 #include "demo/viewer/main_frame.h"
 #include "orlo/host/words.h"
+#include "orlo/pages/field_page.h"
 #include "support/drawing_state.h"
 
 namespace {
@@ -30,6 +31,14 @@ std::string ValueOf(const std::string& page) {
     return std::find_if(std::begin(kEditedValues), std::end(kEditedValues),
                         [&](const auto& edited) { return edited.page == page; })
         ->value;
+}
+
+// Edits the page that the viewer makes from a table; the library's pages are edited by page_edits.h.
+void MoveFirstPoints(UserInput& user, HWND page) {
+    const HWND x = ::GetDlgItem(page, CFieldPage::FieldID(3));
+    ::SetFocus(x);
+    ::SendMessageA(x, EM_SETSEL, 0, -1);
+    user.Type("1");
 }
 
 } // namespace
@@ -91,7 +100,11 @@ std::vector<std::string> RoundTrip::EditAllPages() {
                         for (size_t i = 0; i < titles.size(); ++i) {
                             if (!ClickTab(m_user, sheet, static_cast<int>(i)))
                                 throw std::runtime_error("page " + titles[i] + " does not come up");
-                            if (titles[i] == "Geometry") continue; // read-only
+                            if (titles[i] == "Geometry") {
+                                MoveFirstPoints(m_user, ActivePageOf(sheet));
+                                continue;
+                            }
+                            if (titles[i] == "Extended Data") continue; // read-only
                             const PageEdit* page = FindPageEdit(titles[i]);
                             if (!page) throw std::runtime_error("page " + titles[i] + " is not known");
                             page->edit(m_user, ActivePageOf(sheet));

@@ -61,3 +61,9 @@ DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t fl
 // changes in blocks and layers. Undo and redo can return to the saved state. Returns 0 if the drawing was not opened
 // from a file.
 DRAWCORE_API int DrawingIsModified(DrawingStruct*);
+
+// Stores the extended data (XDATA) of the record in the file that a graphic was read from, or was last saved to, as
+// text: a line "code value" for each group, separated by "\r\n", each application's data after its name (code 1001). At
+// most size bytes are stored, including the NUL. Returns the size of the whole text, including the NUL, or 0, with an
+// empty text, if the graphic has no extended data.
+DRAWCORE_API int GraphicGetExtendedData(GraphicStruct*, char* buffer, int size);
