@@ -180,14 +180,22 @@ int TransferRadio(int bReport, CDataExchange* pDX, Field& field, int& value) {
     return result;
 }
 
+// A control that has no item for the value draws what was selected last: here the value, or the marker for several.
+void DrawWithoutItem(HWND control, unsigned int value) {
+    if (CComboControl* const combo = ComboControlOf(control)) combo->m_nSelected = value;
+}
+
 int TransferColor(int bReport, CDataExchange* pDX, Field& field, unsigned long& value) {
+    if (!pDX->m_bSaveAndValidate) DrawWithoutItem(pDX->PrepareCtrl(field.id), static_cast<unsigned int>(value));
     return DDX_CBTableColor(bReport, pDX, field.id, value);
 }
 
 int TransferEntry(int bReport, CDataExchange* pDX, Field& field, unsigned int& value) {
-    if (!pDX->m_bSaveAndValidate)
-        ShowBlank(pDX->PrepareCtrl(field.id)); // an entry that is not in the list selects
-                                               // nothing
+    if (!pDX->m_bSaveAndValidate) {
+        const HWND control = pDX->PrepareCtrl(field.id);
+        DrawWithoutItem(control, value);
+        ShowBlank(control); // an entry that is not in the list selects nothing
+    }
     return DDX_CBTableIndex(bReport, pDX, field.id, value);
 }
 

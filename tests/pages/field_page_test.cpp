@@ -9,6 +9,7 @@
 #include "drawcore/layer.h"
 #include "drawcore/linestyle.h"
 #include "drawcore/selection.h"
+#include "orlo/controls/combo_control.h"
 #include "orlo/host/property.h"
 #include "orlo/pages/field_page.h"
 #include "orlo/win/child_windows.h"
@@ -318,6 +319,52 @@ TEST_F(FieldPage, ListShowsChoicesWithoutMnemonics) {
     SetRow(Row(FieldKind::Choice));
     table.rows[0].choices = {"&None", "Fire && smoke", "L&ow", "High"};
     RunOk([&](SheetDriver& user) { EXPECT_EQ(Shown(user, kField), "Fire & smoke"); });
+}
+
+// Returns the number of pixels of a closed field, without its button, that do not have the color of its background.
+int DrawnPixels(HWND field) {
+    ::UpdateWindow(field);
+    CRect area;
+    ::GetClientRect(field, &area);
+    area.DeflateRect(5, 5);
+    area.right -= ::GetSystemMetrics(SM_CXVSCROLL);
+    const HDC dc = ::GetDC(field);
+    const COLORREF background = ::GetPixel(dc, area.left, area.top);
+    int drawn = 0;
+    for (int y = area.top; y < area.bottom; ++y)
+        for (int x = area.left; x < area.right; ++x)
+            drawn += ::GetPixel(dc, x, y) != background;
+    ::ReleaseDC(field, dc);
+    return drawn;
+}
+
+TEST_F(FieldPage, ABrushIsDrawnOnlyIfItIsTheSame) {
+    kit.Add({{"Same", 0}, {"Differing", 0}});
+    kit.Add({{"Same", 0}, {"Differing", 1}});
+    table.rows = {Row(FieldKind::BrushStyle, "Same:", "Same"), Row(FieldKind::BrushStyle, "Differing:", "Differing")};
+    RunOk([&](SheetDriver& user) {
+        for (const int id : {kField, kOtherField}) { // as the C interface fills it
+            const ControlFillRecord fill = {::DrawingGetTable(kit.Drawing(), kTableBrushStyles), 0, kBrushStyleNone};
+            ::SendMessageA(user.Control(id), kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
+        }
+        dynamic_cast<CFieldPage*>(CWnd::FromHandlePermanent(user.Page()))->Reload();
+        EXPECT_GT(DrawnPixels(user.Control(kField)), 0) << "No Brush";
+        EXPECT_EQ(DrawnPixels(user.Control(kOtherField)), 0);
+    });
+}
+
+TEST_F(FieldPage, AColorThatIsNotListedIsShown) {
+    kit.Add({{"Same", 0x030201}, {"Differing", 0x030201}});
+    kit.Add({{"Same", 0x030201}, {"Differing", 0x040201}});
+    table.rows = {Row(FieldKind::Color, "Same:", "Same"), Row(FieldKind::Color, "Differing:", "Differing")};
+    RunOk([&](SheetDriver& user) {
+        const auto described = [&](int id) {
+            return dynamic_cast<CComboControl*>(CWnd::FromHandlePermanent(user.Control(id)))->DescribeItem(-1);
+        };
+        EXPECT_EQ(described(kField), "1, 2, 3");
+        EXPECT_EQ(described(kOtherField), "varied");
+    });
+    EXPECT_EQ(kit.Writes(), 0);
 }
 
 TEST_F(FieldPage, MissingFaceIsShown) {
