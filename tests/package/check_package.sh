@@ -59,9 +59,27 @@ build_project own-database "$here/own_database"
 cmp "$work/skeleton/drawcore32.dll" "$work/own-database/drawcore32.dll" # not replaced by the reference database
 run "$work/own-database/own_database.exe"
 
-step "the example by one compiler line, and a host with its own database"
+step "the command lines of the first page, in C++, C and Rust"
+cat >"$prefix/host.cpp" <<'TEXT'
+#include <orlo.h>
+#include "orlo/host/application.h"
+int main() { return PropPageInit() && AppGetCurrentApp() == nullptr; }
+TEXT
+rustc=$(sed -n 's/^ORLO_RUSTC:FILEPATH=\(\/.*\)/\1/p' "$build/CMakeCache.txt")
+while read -r program arguments; do
+    case $program in
+        g++) program=$compiler ;;
+        gcc) program=${compiler/g++/gcc} ;;
+        rustc) [ -n "$rustc" ] || continue; program="$rustc -C linker=${compiler/g++/gcc}" ;;
+    esac
+    # shellcheck disable=SC2086 # words
+    (cd "$prefix" && $program $arguments)
+    [[ $arguments == *host.cpp* && $arguments != *example_host.cpp* ]] || drive "$prefix/bin/host.exe"
+done < <(sed -n 's/^    \(\(g++\|gcc\|rustc\) .*\)/\1/p' "$source/packaging/README.md")
+
+step "the flags of pkg-config"
 export PKG_CONFIG_LIBDIR=$prefix/lib/pkgconfig
-# shellcheck disable=SC2046 # flags are words
+# shellcheck disable=SC2046
 "$compiler" -std=c++17 -municode -o "$prefix/bin/bare_host.exe" "$prefix/share/orlo/examples/example_host.cpp" \
     $(pkg-config --define-prefix --cflags --libs orlo-drawcore32)
 drive "$prefix/bin/bare_host.exe"
@@ -69,14 +87,6 @@ drive "$prefix/bin/bare_host.exe"
 "$compiler" -std=c++17 -o "$work/own-database/bare_host.exe" "$here/own_database/own_database.cpp" \
     -I "$prefix/share/orlo/skeleton" $(pkg-config --define-prefix --cflags --libs orlo)
 run "$work/own-database/bare_host.exe"
-
-rustc=$(sed -n 's/^ORLO_RUSTC:FILEPATH=\(\/.*\)/\1/p' "$build/CMakeCache.txt")
-if [ -n "$rustc" ]; then
-    step "a host in Rust"
-    "$rustc" --target x86_64-pc-windows-gnu -C linker="${compiler/g++/gcc}" -L "$prefix/lib" -o "$prefix/bin/rust_page.exe" \
-        "$prefix/share/orlo/examples/rust_page.rs"
-    drive "$prefix/bin/rust_page.exe"
-fi
 
 if command -v clang-14 lld-link-14 llvm-dlltool-14 >/dev/null; then
     step "a host of another compiler"
