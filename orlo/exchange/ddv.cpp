@@ -72,11 +72,7 @@ int DDV_PositiveValue(int bReport, CDataExchange* pDX, const double& value) {
 
 int DDV_MaxChars(int bReport, CDataExchange* pDX, const CString& value, int nChars) {
     if (!pDX->m_bSaveAndValidate || value.GetLength() <= nChars) return 1;
-    if (bReport) {
-        CString limit, message;
-        limit.Format("%d", nChars);
-        AfxFormatString1(message, AFX_IDP_PARSE_STRING_SIZE, limit);
-        AfxMessageBox(message, MB_ICONEXCLAMATION, AFX_IDP_PARSE_STRING_SIZE);
-    }
-    return FailExchange(bReport, pDX);
+    CString limit;
+    limit.Format("%d", nChars);
+    return FailTextRange(bReport, pDX, limit, "", AFX_IDP_PARSE_STRING_SIZE);
 }

@@ -19,12 +19,19 @@ namespace {
 constexpr unsigned int kPreviewId = 3999;
 constexpr int kPreviewSize = 100; // pixels at 96 dpi
 
+// Returns the caption of the library's sheet, or that of a host's class, which is a text of the host.
+CString SheetCaption(unsigned int nID) {
+    CString caption = LibraryText(nID);
+    if (caption.IsEmpty()) caption.LoadString(nID);
+    return caption;
+}
+
 } // namespace
 
 CGraphicPropertySheet::CGraphicPropertySheet(unsigned int nIDCaption, void* pRegenMethods, DrawingStruct* pDrawing,
                                              void* pGraphics, unsigned long dwGraphicFlags, CWnd* pParentWnd,
                                              unsigned int iSelectPage)
-    : COrloPropertySheet(LibraryText(nIDCaption), pParentWnd, iSelectPage), m_cxPreview(ScreenPixels(kPreviewSize)),
+    : COrloPropertySheet(SheetCaption(nIDCaption), pParentWnd, iSelectPage), m_cxPreview(ScreenPixels(kPreviewSize)),
       m_cyPreview(ScreenPixels(kPreviewSize)) {
     m_pSheetData = new GraphicSheetData{pRegenMethods, pDrawing, pGraphics, dwGraphicFlags};
     m_bHasApply = FALSE;

@@ -12,7 +12,8 @@ HINSTANCE LibraryModule() {
 
 int LoadLibraryText(UINT nID, char* pszBuffer, int nSize) {
     const int length = ::LoadStringA(LibraryModule(), nID, pszBuffer, nSize);
-    return length > 0 ? length : AfxLoadString(nID, pszBuffer, static_cast<UINT>(nSize));
+    if (length == 0) *pszBuffer = '\0';
+    return length;
 }
 
 CString LibraryText(UINT nID) {

@@ -6,8 +6,8 @@
 
 HINSTANCE LibraryModule();
 
-// Copies a string, at most nSize bytes including the NUL. If the library has no string with that number, the modules of
-// the framework are searched. Returns the length, or 0 and an empty string if it is not found.
+// Copies a string, at most nSize bytes including the NUL. Returns the length, or 0 and an empty string if it is not
+// found.
 int LoadLibraryText(UINT nID, char* pszBuffer, int nSize);
 // Returns an empty string if it is not found.
 CString LibraryText(UINT nID);

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 #include <string>
+#include <utility>
 
 #include "orlo/entry/entry.h"
 #include "orlo/resources/resource.h"
@@ -122,9 +124,25 @@ TEST_F(LibraryLife, TwoCopiesWorkIndependently) {
     ::DeleteFileA(second.c_str());
 }
 
-// Resources in colliding_host.rc with the library's numbers belong to the host.
+// Returns the numbers of the strings, dialogs and icons of a module.
+std::set<std::string> NumbersOf(HMODULE module) {
+    std::set<std::string> numbers;
+    for (UINT id = 0; id <= UINT16_MAX; ++id) {
+        char text[16];
+        if (::LoadStringA(module, id, text, sizeof text) > 0) numbers.insert("string " + std::to_string(id));
+        for (const auto& [type, name] : {std::pair(RT_DIALOG, "dialog "), std::pair(RT_GROUP_ICON, "icon ")})
+            if (::FindResourceA(module, MAKEINTRESOURCEA(id), reinterpret_cast<LPCSTR>(type)) != nullptr)
+                numbers.insert(name + std::to_string(id));
+    }
+    return numbers;
+}
+
+// The resources in colliding_host.rc with all of the library's numbers belong to the host.
 TEST_F(LibraryLife, FindsItsOwnResources) {
     const Copy copy("orlo.dll");
+    const auto hosts = NumbersOf(::GetModuleHandleA(nullptr));
+    for (const std::string& number : NumbersOf(copy.Module()))
+        EXPECT_EQ(hosts.count(number), 1u) << "colliding_host.rc has no " << number;
     copy.Run(kit, [&](SheetDriver& user) {
         char caption[64];
         ::GetWindowTextA(user.Sheet(), caption, sizeof caption);
@@ -140,10 +158,18 @@ TEST_F(LibraryLife, FindsItsOwnResources) {
         user.SelectPage(3);
         EXPECT_EQ(user.ItemText(IDC_FONT_STYLE, 0), "Regular");
         EXPECT_EQ(user.ItemText(IDC_FONT_STYLE, 1), "Italic");
-        const MessageBoxWatcher boxes;
-        user.Type(IDC_FONT_SIZE, "0");
+        {
+            const MessageBoxWatcher boxes;
+            user.Type(IDC_FONT_SIZE, "0");
+            user.Ok();
+            EXPECT_EQ(boxes.OnlyText(), "Please enter a valid font size.");
+        }
+        user.Type(IDC_FONT_SIZE, "1");
+        user.SelectPage(1);
+        const MessageBoxWatcher boxes; // a message with a number of the framework
+        user.Type(IDC_PEN_SCALE, "abc");
         user.Ok();
-        EXPECT_EQ(boxes.OnlyText(), "Please enter a valid font size.");
+        EXPECT_EQ(boxes.OnlyText(), "Please enter a number.");
     });
 }
 
