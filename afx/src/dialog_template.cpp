@@ -96,8 +96,8 @@ AfxDialogTemplate::AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule)
     ReadHead();
 }
 
-AfxDialogTemplate::AfxDialogTemplate(const BYTE* data, std::size_t size)
-    : m_module(AfxGetInstanceHandle()), m_data(data), m_size(size) {
+AfxDialogTemplate::AfxDialogTemplate(const BYTE* data, std::size_t size, HINSTANCE hModule)
+    : m_module(hModule), m_data(data), m_size(size) {
     ReadHead();
 }
 

@@ -11,7 +11,7 @@ public:
     // modules.
     explicit AfxDialogTemplate(LPCSTR lpszName, HINSTANCE hModule = nullptr);
     // A template in memory, which must outlive the object.
-    AfxDialogTemplate(const BYTE* data, std::size_t size);
+    AfxDialogTemplate(const BYTE* data, std::size_t size, HINSTANCE hModule);
 
     bool IsFound() const { return m_size != 0; }
     HINSTANCE Module() const { return m_module; }

@@ -51,8 +51,9 @@ void CPropertyPage::OnClose() {
 }
 
 AfxDialogTemplate CPropertyPage::GetTemplate() const {
-    return m_dialogTemplate.empty() ? AfxDialogTemplate(m_lpszTemplateName, m_hTemplateModule)
-                                    : AfxDialogTemplate(m_dialogTemplate.data(), m_dialogTemplate.size());
+    if (m_dialogTemplate.empty()) return AfxDialogTemplate(m_lpszTemplateName, m_hTemplateModule);
+    HINSTANCE module = m_hTemplateModule != nullptr ? m_hTemplateModule : AfxGetInstanceHandle();
+    return AfxDialogTemplate(m_dialogTemplate.data(), m_dialogTemplate.size(), module);
 }
 
 CString CPropertyPage::GetTabText() const {

@@ -21,16 +21,17 @@
 
 namespace {
 
-AFX_EXTENSION_MODULE extensionModule;
+AFX_EXTENSION_MODULE extensionModule, translationModule;
 bool initDone = false;
 
-// One of the library's pages. Its template is always the library's, even if the host has a template with the same
-// number.
+// One of the library's pages. Its template is always the library's or that of its translation, even if the host has a
+// template with the same number.
 template <class Page>
 class BuiltIn final : public Page {
 public:
     BuiltIn() {
         this->m_hTemplateModule = LibraryModule();
+        this->m_dialogTemplate = LibraryDialog(Page::kTemplate);
         this->m_bFitControls = 1;
     }
 };
@@ -71,6 +72,8 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
         ReleaseSharedFont();
         if (processEnds == nullptr) { // when the process ends, the framework may be unloaded already
             AfxTermExtensionModule(extensionModule);
+            AfxTermExtensionModule(translationModule);
+            ReleaseTranslation();
             UnregisterControlClasses(instance);
         }
     }
@@ -78,7 +81,13 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* processEn
 }
 
 extern "C" int PropPageInit() try {
-    if (!initDone) new CDynLinkLibrary(extensionModule); // owned by the framework's list of modules
+    if (initDone) return 1;
+    new CDynLinkLibrary(extensionModule); // owned by the framework's list of modules
+    // The translation also has the framework's strings that appear in sheets, such as the captions of their buttons.
+    if (HINSTANCE translation = TranslationModule()) {
+        AfxInitExtensionModule(translationModule, translation);
+        new CDynLinkLibrary(translationModule);
+    }
     initDone = true;
     return 1;
 } catch (const std::bad_alloc&) {
