@@ -15,7 +15,7 @@ void ShowTexts(const std::vector<dxf::Entity>& entities) {
         if (const auto* text = std::get_if<dxf::Boxed<dxf::Text>>(&entity.shape))
             dxf::ReadControlCodes(dxf::ToDisplayText((*text)->text));
         if (const auto* text = std::get_if<dxf::Boxed<dxf::MText>>(&entity.shape))
-            dxf::ReadInlineCodes((*text)->text, (*text)->height).Prevailing();
+            dxf::ReadInlineCodes((*text)->text, (*text)->height).DominantFormat();
     }
 }
 

@@ -56,7 +56,7 @@ struct UserInput::Dialog {
 
     bool Awaits() const { return begun < scripts.size() && !::IsWindow(window); }
     void Begin();
-    void GiveUp();
+    void CancelOnTimeout();
     void StartTimer() { timer = ::SetTimer(nullptr, 0, kTick, OnTimer); }
     void StopTimer() { ::KillTimer(nullptr, timer); }
 
@@ -192,7 +192,7 @@ void CALLBACK UserInput::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     if (dialog && dialog->Awaits())
         dialog->Begin();
     else if (dialog && dialog->played && ::GetTickCount64() > dialog->played + kTimeout)
-        dialog->GiveUp();
+        dialog->CancelOnTimeout();
 }
 
 void UserInput::Dialog::Begin() {
@@ -214,7 +214,7 @@ void UserInput::Dialog::Begin() {
     if (isLast) StartTimer();
 }
 
-void UserInput::Dialog::GiveUp() {
+void UserInput::Dialog::CancelOnTimeout() {
     if (!thrown) thrown = std::make_exception_ptr(std::runtime_error("the window did not close"));
     ::PostMessageA(window, WM_COMMAND, IDCANCEL, 0);
 }

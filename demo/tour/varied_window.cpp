@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr size_t kDifferent = 4, kMost = 40; // number of appearances, and of graphics
-constexpr double kLargest = 0.25;            // size of a graphic, as a fraction of the drawing
+constexpr size_t kDifferent = 4, kMax = 40; // number of appearances, and of graphics
+constexpr double kLargest = 0.25;           // size of a graphic, as a fraction of the drawing
 
 bool HasPenPage(GraphicStruct* graphic) {
     if (graphic->bType == kGraphicPenBrush) return true;
@@ -48,7 +48,7 @@ std::optional<WorldBox> FindVariedWindow(const Document& document) {
               [&](GraphicStruct* a, GraphicStruct* b) { return distance(a) < distance(b); });
     WorldBox window = *ExtentsOf(graphics[0]);
     std::set<std::string> appearances;
-    for (size_t i = 0; i < std::min(graphics.size(), kMost) && appearances.size() < kDifferent; ++i) {
+    for (size_t i = 0; i < std::min(graphics.size(), kMax) && appearances.size() < kDifferent; ++i) {
         window = WorldBox::Around(window, *ExtentsOf(graphics[i]));
         appearances.insert(Appearance(graphics[i]));
     }

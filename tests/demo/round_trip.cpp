@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr size_t kMostDifferences = 5; // maximum number reported per drawing
+constexpr size_t kMaxDifferences = 5; // maximum number reported per drawing
 
 // The value (see DrawingState) that the edit on each page changes.
 constexpr struct {
@@ -84,7 +84,7 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     }
     m_user.Key('Z', UserInput::kControl);
     const std::vector<std::string> differences =
-        before.DifferencesTo(DrawingState(document.Drawing()), kMostDifferences);
+        before.DifferencesTo(DrawingState(document.Drawing()), kMaxDifferences);
     Report(line + (differences.empty() ? ": as before" : ": DIFFERENT"));
     for (const std::string& difference : differences)
         Report("  " + difference.substr(0, 300));

@@ -54,8 +54,8 @@ TEST(InlineCodes, HeightsAreRelativeToTheText) {
 }
 
 TEST(InlineCodes, PrevailingFormatIsThatOfMostText) {
-    EXPECT_EQ(dxf::ReadInlineCodes("ab{\\fArial|b1;long part}", 1).Prevailing().font, "Arial");
-    EXPECT_EQ(dxf::ReadInlineCodes("", 1).Prevailing().font, "");
+    EXPECT_EQ(dxf::ReadInlineCodes("ab{\\fArial|b1;long part}", 1).DominantFormat().font, "Arial");
+    EXPECT_EQ(dxf::ReadInlineCodes("", 1).DominantFormat().font, "");
 }
 
 TEST(InlineCodes, NestingIsLimited) {

@@ -257,21 +257,21 @@ TEST_F(Thumbnail, UsesLittleMemoryForAnyDeclaredSize) {
     const auto pen = [](MetaFileBytes bytes, uint16_t width) {
         return bytes.Record(0x02FA, {0, width, 0, 0, 0}).Record(0x012D, {0});
     };
-    constexpr uint16_t kMost = 0x7FFF, kLeast = 0x8001;
+    constexpr uint16_t kMax = 0x7FFF, kMin = 0x8001;
     const struct {
         const char* name;
         MetaFileBytes picture;
     } rows[] = {
         {"font", text(picture(1), 30000)},
-        {"font under a mapping", text(picture(kMost), 1)},
-        {"ellipse", picture(100).Record(0x0418, {kMost, kMost, kLeast, kLeast})},
-        {"corners", picture(100).Record(0x061C, {kMost, kMost, kMost, kMost, kLeast, kLeast})},
-        {"polygon", picture(kMost).Record(0x0324, {3, kMost, kMost, kLeast, kLeast, 0, kMost})},
-        {"pen", pen(picture(100), kMost).Record(0x0325, {3, 10, 10, 20, 20, 10, 20})},
+        {"font under a mapping", text(picture(kMax), 1)},
+        {"ellipse", picture(100).Record(0x0418, {kMax, kMax, kMin, kMin})},
+        {"corners", picture(100).Record(0x061C, {kMax, kMax, kMax, kMax, kMin, kMin})},
+        {"polygon", picture(kMax).Record(0x0324, {3, kMax, kMax, kMin, kMin, 0, kMax})},
+        {"pen", pen(picture(100), kMax).Record(0x0325, {3, 10, 10, 20, 20, 10, 20})},
         {"frame", picture(1)
                       .Record(0x06FF, {0, 6, 0, 0, 0, 1, 2, 0, 0, 9, 9, 2, 0, 5, 1, 4, 2})
                       .Record(0x02FC, {0, 0, 0, 0})
-                      .Record(0x0429, {0, 1, kMost, kMost})},
+                      .Record(0x0429, {0, 1, kMax, kMax})},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

@@ -51,10 +51,10 @@ CRect Difference(const MemoryPicture& a, const MemoryPicture& b) {
 // The window server reports an area that another window has uncovered some time later: waits until the screen rests.
 void CopyRestingScreen(MemoryPicture& picture, const CRect& area) {
     constexpr unsigned kPause = 30; // milliseconds
-    constexpr int kMostReads = 20;
+    constexpr int kMaxReads = 20;
     MemoryPicture earlier;
     CopyScreen(picture, area);
-    for (int i = 0; i < kMostReads; ++i) {
+    for (int i = 0; i < kMaxReads; ++i) {
         std::swap(picture, earlier);
         HandleMessages(kPause);
         CopyScreen(picture, area);

@@ -20,7 +20,7 @@ auto FindStyle(TableStruct* table, uint16_t id) {
 }
 
 constexpr size_t kShownDashes = 8; // size of a caller's buffer
-constexpr int kMostLines = 256;
+constexpr int kMaxLines = 256;
 
 // Returns the line at that index and sets the cookie after it.
 const BrushPatternStruct* LineAt(TableStruct* table, uint16_t id, int index, int* cookie) {
@@ -81,7 +81,7 @@ void BrushPatternGetData(const BrushPatternStruct* pattern, double* angle, doubl
 
 uint16_t BrushStyleAddLines(TableStruct* table, const char* name, const BrushLine* lines, int count) {
     auto* styles = dynamic_cast<BrushStyleTable*>(Table::Find(table));
-    if (!styles || !name || count < 0 || count > kMostLines || (count && !lines)) return kNoId;
+    if (!styles || !name || count < 0 || count > kMaxLines || (count && !lines)) return kNoId;
     if (!std::all_of(lines, lines + count, HasFiniteNumbers)) return kNoId;
     std::vector<PatternLine> patternLines;
     std::transform(lines, lines + count, std::back_inserter(patternLines), FromHost);
@@ -91,7 +91,7 @@ uint16_t BrushStyleAddLines(TableStruct* table, const char* name, const BrushLin
 namespace {
 
 constexpr int kShownItems = 8; // size of a caller's buffer
-constexpr int kMostItems = 64;
+constexpr int kMaxItems = 64;
 
 int ShownItems(const LineStyle* style) {
     return style ? std::min(static_cast<int>(style->pattern.size()), kShownItems) : 0;
@@ -112,7 +112,7 @@ int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {
 
 uint16_t LineStyleAdd(TableStruct* table, const char* name, const char* description, const double* pattern, int count) {
     auto* styles = dynamic_cast<LineStyleTable*>(Table::Find(table));
-    if (!styles || !name || count < 0 || count > kMostItems || (count && !pattern)) return kNoId;
+    if (!styles || !name || count < 0 || count > kMaxItems || (count && !pattern)) return kNoId;
     std::vector<double> items(pattern, pattern + count);
     if (!std::all_of(items.begin(), items.end(), [](double item) { return std::isfinite(item); })) return kNoId;
     return styles->Add(std::make_unique<LineStyle>(name, description ? description : "", std::move(items)));

@@ -43,7 +43,7 @@ public:
     }
     void operator()(const Boxed<MText>& text) {
         const FormattedText formatted = ReadInlineCodes(text->text, HeightOf(*text, document_));
-        const InlineFormat format = formatted.Prevailing();
+        const InlineFormat format = formatted.DominantFormat();
         appearance_.varied = VariedBits(formatted, format);
         appearance_.text = TextAppearanceOf(*text, document_.At(text->style), format);
         if (format.color >= 0 || format.trueColor >= 0) appearance_.color = ColorOf(format.color, format.trueColor);

@@ -12,8 +12,8 @@ namespace {
 
 using Family = Hatch::PatternLine;
 
-constexpr size_t kMostLines = 256; // far more than in the largest real patterns
-constexpr size_t kMostDashes = 64;
+constexpr size_t kMaxLines = 256; // far more than in the largest real patterns
+constexpr size_t kMaxDashes = 64;
 
 Vec3 Turned(const Vec3& p, double angle, double scale) {
     const double c = std::cos(angle) * scale, s = std::sin(angle) * scale;
@@ -40,9 +40,9 @@ double Spacing(const Family& line) {
 }
 
 bool IsValid(const std::vector<Family>& lines) {
-    return !lines.empty() && lines.size() <= kMostLines &&
+    return !lines.empty() && lines.size() <= kMaxLines &&
            std::all_of(lines.begin(), lines.end(), [](const Family& line) {
-               return Spacing(line) > 0 && std::isfinite(Spacing(line)) && line.dashes.size() <= kMostDashes;
+               return Spacing(line) > 0 && std::isfinite(Spacing(line)) && line.dashes.size() <= kMaxDashes;
            });
 }
 

@@ -158,12 +158,12 @@ void EntityReader::ReadInsert(Entity& entity) {
         {43, &Insert::scaleZ},        {50, &Insert::rotation},   {70, &Insert::columns}, {71, &Insert::rows},
         {44, &Insert::columnSpacing}, {45, &Insert::rowSpacing},
     };
-    constexpr uint32_t kMostCells = INT16_MAX; // the file format's own limit
+    constexpr uint32_t kMaxCells = INT16_MAX; // the file format's own limit
     Insert& insert = *entity.shape.emplace<Boxed<Insert>>(std::make_unique<Insert>());
     ReadTags(kFields, insert, entity);
     TakeExtended(entity);
-    insert.columns = std::clamp(insert.columns, 1u, kMostCells);
-    insert.rows = std::clamp(insert.rows, 1u, kMostCells);
+    insert.columns = std::clamp(insert.columns, 1u, kMaxCells);
+    insert.rows = std::clamp(insert.rows, 1u, kMaxCells);
     ReadAttributesOf(insert);
 }
 

@@ -256,7 +256,7 @@ std::string FormattedText::Plain() const {
     return plain;
 }
 
-InlineFormat FormattedText::Prevailing() const {
+InlineFormat FormattedText::DominantFormat() const {
     const auto longest = std::max_element(runs.begin(), runs.end(),
                                           [](const Run& a, const Run& b) { return a.text.size() < b.text.size(); });
     return longest == runs.end() ? InlineFormat() : longest->format;

@@ -32,7 +32,7 @@ struct FormattedText {
 
     std::string Plain() const;
     // Returns the format of most of the text, for hosts with one format per text.
-    InlineFormat Prevailing() const;
+    InlineFormat DominantFormat() const;
 };
 
 // height: height of the text in drawing units, also the unit of heights in the codes.

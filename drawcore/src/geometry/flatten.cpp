@@ -8,7 +8,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostSteps = 2048;    // for a full turn, or a span of a spline
+constexpr int kMaxSteps = 2048;     // for a full turn, or a span of a spline
 constexpr int kStepsByDefault = 64; // likewise, without a tolerance
 
 // Returns the number of equal steps for which all chords stay within tolerance of a circle.
@@ -16,7 +16,7 @@ int StepsForTurn(double radius, double tolerance) {
     if (!(tolerance > 0)) return kStepsByDefault;
     if (radius <= tolerance) return 4;
     const double angle = 2 * std::acos(1 - tolerance / radius);
-    return static_cast<int>(std::clamp(std::ceil(2 * kPi / angle), 8.0, static_cast<double>(kMostSteps)));
+    return static_cast<int>(std::clamp(std::ceil(2 * kPi / angle), 8.0, static_cast<double>(kMaxSteps)));
 }
 
 double ParameterAt(double low, double high, int step, int steps) {
@@ -70,7 +70,7 @@ void FlattenSpline(const SplineCurve& curve, const Matrix& matrix, double tolera
             bend = std::max(bend, std::hypot(a.x - 2 * b.x + c.x, a.y - 2 * b.y + c.y));
         }
         const double wanted = tolerance > 0 ? std::sqrt(bend / tolerance / 8) * curve.degree : kStepsByDefault;
-        const int steps = static_cast<int>(std::clamp(std::ceil(wanted), 2.0, static_cast<double>(kMostSteps)));
+        const int steps = static_cast<int>(std::clamp(std::ceil(wanted), 2.0, static_cast<double>(kMaxSteps)));
         for (int i = 1; i <= steps; ++i)
             path.LineTo(matrix.Plan(curve.At(ParameterAt(low, high, i, steps))), false);
     }

@@ -25,7 +25,7 @@ void InvalidateInsertions(const Graphic& content) {
 } // namespace
 
 Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{} {
-    MakeHostParts();
+    ConstructHostParts();
     SetPropertyTable(properties);
     bType = type;
     dwFlags = kFlagNoParent | kFlagDirty;
@@ -35,7 +35,7 @@ Graphic::Graphic(uint8_t type, const PropertyTable* properties) : GraphicStruct{
 Graphic::Graphic(const Graphic& other)
     : GraphicStruct(other), info(other.info ? std::make_unique<std::string>(*other.info) : nullptr), layer(other.layer),
       styleTree(other.styleTree) {
-    MakeHostParts();
+    ConstructHostParts();
     GetHostData().drawing = other.GetHostData().drawing;
     GetHostData().properties = other.GetHostData().properties;
     GetPen() = other.GetPen();
@@ -51,7 +51,7 @@ void Graphic::SetBrush(const Brush& brush) {
     brush_ = brush == kNoBrush ? nullptr : std::make_unique<const Brush>(brush);
 }
 
-void Graphic::MakeHostParts() {
+void Graphic::ConstructHostParts() {
     new (host8) Pen;
     new (host68) HostData;
     new (host28) Extents;

@@ -140,7 +140,7 @@ private:
     HostData& GetHostData() { return *Place<HostData>(host68); }
     const HostData& GetHostData() const { return *Place<HostData>(const_cast<Graphic*>(this)->host68); }
     Extents& Box() const { return *Place<Extents>(const_cast<Graphic*>(this)->host28); }
-    void MakeHostParts();
+    void ConstructHostParts();
 
     // In 32-bit programs the record's doubles are aligned to 4 bytes, which the supported processors can read.
     template <class Value, size_t size>

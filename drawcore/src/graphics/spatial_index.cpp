@@ -107,8 +107,8 @@ void SpatialIndex::Build(const Graphic& group) {
 void SpatialIndex::AddNewMembers(const Graphic& group) {
     for (; known_ < group.MemberCount(); ++known_)
         changed_.push_back(static_cast<uint32_t>(known_));
-    constexpr size_t kFew = 64;
-    if (!tree_ || changed_.size() > kFew + group.MemberCount() / 16)
+    constexpr size_t kMinRebuild = 64;
+    if (!tree_ || changed_.size() > kMinRebuild + group.MemberCount() / 16)
         return Build(group); // faster than updating one by one
     for (const uint32_t index : changed_) {
         Graphic& member = *group.MemberAt(index);

@@ -118,7 +118,7 @@ int UndoLog::Cancel() {
     if (!open_) return 0;
     open_ = false;
     steps_.back().Close();
-    TellListener();
+    NotifyListener();
     const int restored = steps_.back().Restore();
     steps_.pop_back();
     return restored;
@@ -140,7 +140,7 @@ void UndoLog::EnforceLimit() {
 }
 
 int UndoLog::Turn(std::deque<Step>& from, std::deque<Step>& to) {
-    TellListener();
+    NotifyListener();
     Step& step = from.back();
     to.push_back(step.CurrentState());
     const int restored = step.Restore();
@@ -179,18 +179,18 @@ void UndoLog::AddToStep(Graphic& graphic) {
 }
 
 void UndoLog::SaveAppearance(Graphic& graphic) {
-    TellListener();
+    NotifyListener();
     if (InOpenStep(graphic)) return;
     AddToStep(graphic);
     steps_.back().Add(graphic);
 }
 
-void UndoLog::TellListener() const {
+void UndoLog::NotifyListener() const {
     if (listener_.changing) listener_.changing(listener_.context);
 }
 
 void UndoLog::SaveState(Graphic& graphic) {
-    TellListener();
+    NotifyListener();
     Saved* entry = InOpenStep(graphic);
     if (entry && entry->state) return;
     std::unique_ptr<Graphic> state = graphic.CloneState();

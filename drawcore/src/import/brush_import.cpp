@@ -7,11 +7,11 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostNumbers = 1000; // for different patterns with the same name
+constexpr int kMaxNumbers = 1000; // for different patterns with the same name
 
 // Returns the style with these lines, under the name or the name with a number, or 0 if the table is full.
 Id FindOrAddStyle(const std::string& name, const std::vector<dxf::Hatch::PatternLine>& lines, BrushStyleTable& styles) {
-    for (int number = 1; number <= kMostNumbers; ++number) {
+    for (int number = 1; number <= kMaxNumbers; ++number) {
         const std::string numbered = number == 1 ? name : name + " " + std::to_string(number);
         const BrushStyle* known = styles.At(numbered);
         if (!known) return styles.Add(std::make_unique<BrushStyle>(numbered, LinesFromFile(lines)));

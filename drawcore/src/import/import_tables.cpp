@@ -41,11 +41,11 @@ Id FindOrAdd(TableOf<Entry>& table, const std::string& name, const Make& make) {
 
 // Returns a pattern that can be drawn, or a solid line.
 std::vector<double> ValidPattern(const std::vector<double>& dashes) {
-    constexpr size_t kMostItems = 64;
+    constexpr size_t kMaxItems = 64;
     double length = 0;
     for (const double item : dashes)
         length += std::fabs(item);
-    return length > 0 && dashes.size() <= kMostItems ? dashes : std::vector<double>();
+    return length > 0 && dashes.size() <= kMaxItems ? dashes : std::vector<double>();
 }
 
 Id ImportLineStyle(const dxf::LineType& type, LineStyleTable& styles) {

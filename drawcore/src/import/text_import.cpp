@@ -76,7 +76,7 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
     if (plain.empty()) return nullptr;
     for (size_t tab; (tab = plain.find('\t')) != plain.npos;)
         plain.replace(tab, 1, "    ");
-    const dxf::InlineFormat format = formatted.Prevailing();
+    const dxf::InlineFormat format = formatted.DominantFormat();
     auto graphic = std::make_unique<TextGraphic>();
     TextState& state = graphic->state;
     state.text = Utf16FromUtf8(plain);

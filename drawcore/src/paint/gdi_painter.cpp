@@ -15,7 +15,7 @@ namespace {
 constexpr double kFinestDashes = 3; // minimum period in pixels; finer patterns are drawn solid
 constexpr double kFinestHatch = 2;  // minimum distance of lines in pixels; finer hatches are drawn as a tint
 constexpr double kSmallestText = 2; // minimum height of a capital letter in pixels; smaller texts are drawn as lines
-constexpr size_t kMostWaiting = 4096;
+constexpr size_t kMaxWaiting = 4096;
 
 POINT ToDevice(const Point& p) {
     return {static_cast<LONG>(std::floor(p.x + 0.5)), static_cast<LONG>(std::floor(p.y + 0.5))};
@@ -138,7 +138,7 @@ void GdiPainter::Stroke(const Path& path, const PenUse& use) {
 }
 
 void GdiPainter::AddLines(const Path& path, const PenKey& key, bool lastPixel) {
-    if (!(key == waiting_) || points_.size() > kMostWaiting) Flush();
+    if (!(key == waiting_) || points_.size() > kMaxWaiting) Flush();
     waiting_ = key;
     for (size_t line = 0; line < path.Count(); ++line)
         AddPolyline(path, line, key, lastPixel && key.width == 1);

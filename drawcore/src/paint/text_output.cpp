@@ -31,8 +31,8 @@ bool Place(const TextRow& row, XFORM& form, POINT& position) {
     if (!(std::fabs(px) < kFarthest && std::fabs(py) < kFarthest)) return false;
     position = {static_cast<LONG>(std::lround(px)), static_cast<LONG>(std::lround(py))};
     const auto side = [](FLOAT a, FLOAT b) { return std::fabs(a) + std::fabs(b); };
-    constexpr FLOAT kMostPixels = 0.9f; // rounding a unit is then less than half a pixel
-    if (side(form.eM11, form.eM21) > kMostPixels || side(form.eM12, form.eM22) > kMostPixels) {
+    constexpr FLOAT kMaxPixels = 0.9f; // rounding a unit is then less than half a pixel
+    if (side(form.eM11, form.eM21) > kMaxPixels || side(form.eM12, form.eM22) > kMaxPixels) {
         position = {};
         form.eDx = static_cast<FLOAT>(x);
         form.eDy = static_cast<FLOAT>(y);

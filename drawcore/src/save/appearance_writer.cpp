@@ -80,11 +80,11 @@ void AppearanceWriter::WriteExtendedValue() {
         if (isNew && exact_.count(value.name) == 0) ++drawing_.onlyExtended_[value.name];
     }
     const std::vector<RecordPatch::Value> values = ExtendedValues(*entity_.own, drawing_.in_.decoder);
-    constexpr size_t kMost = 16383; // maximum number of bytes of extended data per entity
+    constexpr size_t kMax = 16383; // maximum number of bytes of extended data per entity
     size_t size = 0;
     for (const RecordPatch::Value& value : values)
         size += value.code == kExtendedReal ? sizeof(double) : value.text.size() + 1;
-    if (size > kMost) throw SaveError("an attribute text is longer than the file format allows");
+    if (size > kMax) throw SaveError("an attribute text is longer than the file format allows");
     if (!values.empty()) drawing_.tables_.AddApplication(kApplication);
     record_.SetExtended(kApplication, values);
 }

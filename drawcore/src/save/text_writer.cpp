@@ -116,7 +116,7 @@ void PutFaceCode(MText& text, const TextAppearance& appearance) {
 void PutAlignment(MText& text, uint16_t format) {
     const int row = (text.attachment - 1) / 3;
     const FormattedText shown = ReadInlineCodes(text.text, text.height);
-    if (shown.Prevailing().alignment == 0)
+    if (shown.DominantFormat().alignment == 0)
         text.attachment = row * 3 + format + 1;
     else
         text.text = std::string("\\pxq") + "lcr"[format] + ";" + WithoutCodes(text.text, "p");

@@ -10,7 +10,7 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostDigits = 12;
+constexpr int kMaxDigits = 12;
 
 int IntegerVariable(const Table& units, uint16_t variable, int otherwise) {
     const int* value = units.Variable<int>(variable);
@@ -47,7 +47,7 @@ LengthFormat LengthFormatOf(const Table& units) {
     LengthFormat format;
     format.system =
         SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, fresh.lengthSystem);
-    format.digits = std::clamp(IntegerVariable(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMostDigits);
+    format.digits = std::clamp(IntegerVariable(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMaxDigits);
     return format;
 }
 
@@ -55,7 +55,7 @@ AngleFormat AngleFormatOf(const Table& units) {
     const UnitSettings fresh;
     AngleFormat format;
     format.system = SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
-    format.digits = std::clamp(IntegerVariable(units, kUnitAngularDigits, fresh.angleDigits), 0, kMostDigits);
+    format.digits = std::clamp(IntegerVariable(units, kUnitAngularDigits, fresh.angleDigits), 0, kMaxDigits);
     return format;
 }
 

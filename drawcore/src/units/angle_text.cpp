@@ -12,8 +12,8 @@ namespace drawcore {
 namespace {
 
 constexpr double kDegree = 0.017453292519943295, kGrad = 0.015707963267948967, kRight = 90 * kDegree;
-constexpr double kMostSteps = 1e15; // the largest number whose last decimal digit a double represents
-constexpr double kNoAngle = 1e-15;  // in radians; smaller results are rounding errors of a full turn
+constexpr double kMaxSteps = 1e15; // the largest number whose last decimal digit a double represents
+constexpr double kNoAngle = 1e-15; // in radians; smaller results are rounding errors of a full turn
 
 constexpr struct {
     const char* name;
@@ -30,7 +30,7 @@ double FindUnit(std::string_view name) {
     return 0;
 }
 
-double BareUnit(AngleSystem system) {
+double UnitOf(AngleSystem system) {
     if (system == AngleSystem::Radians) return 1;
     return system == AngleSystem::Grads ? kGrad : kDegree;
 }
@@ -42,7 +42,7 @@ bool IsDivided(double unit) {
 
 class Angles : public Measure {
 public:
-    explicit Angles(double bare) : Measure(bare) {}
+    explicit Angles(double defaultUnit) : Measure(defaultUnit) {}
 
     double Unit(std::string_view name) const override { return FindUnit(name); }
 
@@ -74,7 +74,7 @@ std::string_view WithoutBlanks(std::string_view text) {
 }
 
 // Parses "N 45d E", from north or south toward east or west, or a single "N", "E", "S" or "W".
-bool ReadBearing(std::string_view input, double bare, double& radians) {
+bool ReadBearing(std::string_view input, double defaultUnit, double& radians) {
     const std::string text = dxf::FoldName(WithoutBlanks(input));
     constexpr std::string_view kDirections = "enws";
     if (text.size() == 1 && kDirections.find(text[0]) != kDirections.npos) {
@@ -86,7 +86,7 @@ bool ReadBearing(std::string_view input, double bare, double& radians) {
     double away = 0;
     if (side != 'e' && side != 'w') return false;
     const std::string_view middle = std::string_view(text).substr(1, text.size() - 2);
-    if (!ReadMeasured(middle, Angles(bare), away) || away < 0 || away > kRight) return false;
+    if (!ReadMeasured(middle, Angles(defaultUnit), away) || away < 0 || away > kRight) return false;
     const bool north = text[0] == 'n';
     radians = (north ? 1 : 3) * kRight + (north == (side == 'w') ? away : -away);
     return true;
@@ -102,7 +102,7 @@ public:
     bool Count(double degrees, double error, double& steps) {
         for (;;) {
             steps = std::round(degrees * StepsOfDegree());
-            if (std::fabs(steps / StepsOfDegree() - degrees) <= error) return std::fabs(steps) < kMostSteps;
+            if (std::fabs(steps / StepsOfDegree() - degrees) <= error) return std::fabs(steps) < kMaxSteps;
             if (level_ == kFinest) return false;
             ++level_;
         }
@@ -158,12 +158,12 @@ std::string WriteBearing(double degrees, int digits) {
 
 } // namespace
 
-bool ReadAngle(std::string_view text, AngleSystem bare, double& radians) {
-    return ReadBearing(text, BareUnit(bare), radians) || ReadMeasured(text, Angles(BareUnit(bare)), radians);
+bool ReadAngle(std::string_view text, AngleSystem system, double& radians) {
+    return ReadBearing(text, UnitOf(system), radians) || ReadMeasured(text, Angles(UnitOf(system)), radians);
 }
 
 std::string WriteAngle(double radians, const AngleFormat& format) {
-    const double number = std::fabs(radians) < kNoAngle ? 0 : radians / BareUnit(format.system);
+    const double number = std::fabs(radians) < kNoAngle ? 0 : radians / UnitOf(format.system);
     if (!std::isfinite(number)) return {};
     if (format.system == AngleSystem::DegreesMinutesSeconds) return WriteDegrees(number, format.digits);
     if (format.system == AngleSystem::Bearings) return WriteBearing(number, format.digits);

@@ -23,7 +23,7 @@ struct AngleFormat {
 
 // Parses an angle to radians; a number without a unit is in the unit of the system. Returns false and leaves radians
 // unchanged if the text is not an angle.
-bool ReadAngle(std::string_view text, AngleSystem bare, double& radians);
+bool ReadAngle(std::string_view text, AngleSystem system, double& radians);
 
 // Returns an empty string if the angle is not a number. An angle outside 0 to 360 degrees is not formatted as a
 // bearing, but in degrees, minutes and seconds. An angle that rounds to a compass direction is formatted as that

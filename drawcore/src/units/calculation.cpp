@@ -82,7 +82,7 @@ private:
     bool Add(Quantity& sum, Quantity next, double sign) const {
         const bool measured = sum.measured || next.measured;
         for (Quantity* part : {&sum, &next})
-            if (measured && !part->measured) part->value *= measure_->Bare();
+            if (measured && !part->measured) part->value *= measure_->DefaultUnit();
         return Set(sum, {Stored(sum.value + sign * next.value), measured});
     }
 
@@ -116,7 +116,7 @@ bool ReadLiteral(TextCursor cursor, const Measure& measure, double& value) {
     Quantity one;
     const bool negative = cursor.ConsumeMinus();
     if (!measure.ReadOne(cursor, one) || !cursor.AtEnd()) return false;
-    const double size = one.measured ? one.value : one.value * measure.Bare();
+    const double size = one.measured ? one.value : one.value * measure.DefaultUnit();
     value = negative ? -size : size;
     return true;
 }
@@ -124,7 +124,7 @@ bool ReadLiteral(TextCursor cursor, const Measure& measure, double& value) {
 bool ReadWithoutUnit(TextCursor cursor, const Measure& measure, double& value) {
     double number = 0;
     if (!ReadCalculation(cursor, number) || !cursor.AtEnd()) return false;
-    value = number * measure.Bare();
+    value = number * measure.DefaultUnit();
     return true;
 }
 

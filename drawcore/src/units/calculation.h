@@ -21,17 +21,17 @@ struct Quantity {
 // Lengths or angles.
 class Measure {
 public:
-    // bare: unit of numbers without one.
-    explicit Measure(double bare) : bare_(bare) {}
+    // defaultUnit: unit of numbers without one.
+    explicit Measure(double defaultUnit) : defaultUnit_(defaultUnit) {}
     virtual ~Measure() = default;
-    double Bare() const { return bare_; }
+    double DefaultUnit() const { return defaultUnit_; }
     // Returns 0 if there is no such unit.
     virtual double Unit(std::string_view name) const = 0;
     // Parses a number with or without a unit, or several that form one ("1'-6 1/2\"", "12d30'"), without a sign.
     virtual bool ReadOne(TextCursor& cursor, Quantity& quantity) const = 0;
 
 private:
-    double bare_;
+    double defaultUnit_;
 };
 
 // Parses the longest calculation with plain numbers. Returns false and leaves cursor and value unchanged if there is
@@ -40,8 +40,8 @@ bool ReadCalculation(TextCursor& cursor, double& value);
 
 // Parses the whole text to the measure's own unit. A number can be multiplied and divided only by a number without a
 // unit, and added to others of its kind. A single unit at the end applies to the whole calculation ("100+50 mm"); if
-// there are other units, a number without one has the bare unit ("2 in + 3"). Returns false and leaves value unchanged
-// if the text is anything else.
+// there are other units, a number without one has the default unit ("2 in + 3"). Returns false and leaves value
+// unchanged if the text is anything else.
 bool ReadMeasured(std::string_view text, const Measure& measure, double& value);
 
 } // namespace drawcore

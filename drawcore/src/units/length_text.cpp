@@ -12,11 +12,11 @@ namespace drawcore {
 namespace {
 
 constexpr double kInch = kMillimetersPerInch, kFoot = 304.8; // exactly 12 inches
-constexpr int kMostDecimals = 12;
+constexpr int kMaxDecimals = 12;
 
 class Lengths : public Measure {
 public:
-    explicit Lengths(const LengthUnit& bare) : Measure(bare.millimeters) {}
+    explicit Lengths(const LengthUnit& defaultUnit) : Measure(defaultUnit.millimeters) {}
 
     double Unit(std::string_view name) const override {
         const LengthUnit* unit = FindLengthUnit(name);
@@ -89,9 +89,8 @@ std::string FractionText(double steps, double perUnit) {
 std::string FeetAndInches(double steps, double perInch, const LengthFormat& format) {
     const double feet = std::floor(steps / (12 * perInch));
     const double rest = steps - feet * 12 * perInch;
-    const std::string inches = format.system == LengthSystem::Architectural
-                                   ? FractionText(rest, perInch)
-                                   : DecimalText(rest / perInch, kMostDecimals);
+    const std::string inches = format.system == LengthSystem::Architectural ? FractionText(rest, perInch)
+                                                                            : DecimalText(rest / perInch, kMaxDecimals);
     return (feet > 0 ? Plain(feet) + "'-" : std::string()) + inches + "\"";
 }
 
@@ -101,7 +100,7 @@ std::string WriteFeetAndInches(double millimeters, const LengthFormat& format) {
     const int digits = fractions ? format.digits : DecimalsFor(inches, format.digits);
     const double perInch = std::pow(fractions ? 2 : 10, digits);
     double steps = 0;
-    if (digits <= kMostDecimals && CountSteps(inches, perInch, steps))
+    if (digits <= kMaxDecimals && CountSteps(inches, perInch, steps))
         return (inches < 0 ? "-" : "") + FeetAndInches(steps, perInch, format);
     const std::string number = DecimalText(inches, format.digits);
     return number.empty() ? number : number + "\"";
@@ -116,8 +115,8 @@ std::string WriteFraction(double number, const LengthFormat& format) {
 
 } // namespace
 
-bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimeters) {
-    return ReadMeasured(text, Lengths(bare), millimeters);
+bool ReadLength(std::string_view text, const LengthUnit& defaultUnit, double& millimeters) {
+    return ReadMeasured(text, Lengths(defaultUnit), millimeters);
 }
 
 std::string WriteLength(double millimeters, const LengthUnit& unit, const LengthFormat& format) {

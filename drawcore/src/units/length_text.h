@@ -23,9 +23,9 @@ struct LengthFormat {
     bool suffix = false; // append the unit's name after a blank if the format has no unit signs
 };
 
-// Parses a length to millimeters; a number without a unit has the given one. Returns false and leaves millimeters
+// Parses a length to millimeters; a number without a unit is in the default unit. Returns false and leaves millimeters
 // unchanged if the text is not a length.
-bool ReadLength(std::string_view text, const LengthUnit& bare, double& millimeters);
+bool ReadLength(std::string_view text, const LengthUnit& defaultUnit, double& millimeters);
 
 // Returns an empty string if the length is not a number. Feet and inches (engineering, architectural) are independent
 // of the unit. A length that is too large for its format, or too small for a fraction, is formatted as a decimal.

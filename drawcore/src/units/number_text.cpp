@@ -14,8 +14,8 @@ namespace drawcore {
 
 namespace {
 
-constexpr int kMostDigits = 17;    // significant digits of a double
-constexpr int kFewestDecimals = 3; // for a mantissa: four significant digits
+constexpr int kMaxDigits = 17;  // significant digits of a double
+constexpr int kMinDecimals = 3; // for a mantissa: four significant digits
 
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
@@ -83,7 +83,7 @@ size_t ScanInteger(std::string_view text, double& value) {
 }
 
 int DecimalsFor(double value, int decimals) {
-    return std::max(decimals, kFewestDecimals - DecimalExponent(value));
+    return std::max(decimals, kMinDecimals - DecimalExponent(value));
 }
 
 std::string DecimalText(double value, int decimals) {
@@ -98,8 +98,8 @@ std::string DecimalText(double value, int decimals) {
 std::string ScientificText(double value, int decimals) {
     constexpr double kAlmostTooLarge = 1e300; // rounding up can overflow in a larger unit
     if (!std::isfinite(value)) return {};
-    if (std::fabs(value) > kAlmostTooLarge) decimals = kMostDigits - 1;
-    return Marked(Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, kFewestDecimals))));
+    if (std::fabs(value) > kAlmostTooLarge) decimals = kMaxDigits - 1;
+    return Marked(Trimmed(Format(value, std::chars_format::scientific, std::max(decimals, kMinDecimals))));
 }
 
 } // namespace drawcore
@@ -122,7 +122,7 @@ double StringToDouble(int, const char* text, char** end) {
 void DoubleToString(int, double value, int digits, char* buffer, int, int exponentForm, int) {
     constexpr size_t kLongest = 31;
     if (!buffer) return;
-    const int decimals = std::clamp(digits, 1, kMostDigits) - 1;
+    const int decimals = std::clamp(digits, 1, kMaxDigits) - 1;
     std::string text = Format(value, std::chars_format::scientific, decimals);
     if (!exponentForm && std::isfinite(value)) {
         // The exponent after rounding: 9.9999996 with six digits is 10.
