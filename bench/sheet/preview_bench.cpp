@@ -15,7 +15,7 @@ namespace {
 constexpr int kRounds = 31;
 constexpr int kPaints = 50; // per round
 
-// A window of the pane's size that only lets the host draw.
+// A window of the pane's size in which only the host draws.
 class BarePane : public CWnd {
 public:
     BarePane(HWND parent, GraphicStruct* graphic) : m_graphic(graphic), m_viewport(::ViewportNewEx()) {

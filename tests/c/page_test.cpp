@@ -32,7 +32,7 @@ std::string ErrorText() {
     return text;
 }
 
-// A host with a fire rating in its property table and a price in a table of its own.
+// A host with a fire rating in its property table and a price in its own table.
 class CPages : public ::testing::Test {
 protected:
     CPages() {
@@ -255,7 +255,7 @@ protected:
     HWND Sheet() const { return ::FindWindowExA(window, nullptr, "#32770", nullptr); }
     HWND Field(int id) const { return ::GetDlgItem(ActivePageOf(Sheet()), id); }
     void ShowRoom() { CPages::ShowRoom(Sheet()); }
-    // Types as a host's message loop takes the keys.
+    // Posts a key to the message loop, and handles it there as a host does.
     void Post(HWND field, UINT message, WPARAM wParam) {
         ::PostMessageA(field, message, wParam, 1);
         Pump();

@@ -6,7 +6,7 @@
 
 namespace {
 
-// The host beside this test program, or the one named by EXAMPLE_HOST.
+// The host in the folder of this test program, or the one named by EXAMPLE_HOST.
 class ExampleHost : public HostProcess {
 protected:
     void StartOver(const std::string& drawing) {

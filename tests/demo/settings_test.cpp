@@ -47,7 +47,7 @@ protected:
         const CPoint from(2, 50), to(2 + pixels, 50);
         ::SendMessageA(bar, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
         ::SendMessageA(bar, WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
-        // The splitter has followed.
+        // The splitter has moved along.
         ::SendMessageA(bar, WM_LBUTTONUP, 0, MAKELPARAM(from.x, from.y));
         user.Wait(0);
     }

@@ -53,7 +53,7 @@ TEST(InlineCodes, HeightsAreRelativeToTheText) {
     EXPECT_EQ(text.runs[1].format.scale, 1.25);
 }
 
-TEST(InlineCodes, PrevailingFormatIsThatOfMostText) {
+TEST(InlineCodes, DominantFormatIsThatOfMostText) {
     EXPECT_EQ(dxf::ReadInlineCodes("ab{\\fArial|b1;long part}", 1).DominantFormat().font, "Arial");
     EXPECT_EQ(dxf::ReadInlineCodes("", 1).DominantFormat().font, "");
 }

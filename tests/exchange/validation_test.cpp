@@ -21,16 +21,16 @@ protected:
         }
         EXPECT_TRUE(boxes.Boxes().empty());
     }
-    // says: part of the message.
-    void ExpectFails(const std::string& says, const Check& check) {
-        SCOPED_TRACE(says);
+    // message: a part of the displayed text.
+    void ExpectFails(const std::string& message, const Check& check) {
+        SCOPED_TRACE(message);
         MessageBoxWatcher boxes;
         EXPECT_EQ(check(1, &m_load), 1) << "loading does not validate";
         EXPECT_EQ(check(0, &m_save), 0);
         EXPECT_TRUE(boxes.Boxes().empty());
         EXPECT_TRUE(Fails([&] { check(1, &m_save); }));
         ASSERT_EQ(boxes.Boxes().size(), 1u);
-        EXPECT_NE(std::string::npos, boxes.Boxes()[0].text.find(says)) << boxes.Boxes()[0].text;
+        EXPECT_NE(std::string::npos, boxes.Boxes()[0].text.find(message)) << boxes.Boxes()[0].text;
         EXPECT_TRUE(boxes.Boxes()[0].exclamation);
     }
 };

@@ -48,7 +48,7 @@ TEST(HostTrouble, ExceptionWhileDrawingIsReportedOnce) {
     }
 }
 
-// A page that cannot be loaded does not open, and can be tried again.
+// A page that cannot be loaded does not open; the next attempt may succeed.
 TEST(HostTrouble, UnreadablePageIsReportedAndThePreviousOneStays) {
     for (const auto& failure : kFailures) {
         GraphicKit kit;

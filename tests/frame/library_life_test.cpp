@@ -1,5 +1,5 @@
-// Loading and unloading the library at run time, twice, beside host resources with the same numbers. This program is
-// not linked with the library.
+// Loading and unloading the library at run time, twice, together with host resources of the same numbers. This program
+// is not linked with the library.
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-// Pages that are made from a table, in a real sheet: each kind of row over equal, differing and absent values, what an
-// edit writes and what is refused, the layout, and the tables that cannot be a page.
+// Pages that are created from a table, in a real sheet: each kind of row for equal, differing and absent values, valid
+// and rejected edits, the layout, and invalid tables.
 
 #include <algorithm>
 #include <set>
@@ -230,7 +230,7 @@ TEST_P(FieldPageKinds, CallbacksReplaceTheTable) {
 INSTANTIATE_TEST_SUITE_P(All, FieldPageKinds, ::testing::ValuesIn(kKinds),
                          [](const auto& instance) { return std::string(instance.param.name); });
 
-// ---- What is refused while editing
+// ---- Rejected edits
 
 TEST_F(FieldPage, InvalidFieldKeepsThePageAndWritesNothing) {
     struct {
@@ -631,7 +631,7 @@ TEST_F(FieldPage, HasTheReadingDirectionOfTheOwner) {
     });
 }
 
-// ---- Wrong tables
+// ---- Invalid tables
 
 struct WrongTable {
     const char* name;

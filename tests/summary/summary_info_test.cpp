@@ -309,7 +309,7 @@ protected:
 };
 
 // With every number of free sectors up to the required one: all streams are unchanged, or only the summary is new, as
-// the result says.
+// the result indicates.
 TEST_P(Saving, KeepsEveryByteOnAFullDisk) {
     const Streams after = StreamsOf(SaveWithFreeSpace(document_, 100000, mode_, summary_.get()).file);
     ASSERT_NE(after, before_);

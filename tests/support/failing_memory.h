@@ -11,7 +11,7 @@ class FailingMemory {
 public:
     // Throws std::runtime_error if the module does not import operator new.
     FailingMemory(const char* module, int nth);
-    // Lets requests succeed again.
+    // Makes requests succeed again.
     ~FailingMemory();
     FailingMemory(const FailingMemory&) = delete;
     FailingMemory& operator=(const FailingMemory&) = delete;

@@ -48,8 +48,8 @@ CRect Difference(const MemoryPicture& a, const MemoryPicture& b) {
     return difference;
 }
 
-// The window server reports an area that another window has uncovered some time later: waits until the screen rests.
-void CopyRestingScreen(MemoryPicture& picture, const CRect& area) {
+// The window server reports an area that another window has uncovered some time later: waits for a stable screen.
+void CopyStableScreen(MemoryPicture& picture, const CRect& area) {
     constexpr unsigned kPause = 30; // milliseconds
     constexpr int kMaxReads = 20;
     MemoryPicture earlier;
@@ -70,7 +70,7 @@ std::string StalePart(HWND window) {
     ::GetWindowRect(window, area);
     MemoryPicture shown, fresh;
     HandleMessages();
-    CopyRestingScreen(shown, area);
+    CopyStableScreen(shown, area);
     ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     HandleMessages();
     CopyScreen(fresh, area);
