@@ -16,9 +16,10 @@ BOOL CFrameWnd::Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyl
         menu = ::LoadMenuA(AfxFindResourceHandle(lpszMenuName, reinterpret_cast<LPCSTR>(RT_MENU)), lpszMenuName);
         if (menu == nullptr) return FALSE;
     }
-    const bool chosen = ::EqualRect(&rect, &rectDefault);
+    const bool isDefault = ::EqualRect(&rect, &rectDefault);
     return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
-                    chosen ? CW_USEDEFAULT : rect.right - rect.left, chosen ? CW_USEDEFAULT : rect.bottom - rect.top,
+                    isDefault ? CW_USEDEFAULT : rect.right - rect.left,
+                    isDefault ? CW_USEDEFAULT : rect.bottom - rect.top,
                     pParentWnd != nullptr ? pParentWnd->m_hWnd : nullptr, menu, pContext);
 }
 

@@ -113,7 +113,7 @@ TEST(Dialog, OtherExceptionsOfAnExchangeAreReported) {
     form.onOpen = [&](CForm& dialog) {
         dialog.check = [](CDataExchange* pDX) { pDX->PrepareCtrl(9999); };
         EXPECT_FALSE(dialog.UpdateData(TRUE));
-        EXPECT_EQ(boxes.OnlyText(), "This is not possible here.");
+        EXPECT_EQ(boxes.OnlyText(), "The operation is not supported.");
         dialog.EndDialog(7);
     };
     EXPECT_EQ(form.DoModal(), 7);

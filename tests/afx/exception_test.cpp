@@ -45,11 +45,11 @@ TEST_P(HandlerThatThrows, IsReportedOnce) {
 
 const Thrown kThrown[] = {
     {"User", [] { AfxThrowUserException(); }, nullptr},
-    {"NotSupported", [] { AfxThrowNotSupportedException(); }, "This is not possible here."},
+    {"NotSupported", [] { AfxThrowNotSupportedException(); }, "The operation is not supported."},
     {"File", [] { AfxThrowFileException(CFileException::fileNotFound, 2, "C:\\x 100%.txt"); },
-     "C:\\x 100%.txt: there is no such file."},
+     "C:\\x 100%.txt: the file was not found."},
     {"Standard", [] { throw std::runtime_error("ran out of luck"); }, "ran out of luck"},
-    {"Number", [] { throw 5; }, "Something went wrong inside the program."},
+    {"Number", [] { throw 5; }, "An internal error occurred."},
 };
 INSTANTIATE_TEST_SUITE_P(All, HandlerThatThrows, ::testing::ValuesIn(kThrown), [](auto& i) { return i.param.name; });
 
@@ -75,7 +75,7 @@ TEST(HandlerThatThrows, IsReportedOncePerWindowWhilePainting) {
             window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
         }
         EXPECT_FALSE(::GetUpdateRect(window.m_hWnd, nullptr, FALSE));
-        EXPECT_EQ(boxes.OnlyText(), "This is not possible here.");
+        EXPECT_EQ(boxes.OnlyText(), "The operation is not supported.");
     }
 }
 

@@ -76,9 +76,9 @@ TEST_P(SubString, IsExtracted) {
 }
 
 const Part kParts[] = {
-    {"First", "a\nbc\nd", 0, 1, "a"}, {"Middle", "a\nbc\nd", 1, 1, "bc"}, {"Last", "a\nbc\nd", 2, 1, "d"},
-    {"Behind", "a\nbc\nd", 3, 0, ""}, {"Empty", "a\n\nd", 1, 1, ""},      {"AfterTheLastFeed", "a\n", 1, 1, ""},
-    {"OfNothing", "", 0, 1, ""},      {"SecondOfNothing", "", 1, 0, ""},  {"OfNull", nullptr, 0, 0, ""},
+    {"First", "a\nbc\nd", 0, 1, "a"},     {"Middle", "a\nbc\nd", 1, 1, "bc"},  {"Last", "a\nbc\nd", 2, 1, "d"},
+    {"PastTheEnd", "a\nbc\nd", 3, 0, ""}, {"Empty", "a\n\nd", 1, 1, ""},       {"AfterTheLastFeed", "a\n", 1, 1, ""},
+    {"OfEmptyText", "", 0, 1, ""},        {"SecondOfEmptyText", "", 1, 0, ""}, {"OfNull", nullptr, 0, 0, ""},
 };
 INSTANTIATE_TEST_SUITE_P(All, SubString, ::testing::ValuesIn(kParts), [](auto& i) { return i.param.name; });
 

@@ -85,8 +85,7 @@ TEST(WriteBack, RejectedValuesAreCountedAndOthersWritten) {
         {"framework exception", AtWidth([] { AfxThrowUserException(); }), 1, "2 of 3 graphics could not be changed."},
         {"standard exception", AtWidth([] { throw std::runtime_error("no disk"); }), 1,
          "2 of 3 graphics could not be changed.\nno disk"},
-        {"anything", AtWidth([] { throw 1; }), 1,
-         "2 of 3 graphics could not be changed.\nSomething went wrong inside the program."},
+        {"anything", AtWidth([] { throw 1; }), 1, "2 of 3 graphics could not be changed.\nAn internal error occurred."},
     };
     for (const Refusal& refusal : kRefusals) {
         SCOPED_TRACE(refusal.name);

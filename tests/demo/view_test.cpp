@@ -16,11 +16,9 @@ struct WindowCase {
 };
 
 const WindowCase kWindows[] = {
-    {"InsideTakesWholeOnes", {2, 2}, {20, 38}, 2},
-    {"InsideLeavesCrossedOnes", {2, 2}, {30, 38}, 2},
-    {"CrossingTakesCrossedOnes", {30, 38}, {2, 2}, 4},
-    {"InsideOfNothing", {18, 18}, {22, 22}, 0},
-    {"AcrossALine", {32, 8}, {28, 12}, 1},
+    {"LeftToRightSelectsContained", {2, 2}, {20, 38}, 2}, {"LeftToRightSkipsCrossed", {2, 2}, {30, 38}, 2},
+    {"RightToLeftSelectsCrossed", {30, 38}, {2, 2}, 4},   {"LeftToRightOverNothing", {18, 18}, {22, 22}, 0},
+    {"RightToLeftAcrossALine", {32, 8}, {28, 12}, 1},
 };
 
 class SelectByWindow : public Viewer, public ::testing::WithParamInterface<WindowCase> {};

@@ -32,39 +32,39 @@ void PrintTo(const Row& row, std::ostream* to) {
 const std::string kHead = "5|1A|102|{ACAD_REACTORS|62|3|102|}|100|AcDbEntity|8|0|";
 
 const Row kRows[] = {
-    {"ANewGroupStandsWhereProgramsWriteIt", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
+    {"ANewGroupIsInItsUsualPosition", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "62|1|370|25|100|AcDbLine|10|0|20|0",
      [](Appearance& appearance) { appearance.color = 0x0000FF; }},
-    {"TheNameOfAColorGoesWithIt", "0|LINE|" + kHead + "62|3|420|1234|430|BOOK$GREEN|100|AcDbLine|10|0|20|0",
+    {"TheNameOfAColorIsRemovedWithIt", "0|LINE|" + kHead + "62|3|420|1234|430|BOOK$GREEN|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "62|1|100|AcDbLine|10|0|20|0", [](Appearance& appearance) { appearance.color = 0x0000FF; }},
     {"APlainGroupIsRemovedForByLayer", "0|LINE|" + kHead + "62|    3|100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
      "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0|1001|OTHER|1000|x",
      [](Appearance& appearance) { appearance.color = kColorByLayer; }},
-    {"ExtendedDataOfOthersStays",
+    {"ExtendedDataOfOthersIsPreserved",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|b^J^ |1002|}|1001|OTHER|1000|x",
      [](Appearance& appearance) {
          dxf::SetExtended(appearance, {kPropInfo, "b\n^", {}});
      }},
-    {"EmptyExtendedDataGoes",
+    {"EmptyExtendedDataIsRemoved",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|ORLO|1000|Info|1002|{|1000|a|1002|}|1001|OTHER|1000|x",
      "0|POINT|" + kHead + "100|AcDbPoint|10|0|20|0|1001|OTHER|1000|x",
      [](Appearance& appearance) { appearance.extended.clear(); }},
-    {"WidthsOfVerticesBecomeOne",
+    {"WidthsOfVerticesAreReplacedByOne",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|0|10|0|20|0|40|1|41|1|10|1|20|0|40|1|41|1",
      "0|LWPOLYLINE|" + kHead + "100|AcDbPolyline|90|2|70|128|43|2.5|10|0|20|0|10|1|20|0",
      [](Appearance& appearance) {
          appearance.width = 2.5;
          appearance.dashesFitted = false;
      }},
-    {"WidthsOfVertexRecordsGo",
+    {"WidthsOfVertexRecordsAreRemoved",
      "0|POLYLINE|" + kHead + "70|0|40|1|41|1|0|VERTEX|10|0|20|0|40|1|41|1|0|VERTEX|10|1|20|0|0|SEQEND",
      "0|POLYLINE|" + kHead + "370|35|70|0|0|VERTEX|10|0|20|0|0|VERTEX|10|1|20|0|0|SEQEND",
      [](Appearance& appearance) {
          appearance.width = 35 / dxf::kWeightsPerInch;
          appearance.worldWidth = false;
      }},
-    {"SeedsOfAHatchStay",
+    {"SeedsOfAHatchArePreserved",
      "0|HATCH|" + kHead +
          "100|AcDbHatch|2|SOLID|70|1|91|1|92|2|72|0|73|1|93|3|10|0|20|0|10|1|20|0|10|0|20|1|75|0|76|1|98|1|"
          "10|0|20|0|52|7",
@@ -77,7 +77,7 @@ const Row kRows[] = {
          appearance.brush.lines = {{0, {}, {0, 1, 0}, {}}};
          appearance.brush.scale = 2;
      }},
-    {"CodesWithinAnMTextGo", "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|3|{\\C3;a\\H3;|1|b\\P}",
+    {"CodesWithinAnMTextAreRemoved", "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|3|{\\C3;a\\H3;|1|b\\P}",
      "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|5.0|71|3|1|\\L{ab\\P}",
      [](Appearance& appearance) {
          appearance.color = 0x0000FF;
@@ -88,19 +88,19 @@ const Row kRows[] = {
      }},
     {"AWidthByLayerHasNoGroup", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0", [](Appearance& appearance) { appearance.width = kPenWidthByLayer; }},
-    {"AWidthByBlockHasOne", "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0",
+    {"AWidthByBlockHasAGroup", "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "370|-2|100|AcDbLine|10|0|20|0",
      [](Appearance& appearance) { appearance.width = kPenWidthByBlock; }},
-    {"AllOfATextTakesTheColorOfMostOfIt",
-     "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|1|{\\C1;most}{\\C3;x}",
+    {"AVariedTextGetsItsDominantColor", "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|1|1|{\\C1;most}{\\C3;x}",
      "0|MTEXT|" + kHead + "62|1|100|AcDbMText|10|0|20|0|40|2|71|1|1|{most}{x}",
      [](Appearance& appearance) { appearance.varied = 0; }},
-    {"AllOfALineIsUnderlined", "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|a%%ub%%u",
+    {"APartlyUnderlinedTextIsUnderlined", "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|a%%ub%%u",
      "0|TEXT|" + kHead + "100|AcDbText|10|0|20|0|40|2|1|%%uab", [](Appearance& appearance) { appearance.varied = 0; }},
-    {"ALastDigitIsAChange", "0|LINE|" + kHead + "48|1.0000000001|100|AcDbLine|10|0|20|0",
+    {"ADifferenceInTheLastDigitIsSaved", "0|LINE|" + kHead + "48|1.0000000001|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "48|1.0000000002|100|AcDbLine|10|0|20|0",
      [](Appearance& appearance) { appearance.lineScale = 1.0000000002; }},
-    {"ATextHangsOnItsPlace", "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|%%uA%%u|72|0|100|AcDbText",
+    {"ACenteredTextGetsAnAlignmentPoint",
+     "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|%%uA%%u|72|0|100|AcDbText",
      "0|TEXT|" + kHead + "100|AcDbText|10|3|20|4|30|0|40|2|1|A|72|1|11|3.0|21|4.0|31|0.0|100|AcDbText",
      [](Appearance& appearance) {
          appearance.text.style = 0;

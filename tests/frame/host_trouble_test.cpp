@@ -18,7 +18,7 @@ void ThrowStandard() {
 constexpr struct {
     Thrower fail;
     const char* text;
-} kFailures[] = {{AfxThrowNotSupportedException, "This is not possible here."}, {ThrowStandard, "no disk"}};
+} kFailures[] = {{AfxThrowNotSupportedException, "The operation is not supported."}, {ThrowStandard, "no disk"}};
 
 struct BadDrawing : ExchangePage {
     explicit BadDrawing(Thrower thrower) : ExchangePage([](CDataExchange*) {}), fail(thrower) {}

@@ -76,7 +76,7 @@ const std::vector<std::string> kThree = {"Low", "Middle", "High"}, kFour = {"Non
 SheetDriver::Script Typing(const char* text) {
     return [text](SheetDriver& user) { user.Type(kField, text); };
 }
-SheetDriver::Script Choosing(int index) {
+SheetDriver::Script Selecting(int index) {
     return [index](SheetDriver& user) { user.SelectItem(kField, index); };
 }
 
@@ -103,10 +103,10 @@ const KindCase kKinds[] = {
     {"Scale", FieldKind::Scale, {}, 2, 3, "2", "Indeterminate", Typing("4"), 4, VT_R8},
     {"Check", FieldKind::Check, {}, 1, 0, "1", "2", [](SheetDriver& user) { user.Click(kField); }, 0, VT_BOOL},
     {"Radio", FieldKind::Choice, kThree, 0, 2, "1", "0", [](SheetDriver& user) { user.Click(kField + 1); }, 1, VT_I4},
-    {"List", FieldKind::Choice, kFour, 1, 2, "Low", "", Choosing(3), 3, VT_I4},
+    {"List", FieldKind::Choice, kFour, 1, 2, "Low", "", Selecting(3), 3, VT_I4},
     {"Date", FieldKind::Date, {}, 36526.75, 3, "1/1/2000", "*****", Typing("12/31/1999"), 36525, VT_R8},
-    {"Color", FieldKind::Color, {}, 0xFF, 0xFF00, "000000FF", "", Choosing(0), 0x333333, VT_UI4},
-    {"Layer", FieldKind::Layer, {}, 1, 2, "00000001", "", Choosing(0), 1, VT_UI4},
+    {"Color", FieldKind::Color, {}, 0xFF, 0xFF00, "000000FF", "", Selecting(0), 0x333333, VT_UI4},
+    {"Layer", FieldKind::Layer, {}, 1, 2, "00000001", "", Selecting(0), 1, VT_UI4},
     {"LineStyle",
      FieldKind::LineStyle,
      {},
@@ -114,10 +114,10 @@ const KindCase kKinds[] = {
      int{kLineStyleByBlock},
      "0000FFFE",
      "",
-     Choosing(0),
+     Selecting(0),
      1,
      VT_UI4},
-    {"BrushStyle", FieldKind::BrushStyle, {}, 0, 1, "00000000", "", Choosing(0), 0, VT_UI4},
+    {"BrushStyle", FieldKind::BrushStyle, {}, 0, 1, "00000000", "", Selecting(0), 0, VT_UI4},
     {"FontFace",
      FieldKind::FontFace,
      {},

@@ -47,7 +47,7 @@ for ((i = 0; i < 2000; i++)); do echo -ne 'some/inner/plan.doc\0'; done >names
 echo -ne 'missing.doc\0' >>names
 { suminfo show @- <names 2>err || echo $? >status; } | head -n 1 >out
 expect "the first line" "$(cat out status err)" $'some/inner/plan.doc\n1'
-expect "a full disk" "$(suminfo show "$document" 2>&1 >/dev/full || echo $?)" $'suminfo: the output can\'t be written\n1'
+expect "a full disk" "$(suminfo show "$document" 2>&1 >/dev/full || echo $?)" $'suminfo: cannot write the output\n1'
 
 # The script replaces a file and keeps its permissions, and replaces nothing else.
 echo old >script.rc

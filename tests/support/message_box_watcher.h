@@ -2,7 +2,7 @@
 //
 //   MessageBoxWatcher boxes;                       // presses OK
 //   EXPECT_TRUE(Fails([&] { DDX_Text(1, &save, kEdit, number); }));
-//   EXPECT_EQ("Please enter an integer.", boxes.OnlyText());
+//   EXPECT_EQ("Please enter a whole number.", boxes.OnlyText());
 #pragma once
 
 #include <windows.h>
