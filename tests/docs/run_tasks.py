@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Runs the everyday tasks of a guide as a reader would, and compares what they print: run_tasks.py GUIDE DATA FOLDER PROGRAM...
+"""Runs the everyday tasks of a guide and compares their output: run_tasks.py GUIDE DATA FOLDER PROGRAM...
 
-In the section "Everyday tasks" an indented line that begins with "$ " is a command; the indented lines below it are what
-it prints. Commands run one after the other in a folder with the files that the section names. GUIDE: docs/NAME.md; DATA:
-tests/data. `--update` as the last argument writes into the guide what the commands print now."""
+In the section "Everyday tasks" an indented line that begins with "$ " is a command; the indented lines below it are its
+output. Commands run one after the other in a folder with the files that the section names. GUIDE: docs/NAME.md; DATA:
+tests/data. With `--update` as the last argument, the current output replaces the output in the guide."""
 import os
 import pathlib
 import shutil
@@ -86,13 +86,13 @@ def main():
         printed = done.stdout.decode("utf-8", "replace")
         count += 1
         if printed != expected:
-            failures.append(f"$ {command}\nprints\n{printed}and not\n{expected}")
+            failures.append(f"$ {command}\nprints\n{printed}instead of\n{expected}")
         changed += lines[kept:end] + ["    " + line for line in printed.splitlines(keepends=True)]
         kept = last
     if update:
         guide.write_text("".join(changed + lines[kept:]), encoding="utf-8")
     elif failures or count == 0:
-        sys.exit("\n".join(failures) or "no tasks")
+        sys.exit("\n".join(failures) or "the guide has no tasks")
     print(f"{count} commands")
 
 

@@ -18,8 +18,8 @@ def run(*arguments, stdin=b""):
     return subprocess.run([PROGRAM, *arguments], input=stdin, capture_output=True, timeout=60, check=False)
 
 
-def expect(what, is_so, done=None):
-    if not is_so:
+def expect(what, is_true, done=None):
+    if not is_true:
         failures.append(f"{what}: {done}")
 
 
@@ -31,7 +31,7 @@ def read(name):
 def audited(name):
     """Returns the drawing as read by ezdxf, which must report no errors."""
     drawing, auditor = recover.readfile(name)
-    expect(f"faults of {name}", not auditor.errors, auditor.errors)
+    expect(f"errors in {name}", not auditor.errors, auditor.errors)
     return drawing
 
 
@@ -85,8 +85,8 @@ def check_conditions():
     for wrong in (["--where", "kind"], ["--where", "Layer<3"], ["--where", 'Text="open'], ["--in", "nowhere"],
                   ["--within", "1,2,3"], ["--hue"]):
         done = run("get", "plan.dxf", *wrong)
-        is_said = done.stderr.startswith(b"dxfprops: ") and not done.stdout
-        expect(f"wrong {wrong}", done.returncode == 2 and is_said, done)
+        is_reported = done.stderr.startswith(b"dxfprops: ") and not done.stdout
+        expect(f"invalid {wrong}", done.returncode == 2 and is_reported, done)
 
 
 def check_forms():
@@ -110,9 +110,9 @@ def check_values():
     texts = {attribute.dxf.tag: attribute.dxf.text for attribute in frame.attribs}
     is_done = texts == {"TITLE": "Plan Ä", "DATE": "today"} and b"2 entities changed" in done.stdout
     expect("attributes", is_done, (texts, done))
-    expect("no such attribute", run("set", "plan.dxf", "attribute:NONE=x", "--dry-run").returncode == 1)
+    expect("a missing attribute", run("set", "plan.dxf", "attribute:NONE=x", "--dry-run").returncode == 1)
     done = run("set", "plan.dxf", "--where", "BlockName=DOOR", "attribute:TITLE=x", "--dry-run")
-    expect("of others", done.returncode == 1, done)
+    expect("an attribute of another block", done.returncode == 1, done)
     run("set", "plan.dxf", "--where", "kind=TEXT|MTEXT", "Text=new", "-o", "out.dxf")
     space = audited("out.dxf").modelspace()
     expect("texts", space.query("TEXT")[0].dxf.text == "new" and space.query("MTEXT")[0].text == "new")
@@ -120,11 +120,11 @@ def check_values():
     run("set", "plan.dxf", "--where", "BlockName=DOOR", *values, "-o", "out.dxf")
     door = audited("out.dxf").modelspace().query('INSERT[name=="DOOR"]')[0].dxf
     place = (tuple(door.insert), door.xscale, door.yscale, door.rotation)
-    expect("a place", place == ((7, 8, 0), 3, -3, 90), place)
+    expect("a placement", place == ((7, 8, 0), 3, -3, 90), place)
     run("set", "plan.dxf", "--where", "BlockName=FRAME", "Position=10,-50", "-o", "out.dxf")
     frames = [audited(name).modelspace().query('INSERT[name=="FRAME"]')[0] for name in ("plan.dxf", "out.dxf")]
     moved = [tuple(frame.attribs[0].dxf.insert)[0] for frame in frames]
-    expect("attributes move along", moved[1] - moved[0] == 10, moved)
+    expect("attributes move with the insertion", moved[1] - moved[0] == 10, moved)
     where = ["--where", "kind=LINE|CIRCLE|TEXT|MTEXT"]
     run("set", "plan.dxf", *where, "Position=0.1,0.2,0.3", "-o", "out.dxf")
     spaces = [audited(name).modelspace() for name in ("plan.dxf", "out.dxf")]
@@ -132,7 +132,7 @@ def check_values():
         place = tuple(spaces[1].query(kind)[0].dxf.get(point))
         expect(f"a moved {kind}", place == (0.1, 0.2, 0.3), place)
     ends = [line.dxf.end - line.dxf.start for line in spaces[1].query("LINE")]
-    expect("ends move along", all(end.isclose((0, 5, 0)) for end in ends), ends)
+    expect("ends move with their starts", all(end.isclose((0, 5, 0)) for end in ends), ends)
     turned = audited("plan.dxf")
     turned.modelspace().query('INSERT[name=="DOOR"]')[0].dxf.rotation = 390
     turned.saveas("turned.dxf")
@@ -147,21 +147,21 @@ def check_values():
 def check_targets():
     old = read("plan.dxf")
     done = run("set", "plan.dxf", "--where", "PenColor=red", "PenColor=0,0,255", "--dry-run")
-    is_said = b'PenColor: "Red" -> "Blue"' in done.stdout and b"1 entity would change" in done.stdout
-    expect("a dry run", done.returncode == 0 and read("plan.dxf") == old and is_said, done)
+    is_reported = b'PenColor: "Red" -> "Blue"' in done.stdout and b"1 entity would change" in done.stdout
+    expect("a dry run", done.returncode == 0 and read("plan.dxf") == old and is_reported, done)
     make("copy.dxf")
     before = read("copy.dxf")
     run("set", "copy.dxf", "PenColor=5", "--in-place", "--backup")
     expect("a backup", read("copy.dxf.bak") == before and read("copy.dxf") != before)
     done = run("set", "-", "PenColor=5", "-o", "-", stdin=before)
     expect("a pipe", done.stdout == read("copy.dxf") and done.returncode == 0, done.stderr)
-    expect("a pipe has no place", run("set", "-", "PenColor=5", "--in-place", stdin=before).returncode == 2)
+    expect("a pipe cannot be edited in place", run("set", "-", "PenColor=5", "--in-place", stdin=before).returncode == 2)
 
 
 def check_apply():
     shown = json.loads(run("get", "plan.dxf", "--json").stdout)
     done = run("apply", "-", "--dry-run", stdin=json.dumps(shown).encode())
-    expect("as it was", done.stdout == b"plan.dxf: 0 entities would change\n", done)
+    expect("unchanged values", done.stdout == b"plan.dxf: 0 entities would change\n", done)
     for entity in shown[0]["entities"]:
         if entity["kind"] == "LINE":
             entity["properties"].update({"PenColor": "Green", "Layer": "NOTES"})
@@ -173,13 +173,13 @@ def check_apply():
     after = json.loads(run("get", "out.dxf", "--json").stdout)[0]["entities"]
     for entity in after + shown[0]["entities"]:
         del entity["line"]
-    expect("what was edited", after == shown[0]["entities"])
-    expect("greens", {line.dxf.color for line in audited("out.dxf").modelspace().query("LINE")} == {3})
+    expect("edited values", after == shown[0]["entities"])
+    expect("green lines", {line.dxf.color for line in audited("out.dxf").modelspace().query("LINE")} == {3})
     shown[0]["entities"][0]["handle"] = "FFFF"
     done = run("apply", "-", "-o", "wrong.dxf", stdin=json.dumps(shown).encode())
-    is_refused = done.returncode == 2 and not os.path.exists("wrong.dxf")
-    expect("a missing entity", is_refused and b"FFFF" in done.stderr, done)
-    expect("no JSON", run("apply", "-", "--dry-run", stdin=b"[1").returncode == 2)
+    is_rejected = done.returncode == 2 and not os.path.exists("wrong.dxf")
+    expect("a missing entity", is_rejected and b"FFFF" in done.stderr, done)
+    expect("invalid JSON", run("apply", "-", "--dry-run", stdin=b"[1").returncode == 2)
 
 
 def check_layers():
@@ -187,7 +187,7 @@ def check_layers():
     expect("layers", len(listed) >= 6 and any(",WALLS-NEW,Yes,No,No,Yes,Red," in line for line in listed), listed)
     values = ["Color=0,128,255", "LineWeight=0.5 mm", "Locked=yes", "On=no"]
     run("set-layer", "plan.dxf", "--layer", "walls*", *values, "-o", "r2000.dxf")
-    expect("a color that the version lacks", not os.path.exists("r2000.dxf"))
+    expect("a color that the version does not support", not os.path.exists("r2000.dxf"))
     make("new.dxf", "R2010")
     run("set-layer", "new.dxf", "--layer", "walls*", *values, "-o", "out.dxf")
     layers = audited("out.dxf").layers
@@ -209,7 +209,7 @@ def check_layers():
         expect(f"{value} of {layer}", done.returncode == 2, done)
     run("set-layer", "new.dxf", "--layer", "ROOF", "Color=magenta", "Frozen=yes", "--new", "--in-place")
     roof = audited("new.dxf").layers.get("ROOF")
-    expect("an added one", roof.dxf.color == 6 and roof.is_frozen())
+    expect("an added layer", roof.dxf.color == 6 and roof.is_frozen())
 
 
 def check_differences():
@@ -231,13 +231,13 @@ def check_differences():
         ["CIRCLE", "Position", None], ["TEXT", "Text", None], ["MTEXT", "TextSize", "Shape", None],
         ["INSERT", "Position", None]], changed)
     expect("properties alone", run("diff", "plan.dxf", "out.dxf", "--only-properties").returncode == 0)
-    expect("the same", run("diff", "plan.dxf", "plan.dxf").returncode == 0)
-    with open("twice.dxf", "wb") as file:  # two circles of one handle, as damaged drawings have
+    expect("identical files", run("diff", "plan.dxf", "plan.dxf").returncode == 0)
+    with open("twice.dxf", "wb") as file:  # two circles of one handle, as in damaged drawings
         circle = read("plan.dxf").partition(b"\n  0\nCIRCLE\n")[2].partition(b"\n  0\n")[0]
         other = circle.replace(b"\n 40\n3.0", b"\n 40\n4.0")
         file.write(read("plan.dxf").replace(circle, circle + b"\n  0\nCIRCLE\n" + other))
     expect("a handle that is used twice", run("diff", "twice.dxf", "twice.dxf").returncode == 0)
-    expect("a missing one", run("diff", "plan.dxf", "none.dxf").returncode == 2)
+    expect("a missing file", run("diff", "plan.dxf", "none.dxf").returncode == 2)
 
 
 make("plan.dxf")
@@ -245,4 +245,4 @@ for check in (check_conditions, check_forms, check_values, check_targets, check_
     check()
 if failures:
     sys.exit("\n".join(failures))
-print("all as expected")
+print("all tests passed")

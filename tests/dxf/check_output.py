@@ -21,8 +21,8 @@ def read(name):
         return file.read()
 
 
-def expect(what, is_so, done):
-    if not is_so:
+def expect(what, is_true, done):
+    if not is_true:
         failures.append(f"{what}: {done.returncode} {done.stderr} {done.stdout[:80]}")
 
 
@@ -56,7 +56,7 @@ done = run("set", "link.dxf", "PenColor=red", "--in-place")
 is_link = os.path.islink(os.path.join(WORK, "link.dxf"))
 expect("a link", done.returncode == 0 and is_link and read("plan.dxf") == read("red.dxf"), done)
 left = set(os.listdir(WORK)) - {"plan.dxf", "red.dxf", "link.dxf", "pipe", "dangling", "null"}
-expect(f"beside it is {left}", not left, done)
+expect(f"other files: {left}", not left, done)
 shutil.rmtree(WORK)
 if failures:
     sys.exit("\n".join(failures))

@@ -107,20 +107,20 @@ def check_row(path, values, codes):
             failures.append(f"{path} {values}: groups {others} changed")
     again = run("set", OUT, *values, "-o", OUT + "2")
     if again.returncode or read(OUT) != read(OUT + "2"):
-        failures.append(f"{path} {values}: is not what is read back")
+        failures.append(f"{path} {values}: the value read back differs")
     allowed = audit(path)[0] if recover else None
     if allowed is None:
         return
     count, drawing = audit(OUT)
     if count is None or count > allowed:
-        return failures.append(f"{path} {values}: the other reader finds more faults")
+        return failures.append(f"{path} {values}: ezdxf reports more errors")
     for kinds, attribute, expected in SEEN.get(values[-1], []) if version(path) >= b"AC1018" else []:
         seen = {entity.dxf.get(attribute) for entity in drawing.modelspace().query(kinds)}
         if seen - {expected}:
-            failures.append(f"{path} {values}: the other reader sees {attribute} {seen}")
+            failures.append(f"{path} {values}: ezdxf reads {attribute} {seen}")
 
 
-def has_free_handles(path):
+def has_valid_handles(path):
     """Returns whether all handles are unique and less than the next free one."""
     groups = [(int(code), value.strip()) for code, value in pairs(path)]
     seeds = [groups.pop(i + 1)[1] for i, group in enumerate(groups) if group == (9, b"$HANDSEED")]
@@ -133,22 +133,22 @@ def check_structure(path):
     done = subprocess.run([RESTRUCTURE, path, OUT], capture_output=True)
     if done.returncode:
         return failures.append(f"{path}: {done.stderr.decode()}")
-    wanted, in_block = (int(number) for number in done.stdout.split())
-    listed = run("get", OUT, "--where", "block=made here", "--show", "Layer")
+    expected, in_block = (int(number) for number in done.stdout.split())
+    listed = run("get", OUT, "--where", "block=new block", "--show", "Layer")
     if listed.returncode or listed.stdout.count(b"\n") != in_block:
-        failures.append(f"{path}: the new block has {listed}")
-    if has_free_handles(path) and not has_free_handles(OUT):
-        failures.append(f"{path}: handles are not free")
+        failures.append(f"{path}: the new block contains {listed}")
+    if has_valid_handles(path) and not has_valid_handles(OUT):
+        failures.append(f"{path}: handles are not unique")
     allowed = audit(path)[0] if recover else None
     if allowed is None:
         return
     count, drawing = audit(OUT)
     if count is None or count > allowed:
-        return failures.append(f"{path}: the other reader finds more faults, {count}, in what was added")
+        return failures.append(f"{path}: ezdxf reports more errors, {count}, in the added objects")
     space = drawing.modelspace()
-    made = drawing.blocks.get("Made here")
-    if not made or len(made) != in_block or len(space.query('INSERT[name=="Made here"]')) != 1:
-        failures.append(f"{path}: the other reader misses the block")
+    block = drawing.blocks.get("New block")
+    if not block or len(block) != in_block or len(space.query('INSERT[name=="New block"]')) != 1:
+        failures.append(f"{path}: ezdxf does not find the block")
 
 
 def handles_in(path, codes):
@@ -186,7 +186,7 @@ def check_references():
             done = subprocess.run([RESTRUCTURE, source, OUT, *remove], capture_output=True)
             after, _ = audit(OUT)
             if done.returncode or after is None or after > before:
-                failures.append(f"references of {version}: {before} faults before, {after} after; {done.stderr.decode()}")
+                failures.append(f"references of {version}: {before} errors before, {after} after; {done.stderr.decode()}")
         removed = handles_in(source, {5}) - handles_in(OUT, {5})
         dangling = removed & handles_in(OUT, references)
         if len(removed) < 7 or dangling:
@@ -201,31 +201,31 @@ def check_blocks():
     found = json.loads(run("diff", BLOCKS, OUT, "--json").stdout)[0]["differences"]
     shown = json.loads(run("get", OUT, "--where", "block=MyBlock", "--json").stdout)[0]["entities"]
     red = [entity for entity in shown if entity["properties"].get("PenScale") == "1.5"]
-    wanted = {"PenColor": {"before": "By Layer", "after": "Red"}, "PenScale": {"before": "1", "after": "1.5"}}
+    expected = {"PenColor": {"before": "By Layer", "after": "Red"}, "PenScale": {"before": "1", "after": "1.5"}}
     if (
         done.returncode
         or not found
         or len(found) != lines.stdout.count(b"\n")
         or [entity["handle"] for entity in found] != [entity["handle"] for entity in red]
         or any(entity["kind"] != "LINE" or entity["block"] != "MyBlock" for entity in found)
-        or any(entity["properties"] != wanted for entity in found)
+        or any(entity["properties"] != expected for entity in found)
     ):
         failures.append(f"a block: {done} {lines} {found}")
     if recover and {line.dxf.color for line in audit(OUT)[1].blocks.get("MyBlock").query("LINE")} != {1}:
-        failures.append("a block: the other reader sees other colors")
+        failures.append("a block: ezdxf reads different colors")
     broken = json.loads(run("get", BLOCKS, "none.dxf", "--json").stdout)
     if "entities" not in broken[0] or broken[1]["error"] != "the file cannot be opened":
-        failures.append(f"JSON of a file that is not there: {broken[1]}")
+        failures.append(f"JSON of a missing file: {broken[1]}")
 
 
-def check_words():
+def check_messages():
     """Checks that messages for invalid arguments list the valid ones, and checks the exit codes."""
     drawing = os.path.join(FOLDER, "vuer-linetypes.dxf")
     for arguments, code, words in [
         (["set", drawing, "PenHue=red", "-o", OUT], 2, "'PenHue' is not one of "),
         (["set", drawing, "PenColor=purple", "-o", OUT], 2, "'purple' is not one of By Layer, By Block, Red"),
         (["set", drawing, "Layer=Walls", "-o", OUT], 2, "'Walls' is not one of 0, Titles, ConstantWidth"),
-        (["set", drawing, "PenWidth=wide", "-o", OUT], 2, "'wide' is not a length"),
+        (["set", drawing, "PenWidth=wide", "-o", OUT], 2, "'wide' is not a non-negative length"),
         (["set", drawing, "PenColor=red"], 2, "specify the output"),
         (["set", drawing, "--where", "color=1", "PenColor=red", "-o", OUT], 2, "'color' is not one of kind, handle, block, "),
         (["set", drawing, "--where", "kind=LIN", "PenColor=redd", "-o", OUT], 2, "'redd' is not one of By Layer"),
@@ -235,7 +235,7 @@ def check_words():
         (["get", drawing, "--where", "block=Door"], 2, "block: the drawing has no blocks"),
         (["get", BLOCKS, "--where", "block=Door"], 2, "block: 'Door' is not one of *Model_Space"),
         (["get", BLOCKS, "--where", "block=myblock", "--show", "Layer"], 0, 'block MyBlock) Layer="0"'),
-        (["set", drawing, "--where", "kind=LINE", "PenScale=2*", "-o", OUT], 2, "'2*' is not a number"),
+        (["set", drawing, "--where", "kind=LINE", "PenScale=2*", "-o", OUT], 2, "'2*' is not a non-negative number"),
         (["set", "none.dxf", "PenColor=red", "--in-place"], 2, "none.dxf: the file cannot be opened"),
         (["set", drawing, "--where", "kind=LINE,penstyle=dashed", "PenColor=red", "-o", OUT], 0, "1 entity changed"),
         (["diff", drawing, OUT], 1, 'LINE (line 383) PenColor: "By Layer" -> "Red"'),
@@ -271,7 +271,7 @@ def check_safety(path):
         for left in set(os.listdir(WORK)) - {os.path.basename(name) for name in (OUT, OUT + "2", copy)}:
             os.remove(os.path.join(WORK, left))
             if not left.startswith("orlo-") or not left.endswith(".tmp"):
-                failures.append(f"a process that ends at {size} bytes leaves {left}")
+                failures.append(f"a process that ends at {size} bytes leaves the files {left}")
     shutil.copy(path, copy)
     os.chmod(copy, 0o444)
     done = run("set", copy, "PenColor=red", "--in-place")
@@ -284,14 +284,14 @@ for name in sorted(os.listdir(FOLDER)):
     if not name.endswith(".dxf") or name.startswith("bad-") or os.path.getsize(drawing_path) > 30000 or run("list", drawing_path).returncode:
         continue
     if run("set", drawing_path, "--where", "kind=none", "PenColor=red", "-o", OUT).returncode != 1 or read(OUT) != read(drawing_path):
-        failures.append(f"{name}: without changes it is another file")
+        failures.append(f"{name}: saving without changes alters the file")
     for row in ROWS:
         check_row(drawing_path, *row)
     check_structure(drawing_path)
 check_row(os.path.join(FOLDER, "dxf-dimensions.dxf"), ["Info=x"], OWN)
-if not has_free_handles(OUT):
-    failures.append("handles are not free")
-check_words()
+if not has_valid_handles(OUT):
+    failures.append("handles are not unique")
+check_messages()
 check_blocks()
 if recover:
     check_references()

@@ -72,7 +72,7 @@ void Restructure(const char* from, const char* to, bool adds) {
     for (size_t i = 1; i < document.entities.size(); i += 2, ++removed)
         patch.Remove(document.entities[i].offset);
     dxf::Block block;
-    block.name = "Made here";
+    block.name = "New block";
     block.own = {{dxf::kExtendedStyleTree, "a tree", {}}};
     block.entities = OneOfEach(document.header.version);
     if (adds) patch.AddBlock(block);

@@ -22,8 +22,8 @@ compare() { # ARGUMENTS...
     rm -f out
     run_into native "$native" "$@"
     if [ "$(cat native.status)" = $needs_windows ]; then
-        [ "$1" = thumbnail ] || fail "$*: left to the other program"
-        [ ! -s native.stdout ] && [ ! -s native.stderr ] && [ ! -e native.file ] || fail "$*: left, but not in silence"
+        [ "$1" = thumbnail ] || fail "$*: requires the Windows program"
+        [ ! -s native.stdout ] && [ ! -s native.stderr ] && [ ! -e native.file ] || fail "$*: requires the Windows program, but has output"
         left=$((left + 1))
         return
     fi
@@ -69,7 +69,7 @@ done
 for file in documents/*-* missing.doc; do
     for what in rc thumbnail "thumbnail --size 60x50"; do compare $what "$file" out; done
 done
-every() { # NUMBER FILES...: selects some, since each start of the Windows program takes time
+every() { # NUMBER FILES...: selects every NUMBERth file, since each start of the Windows program takes time
     local step=$1 i
     shift
     for ((i = 1; i <= $#; i += step)); do printf '%s\n' "${!i}"; done
@@ -82,7 +82,7 @@ compare set - "title=Grüße" -o out
 compare remove - title
 input=/dev/null
 
-# Documents that both edit are the same to the byte.
+# Documents that both programs edit are identical.
 edit() { # ARGUMENTS... with "out" for the document
     local name
     for name in native windows; do
@@ -102,7 +102,7 @@ for original in documents/*-* documents/expected.json; do
 done
 
 document=documents/test11--695187.doc
-echo "no compound file" >text.doc
+echo "not a compound file" >text.doc
 mkdir empty
 compare show text.doc missing.doc nowhere/missing.doc . empty $document
 compare check -r empty nowhere
@@ -114,5 +114,5 @@ for line in "" "--help" "--version" "set --help" "shov x" "show" "set x color=re
             "thumbnail x y --size 0x9"; do # shellcheck disable=SC2086 # words
     compare $line
 done
-[ $left -ge 3 ] && [ $files -ge 20 ] || fail "only $left pictures were left, and $files files made"
-echo "$same times the same, $files files made, $edited edits, $left pictures left to Windows"
+[ $left -ge 3 ] && [ $files -ge 20 ] || fail "only $left pictures required the Windows program, and $files files were written"
+echo "$same identical results, $files files, $edited edits, $left pictures that require the Windows program"

@@ -7,7 +7,7 @@ program=$1 document=$2/test11--695187.doc picture=$2/v5-Connection-Types--c289c5
 stream=$3/fn-et--SummaryInformation--b68908.bin
 
 fail() { printf '%s\n' "$*"; exit 1; }
-expect() { [ "$2" = "$3" ] || fail "$(printf '%s is\n%s\nand not\n%s' "$1" "$2" "$3")"; }
+expect() { [ "$2" = "$3" ] || fail "$(printf '%s: got\n%s\nexpected\n%s' "$1" "$2" "$3")"; }
 suminfo() { timeout -k 5 30 "$program" "$@"; }
 ended() { local status=0; "$@" >out 2>err || status=$?; echo $status; }
 
@@ -24,10 +24,10 @@ ln -s nothing some/dangling.doc
 ln -s . some/itself
 ln -s plan.doc some/inner/again.doc
 
-expect "a folder's result" "$(ended suminfo check -r some)" 1 # irregular
-expect "its documents" "$(cut -d: -f1 out | uniq)" \
+expect "the exit code for a folder" "$(ended suminfo check -r some)" 1 # irregular
+expect "the documents of a folder" "$(cut -d: -f1 out | uniq)" \
     "$(printf '%s\n' 'some/inner/a?mark.doc' some/inner/again.doc 'some/inner/latin\xe9.doc' 'some/inner/two\nlines.doc')"
-expect "what can't be opened" "$(cat err)" "suminfo: some/dangling.doc: the system cannot open a file with this name"
+expect "a dangling link" "$(cat err)" "suminfo: some/dangling.doc: the system cannot open a file with this name"
 expect "a pipe" "$(ended suminfo show some/pipe.doc; cat err)" $'1\nsuminfo: some/pipe.doc: not a compound file'
 
 # Half a surrogate pair in the name of a stream.
@@ -49,12 +49,12 @@ echo -ne 'missing.doc\0' >>names
 expect "the first line" "$(cat out status err)" $'some/inner/plan.doc\n1'
 expect "a full disk" "$(suminfo show "$document" 2>&1 >/dev/full || echo $?)" $'suminfo: cannot write the output\n1'
 
-# The script replaces a file and keeps its permissions, and replaces nothing else.
+# The script replaces a file and keeps its permissions; other targets are rejected.
 echo old >script.rc
 chmod 640 script.rc
 suminfo rc --stream "$stream" script.rc
 expect "permissions" "$(stat -c %a script.rc)" 640
-grep -q RCDATA script.rc || fail "no script"
+grep -q RCDATA script.rc || fail "the file does not contain a script"
 mkdir taken
 targets=(taken)
 if mknod device c 1 7 2>/dev/null; then targets+=(device); fi # its own device file, so that a fault does not replace
@@ -67,24 +67,24 @@ if [ ${#targets[@]} = 2 ]; then
     [ -c device ] || fail "the device is gone"
     rm device
 fi
-expect "beside it" "$(ls)" $'err\nnames\nout\nscript.rc\nsome\nstatus\ntaken'
+expect "the files in the folder" "$(ls)" $'err\nnames\nout\nscript.rc\nsome\nstatus\ntaken'
 
 # Exit code 3 means that the Windows program is required.
 expect "a metafile" "$(ended suminfo thumbnail "$picture" picture.png; cat out err)" 3
-[ ! -e picture.png ] || fail "a picture was made"
+[ ! -e picture.png ] || fail "a picture was written"
 
 # Several documents, by name, from a list and in folders; one that fails does not stop the others.
 cp some/inner/plan.doc one.doc
 cp some/inner/plan.doc two.doc
-expect "several" "$(ended suminfo set title=Several one.doc missing.doc two.doc; cat err)" \
+expect "several documents" "$(ended suminfo set title=Several one.doc missing.doc two.doc; cat err)" \
     $'1\nsuminfo: missing.doc: the file cannot be opened: no such file'
-expect "their titles" "$(suminfo get one.doc title; suminfo get two.doc TITLE)" $'Several\nSeveral'
+expect "the titles of several documents" "$(suminfo get one.doc title; suminfo get two.doc TITLE)" $'Several\nSeveral'
 printf 'one.doc\r\n\ntwo.doc\n' >list
 suminfo set @list --custom "Client=text:A, B"
 expect "a custom property" "$(suminfo get two.doc --custom client)" "A, B"
 suminfo copy one.doc some/inner/plan.doc two.doc
 suminfo remove -r some/inner/plan.doc two.doc title --custom Client
-expect "what has none" "$(ended suminfo get two.doc title; cat out err)" $'1\nsuminfo: two.doc: the document has no title'
+expect "a missing title" "$(ended suminfo get two.doc title; cat out err)" $'1\nsuminfo: two.doc: the document has no title'
 expect "a missing list" "$(ended suminfo show @nowhere; cat err)" \
     $'2\nsuminfo: cannot read the list of arguments: the file cannot be opened: no such file'
 expect "a name like a value" "$(ended suminfo set ./a=b.doc title=x; cat err)" \
@@ -93,7 +93,7 @@ expect "a name like a value" "$(ended suminfo set ./a=b.doc title=x; cat err)" \
 # Standard input and output.
 expect "a document from a pipe" "$(cat one.doc | suminfo get - title)" Several
 cp one.doc before.doc
-expect "one that is changed" "$(suminfo set - title=Piped <one.doc | suminfo remove - author | suminfo copy - one.doc -o - |
+expect "a document changed in a pipe" "$(suminfo set - title=Piped <one.doc | suminfo remove - author | suminfo copy - one.doc -o - |
     suminfo get - title)" Piped
 suminfo set one.doc title=Named --custom Client=text:B -o named.doc
 cp one.doc same.doc
@@ -102,11 +102,11 @@ cmp named.doc same.doc
 suminfo set - title=Named --custom Client=text:B <one.doc | cmp - same.doc
 chmod a-w same.doc
 expect "a read-only original" "$(ended suminfo set same.doc title=New -o named.doc; suminfo get named.doc title)" $'0\nNew'
-expect "a damaged one" "$(head -c 5000 one.doc | ended suminfo set - title=x; cat out err)" \
+expect "a damaged document" "$(head -c 5000 one.doc | ended suminfo set - title=x; cat out err)" \
     $'1\nsuminfo: -: was left alone: the compound file is damaged, writing could make it worse'
-expect "two" "$(ended suminfo set one.doc two.doc title=x -o both.doc; cat err)" \
+expect "two documents" "$(ended suminfo set one.doc two.doc title=x -o both.doc; cat err)" \
     $'2\nsuminfo: -o: only one document can be edited to another file'
-expect "a disk that is full" "$(suminfo set - title=x <one.doc 2>&1 >/dev/full || echo $?)" \
+expect "a full disk" "$(suminfo set - title=x <one.doc 2>&1 >/dev/full || echo $?)" \
     $'suminfo: -: the output cannot be written: the disk is full\n1'
 expect "a missing folder" "$(ended suminfo set one.doc title=x -o nowhere/new.doc; cat err)" \
     $'1\nsuminfo: nowhere/new.doc: no file can be created in its folder: no such folder'
@@ -118,7 +118,7 @@ expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/ful
 # The stored picture, and file name extensions.
 suminfo thumbnail --original "$picture" picture.wmf
 expect "a metafile's first bytes" "$(od -An -tx1 -N 4 picture.wmf)" " 01 00 09 00"
-expect "another ending" "$(suminfo thumbnail --original "$picture" picture.png 2>&1)" \
+expect "an unusual extension" "$(suminfo thumbnail --original "$picture" picture.png 2>&1)" \
     "suminfo: warning: picture.png: the file contains a metafile; the usual extension is .wmf"
 
 # Machine-readable output, also for files that fail.
@@ -133,7 +133,7 @@ expect "JSON" "$(ended suminfo show --json missing.doc; cat out)" \
 
 # A manual page without warnings of the formatter, and a completion that bash accepts.
 suminfo --man >suminfo.1
-if command -v groff >/dev/null; then expect "its faults" "$(groff -man -Tutf8 -ww suminfo.1 2>&1 >page)" ""; fi
+if command -v groff >/dev/null; then expect "warnings of groff" "$(groff -man -Tutf8 -ww suminfo.1 2>&1 >page)" ""; fi
 suminfo --completion >suminfo.bash
 complete_line() { # WORDS...: prints the completions of the last
     bash -c 'source ./suminfo.bash; COMP_WORDS=(suminfo "$@"); COMP_CWORD=$#; _suminfo 2>/dev/null; printf "%s " "${COMPREPLY[@]}"' bash "$@"

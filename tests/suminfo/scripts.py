@@ -17,7 +17,7 @@ def run(*command):
 
 
 def sections(stream):
-    """Returns what suminfo shows of each section, without its offset in the stream."""
+    """Returns each section as shown by suminfo, without its offset in the stream."""
     shown = json.loads(run(SUMINFO, "show", "--json", "--stream", stream).stdout)
     for section in shown["sections"]:
         for key in ("offset", "size"):
@@ -57,7 +57,7 @@ for name in sorted(os.listdir(STREAMS)):
         failures.append(f"{name}: {len(found)} resources for {len(expected)} sections")
     for data, section in zip(found, expected):
         if struct.unpack_from("<I", data)[0] != len(data):
-            failures.append(f"{name}: the section is {len(data)} bytes long and says {data[:4]}")
+            failures.append(f"{name}: the section is {len(data)} bytes long, but declares {data[:4]}")
         with open(STREAM, "wb") as file:
             file.write(struct.pack("<HHI16xI", 0xFFFE, 0, 0, 1) + bytes.fromhex("00" * 16) + struct.pack("<I", 48) + data)
         after = sections(STREAM)[0]
@@ -66,7 +66,7 @@ for name in sorted(os.listdir(STREAMS)):
         for prop in after["properties"]:
             prop["name"] = names.get(prop["id"])  # the format determines the fields
         if after != section:
-            failures.append(f"{name}: {after} is not {section}"[:600])
+            failures.append(f"{name}: {after} differs from {section}"[:600])
         compiled += 1
         wide += section["code_page"] == 1200
         variants += any(prop["vt"] == 4108 for prop in section["properties"])
@@ -74,4 +74,4 @@ if failures:
     sys.exit("\n".join(failures))
 if min(compiled // 20, wide, variants) == 0:
     sys.exit(f"only {compiled} sections, {wide} with wide names, {variants} with variants")
-print(f"{compiled} sections the same, {wide} of them with wide names, {variants} with variants")
+print(f"{compiled} identical sections, {wide} of them with wide names, {variants} with variants")

@@ -42,7 +42,7 @@ def title(path):
 
 
 def check(suminfo, original, work):
-    """Returns what went wrong, and whether the document could be edited."""
+    """Returns a description of the failure, if any, and whether the document could be edited."""
     path = os.path.join(work, "document")
     shutil.copyfile(original, path)
     for edit in EDITS:
@@ -51,20 +51,20 @@ def check(suminfo, original, work):
         if done.returncode:
             with open(path, "rb") as left, open(original, "rb") as before:
                 same = left.read() == before.read()
-            refused = any(why in done.stderr for why in (b"damaged", b"not a compound file", b"stored as", b"code page"))
-            return ("" if refused and same else f"{done.stderr}, and the file is{'' if same else ' not'} the same"), False
+            rejected = any(why in done.stderr for why in (b"damaged", b"not a compound file", b"stored as", b"code page"))
+            return ("" if rejected and same else f"{done.stderr}, and the file has {'not ' if same else ''}changed"), False
         if contents(path) != contents(original):
-            return f"{edit[0]} has changed something else", False
+            return f"{edit[0]} changed other data", False
         if title(path) != edit[2].partition("=")[2]:
             return f"olefile reads the title {title(path)[:40]}", False
         if listed(original) is not None and listed(path) is None:
-            return "gsf cannot read it", False
+            return "gsf cannot read the document", False
     return "", True
 
 
 def main():
     suminfo, folders = sys.argv[1], [sys.argv[2]] + [folder for folder in [os.environ.get("ORLO_CORPUS")] if folder]
-    failures, edited, refused = [], 0, 0
+    failures, edited, rejected = [], 0, 0
     with tempfile.TemporaryDirectory() as work:
         for folder in folders:
             for name in sorted(os.listdir(folder)):
@@ -72,12 +72,12 @@ def main():
                     continue
                 why, done = check(suminfo, os.path.join(folder, name), work)
                 edited += done
-                refused += not done and not why
+                rejected += not done and not why
                 if why:
                     failures.append(f"{name}: {why}")
-    print(f"{edited} documents edited, {refused} refused")
+    print(f"{edited} documents edited, {rejected} rejected")
     if failures or edited < 5:
-        sys.exit("\n".join(failures) or "too few")
+        sys.exit("\n".join(failures) or "too few edited documents")
 
 
 main()
