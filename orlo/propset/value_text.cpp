@@ -61,24 +61,30 @@ bool IsDate(uint64_t year, uint64_t month, uint64_t day) {
     return day <= static_cast<uint64_t>(kDays[month - 1] + (month == 2 && isLeap ? 1 : 0));
 }
 
+// Reads "04:05" or "04:05:06" and returns the seconds.
+std::optional<uint64_t> ReadTime(Rest& rest) {
+    uint64_t hour, minute, second = 0;
+    if (!rest.TakeDigits(2, 10, hour) || !rest.Take(':') || !rest.TakeDigits(2, 10, minute)) return std::nullopt;
+    if (rest.Take(':') && !rest.TakeDigits(2, 10, second)) return std::nullopt;
+    if (hour > 23 || minute > 59 || second > 59) return std::nullopt;
+    return hour * 3600 + minute * 60 + second;
+}
+
 // Returns the seconds since 1601 for "2001-02-03", optionally with "T04:05" or " 04:05:06", and a final Z if it is
 // allowed.
 std::optional<int64_t> ReadDate(std::string_view text, bool isUtc) {
     Rest rest(text);
-    uint64_t year, month, day, hour = 0, minute = 0, second = 0;
+    uint64_t year, month, day;
     if (!rest.TakeDigits(4, 10, year) || !rest.Take('-') || !rest.TakeDigits(2, 10, month) || !rest.Take('-') ||
         !rest.TakeDigits(2, 10, day) || !IsDate(year, month, day))
         return std::nullopt;
-    if (rest.Take('T') || rest.Take(' ')) {
-        if (!rest.TakeDigits(2, 10, hour) || !rest.Take(':') || !rest.TakeDigits(2, 10, minute)) return std::nullopt;
-        if (rest.Take(':') && !rest.TakeDigits(2, 10, second)) return std::nullopt;
-        if (hour > 23 || minute > 59 || second > 59) return std::nullopt;
-        if (isUtc) rest.Take('Z');
-    }
-    if (!rest.IsEmpty()) return std::nullopt;
+    const bool hasTime = rest.Take('T') || rest.Take(' ');
+    const std::optional<uint64_t> time = hasTime ? ReadTime(rest) : uint64_t{0};
+    if (hasTime && isUtc) rest.Take('Z');
+    if (!time || !rest.IsEmpty()) return std::nullopt;
     const int64_t days =
         DaysFrom1601(static_cast<int64_t>(year), static_cast<int64_t>(month), static_cast<int64_t>(day));
-    return days * kSecondsPerDay + static_cast<int64_t>(hour * 3600 + minute * 60 + second);
+    return days * kSecondsPerDay + static_cast<int64_t>(*time);
 }
 
 std::optional<uint64_t> ReadFileTime(std::string_view text) {

@@ -35,7 +35,7 @@ bool WalkRunLength(const uint8_t* data, size_t size, const DibLayout& layout, Pa
         x += count;
         return true;
     };
-    for (size_t at = 0; size - at >= 2;) {
+    for (size_t at = 0; size - at >= 2 && x <= layout.width && y <= layout.height;) {
         const uint8_t count = data[at], value = data[at + 1];
         at += 2;
         if (count != 0) {
@@ -44,13 +44,12 @@ bool WalkRunLength(const uint8_t* data, size_t size, const DibLayout& layout, Pa
             return true;
         } else if (value == kEndOfLine) {
             x = 0;
-            if (++y > layout.height) return false;
+            ++y;
         } else if (value == kDelta) {
             if (size - at < 2) return false;
             x += data[at];
             y += data[at + 1];
             at += 2;
-            if (x > layout.width || y > layout.height) return false;
         } else {
             const size_t bytes = isHalved ? (value + 1u) / 2 : value;
             const size_t padded = (bytes + 1) & ~size_t{1};

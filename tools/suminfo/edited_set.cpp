@@ -3,6 +3,7 @@
 #include "edited_set.h"
 
 #include <algorithm>
+#include <map>
 
 #include "failure.h"
 #include "orlo/propset/code_page.h"
@@ -21,30 +22,14 @@ constexpr uint32_t kLinkFlag = 0x01000000;
 enum class Kind { text, whole, real, truth, moment, other };
 
 Kind KindOf(uint32_t type) {
-    switch (type) {
-    case VT_LPSTR:
-    case VT_LPWSTR:
-    case VT_BSTR:
-        return Kind::text;
-    case VT_I2:
-    case VT_I4:
-    case VT_INT:
-    case VT_I8:
-    case VT_UI2:
-    case VT_UI4:
-    case VT_UINT:
-        return Kind::whole;
-    case VT_R4:
-    case VT_R8:
-        return Kind::real;
-    case VT_BOOL:
-        return Kind::truth;
-    case VT_FILETIME:
-    case VT_DATE:
-        return Kind::moment;
-    default:
-        return Kind::other;
-    }
+    static const std::map<uint32_t, Kind> kKinds = {
+        {VT_LPSTR, Kind::text}, {VT_LPWSTR, Kind::text}, {VT_BSTR, Kind::text},       {VT_I2, Kind::whole},
+        {VT_I4, Kind::whole},   {VT_INT, Kind::whole},   {VT_I8, Kind::whole},        {VT_UI2, Kind::whole},
+        {VT_UI4, Kind::whole},  {VT_UINT, Kind::whole},  {VT_R4, Kind::real},         {VT_R8, Kind::real},
+        {VT_BOOL, Kind::truth}, {VT_DATE, Kind::moment}, {VT_FILETIME, Kind::moment},
+    };
+    const auto found = kKinds.find(type);
+    return found != kKinds.end() ? found->second : Kind::other;
 }
 
 void RequireUtf8(orlo::ImageSection& section) {

@@ -62,12 +62,28 @@ uint64_t Now() {
     return (static_cast<uint64_t>(seconds) + kSecondsTo1970) * kSecond;
 }
 
-// Handles types whose text forms are implemented by the library.
-orlo::Value Formatted(uint32_t type, const std::string& text, const char* kind) {
+// The types whose text forms are implemented by the library.
+constexpr struct {
+    uint32_t type;
+    const char* kind;
+} kFormatted[] = {
+    {VT_FILETIME, "date (2001-02-03 or 2001-02-03T04:05:06Z)"},
+    {VT_DATE, "date (2001-02-03 or 2001-02-03 04:05:06)"},
+    {VT_I8, "whole number"},
+    {VT_CY, "currency amount"},
+    {VT_CLSID, "class ID"},
+};
+
+orlo::Value ParseFormatted(uint32_t type, const std::string& text) {
+    const auto* form = std::find_if(std::begin(kFormatted), std::end(kFormatted),
+                                    [type](const auto& one) { return one.type == type; });
+    if (form == std::end(kFormatted))
+        throw Failure("values of type " + orlo::TypeName(type) + " cannot be entered as text");
     uint8_t element[16];
     orlo::Value value;
-    if (!orlo::ParseValueText(text, type, element)) Refuse(text, kind);
-    if (!orlo::DecodeValue(type, element, type == VT_CLSID ? 16 : 8, std::nullopt, value)) Refuse(text, kind);
+    if (!orlo::ParseValueText(text, type, element) ||
+        !orlo::DecodeValue(type, element, type == VT_CLSID ? 16 : 8, std::nullopt, value))
+        Refuse(text, form->kind);
     return value;
 }
 
@@ -103,22 +119,10 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
     case VT_BOOL:
         value.data = Truth(text);
         return value;
-    case VT_FILETIME:
-        if (orlo::IsSameName(text, "now")) {
-            value.data = Now();
-            return value;
-        }
-        return Formatted(type, text, "date (2001-02-03 or 2001-02-03T04:05:06Z)");
-    case VT_DATE:
-        return Formatted(type, text, "date (2001-02-03 or 2001-02-03 04:05:06)");
-    case VT_I8:
-        return Formatted(type, text, "whole number");
-    case VT_CY:
-        return Formatted(type, text, "currency amount");
-    case VT_CLSID:
-        return Formatted(type, text, "class ID");
     default:
-        throw Failure("values of type " + orlo::TypeName(type) + " cannot be entered as text");
+        if (type != VT_FILETIME || !orlo::IsSameName(text, "now")) return ParseFormatted(type, text);
+        value.data = Now();
+        return value;
     }
 }
 

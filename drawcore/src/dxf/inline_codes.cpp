@@ -104,69 +104,49 @@ private:
     }
 
     void ReadCode(char code) {
-        switch (code) {
-        case '\\':
-        case '{':
-        case '}':
-            text_ += code;
-            break;
-        case '~':
-            text_ += "\u00A0";
-            break;
-        case 'P':
-        case 'N':
-        case 'X':
-            text_ += '\n';
-            break;
-        case 'L':
-            Change(&InlineFormat::underlined, true);
-            break;
-        case 'l':
-            Change(&InlineFormat::underlined, false);
-            break;
-        case 'O':
-            Change(&InlineFormat::overlined, true);
-            break;
-        case 'o':
-            Change(&InlineFormat::overlined, false);
-            break;
-        case 'K':
-            Change(&InlineFormat::struckThrough, true);
-            break;
-        case 'k':
-            Change(&InlineFormat::struckThrough, false);
-            break;
-        case 'F':
-        case 'f':
-            ReadFont(NextArgument());
-            break;
-        case 'H':
-            ReadHeight(NextArgument());
-            break;
-        case 'W':
-            ReadWidth(NextArgument());
-            break;
-        case 'C':
-            ReadColor(NextArgument());
-            break;
-        case 'c':
-            ReadTrueColor(NextArgument());
-            break;
-        case 'S':
-            ReadStack(NextArgument());
-            break;
-        case 'A':
-        case 'Q':
-        case 'T':
-            NextArgument();
-            break;
-        case 'p':
-            ReadParagraph(NextArgument());
-            break;
-        default:
+        struct Character {
+            char code;
+            std::string_view text;
+        };
+        struct Switch {
+            char code;
+            bool InlineFormat::*member;
+            bool value;
+        };
+        struct WithArgument {
+            char code;
+            void (InlineReader::*read)(std::string_view argument);
+        };
+        static constexpr Character kCharacters[] = {{'\\', "\\"}, {'{', "{"},  {'}', "}"}, {'~', "\u00A0"},
+                                                    {'P', "\n"},  {'N', "\n"}, {'X', "\n"}};
+        static constexpr Switch kSwitches[] = {
+            {'L', &InlineFormat::underlined, true},    {'l', &InlineFormat::underlined, false},
+            {'O', &InlineFormat::overlined, true},     {'o', &InlineFormat::overlined, false},
+            {'K', &InlineFormat::struckThrough, true}, {'k', &InlineFormat::struckThrough, false},
+        };
+        static constexpr WithArgument kArguments[] = {
+            {'F', &InlineReader::ReadFont},  {'f', &InlineReader::ReadFont},      {'H', &InlineReader::ReadHeight},
+            {'W', &InlineReader::ReadWidth}, {'C', &InlineReader::ReadColor},     {'c', &InlineReader::ReadTrueColor},
+            {'S', &InlineReader::ReadStack}, {'A', &InlineReader::Ignore},        {'Q', &InlineReader::Ignore},
+            {'T', &InlineReader::Ignore},    {'p', &InlineReader::ReadParagraph},
+        };
+        if (const auto* character = FindCode(kCharacters, code))
+            text_ += character->text;
+        else if (const auto* change = FindCode(kSwitches, code))
+            Change(change->member, change->value);
+        else if (const auto* format = FindCode(kArguments, code))
+            (this->*format->read)(NextArgument());
+        else
             text_ += '\\', text_ += code;
-        }
     }
+
+    template <class Row, size_t count>
+    static const Row* FindCode(const Row (&rows)[count], char code) {
+        const Row* found = std::find_if(rows, rows + count, [code](const Row& row) { return row.code == code; });
+        return found != rows + count ? found : nullptr;
+    }
+
+    void Ignore(std::string_view) {}
 
     // "Arial|b1|i0|c0|p34"
     void ReadFont(std::string_view argument) {

@@ -119,28 +119,39 @@ void EntityReader::ReadPolyline(Entity& entity) {
     in_.tags.SkipRecord();
 }
 
+namespace {
+
+// Sets a value of the last vertex, if there is one. Returns false for other codes.
+bool SetVertexValue(RecordReader& in, Polyline& polyline, const Tag& tag) {
+    constexpr struct {
+        int code;
+        double Polyline::Vertex::*value;
+    } kNumbers[] = {
+        {40, &Polyline::Vertex::startWidth}, {41, &Polyline::Vertex::endWidth}, {42, &Polyline::Vertex::bulge}};
+    if (tag.code == 10) polyline.vertices.emplace_back();
+    const bool isPoint = tag.code == 10 || tag.code == 20;
+    const auto* number = std::find_if(std::begin(kNumbers), std::end(kNumbers),
+                                      [&](const auto& known) { return known.code == tag.code; });
+    if (!isPoint && number == std::end(kNumbers)) return false;
+    if (polyline.vertices.empty()) return true;
+    Polyline::Vertex& vertex = polyline.vertices.back();
+    if (isPoint)
+        in.SetAxis(vertex.at, tag, tag.code - 10);
+    else
+        vertex.*number->value = in.Real(tag);
+    return true;
+}
+
+} // namespace
+
 void EntityReader::ReadLightPolyline(Entity& entity) {
     Polyline& polyline = entity.shape.emplace<Polyline>();
     double width = 0;
     double elevation = 0;
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
-        if (tag.code == 10) polyline.vertices.emplace_back();
-        Polyline::Vertex* const vertex = polyline.vertices.empty() ? nullptr : &polyline.vertices.back();
+        if (SetVertexValue(in_, polyline, tag)) continue;
         switch (tag.code) {
-        case 10:
-        case 20:
-            if (vertex) in_.SetAxis(vertex->at, tag, tag.code - 10);
-            break;
-        case 40:
-            if (vertex) vertex->startWidth = in_.Real(tag);
-            break;
-        case 41:
-            if (vertex) vertex->endWidth = in_.Real(tag);
-            break;
-        case 42:
-            if (vertex) vertex->bulge = in_.Real(tag);
-            break;
         case 43:
             width = in_.Real(tag);
             break;

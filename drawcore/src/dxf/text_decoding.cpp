@@ -183,29 +183,23 @@ LineText ReadControlCodes(std::string_view rest) {
         }
         uint32_t character = 0;
         size_t length = 3;
-        switch (rest[2]) {
+        switch (rest[2] | 0x20) { // in lowercase
         case 'd':
-        case 'D':
             line.text += "\u00B0";
             break;
         case 'p':
-        case 'P':
             line.text += "\u00B1";
             break;
         case 'c':
-        case 'C':
             line.text += "\u00D8";
             break;
         case 'u':
-        case 'U':
             line.underlined = true;
             break;
         case 'o':
-        case 'O':
             line.overlined = true;
             break;
         case 'k':
-        case 'K':
             line.struckThrough = true;
             break;
         case '%':

@@ -181,6 +181,12 @@ void SectionReader::ReadValue(Entry& entry) {
         report_.Add(FindingCode::typeHighHalf, Severity::irregular, at, NameOf(entry), ": type ", Hex{type},
                     " has bits in its high half, which readers ignore");
 
+    ReadContents(entry);
+}
+
+void SectionReader::ReadContents(Entry& entry) {
+    const uint64_t at = section_.offset + uint64_t{entry.offset};
+    const ImageProperty& property = entry.property;
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     const bool isVector = IsVector(property.type);
     // A vector is measured only up to the next value, so that no bytes are measured twice.

@@ -48,6 +48,7 @@ private:
     void CheckRepeatedIds();
     void ReadValues();
     void ReadValue(Entry& entry);
+    void ReadContents(Entry& entry); // after the type code
     void ReportTooLarge(Entry& entry);
     void Keep(Entry& entry, ValueState state, size_t size);
     void ReadCodePage();

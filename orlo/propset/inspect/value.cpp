@@ -2,6 +2,7 @@
 
 #include "orlo/propset/inspect/value.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -53,63 +54,45 @@ bool DecodeClipboard(std::string_view bytes, Value& value) {
     return true;
 }
 
+constexpr uint32_t kSigned[] = {VT_I1, VT_I2, VT_I4, VT_INT, VT_ERROR, VT_I8, VT_CY};
+constexpr uint32_t kUnsigned[] = {VT_UI1, VT_UI2, VT_UI4, VT_UINT, VT_UI8, VT_FILETIME};
+
+template <size_t count>
+bool IsOneOf(const uint32_t (&types)[count], uint32_t type) {
+    return std::find(types, types + count, type) != types + count;
+}
+
+uint64_t LoadWhole(std::string_view bytes) {
+    uint64_t number = 0;
+    std::memcpy(&number, bytes.data(), bytes.size());
+    return number;
+}
+
+int64_t LoadSigned(std::string_view bytes) {
+    const size_t unused = 64 - 8 * bytes.size();
+    return static_cast<int64_t>(LoadWhole(bytes) << unused) >> unused; // the sign is repeated
+}
+
 bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, uint16_t codePage, Value& value) {
     value.type = type;
-    switch (type) {
-    case VT_EMPTY:
-    case VT_NULL:
-        return true;
-    case VT_BOOL:
-        value.data = Load32(reinterpret_cast<const uint8_t*>(bytes.data())) != 0;
-        return true;
-    case VT_I1:
-        value.data = int64_t{Load<int8_t>(bytes)};
-        return true;
-    case VT_I2:
-        value.data = int64_t{Load<int16_t>(bytes)};
-        return true;
-    case VT_I4:
-    case VT_INT:
-    case VT_ERROR:
-        value.data = int64_t{Load<int32_t>(bytes)};
-        return true;
-    case VT_I8:
-    case VT_CY:
-        value.data = Load<int64_t>(bytes);
-        return true;
-    case VT_UI1:
-        value.data = uint64_t{Load<uint8_t>(bytes)};
-        return true;
-    case VT_UI2:
-        value.data = uint64_t{Load<uint16_t>(bytes)};
-        return true;
-    case VT_UI4:
-    case VT_UINT:
-        value.data = uint64_t{Load<uint32_t>(bytes)};
-        return true;
-    case VT_UI8:
-    case VT_FILETIME:
-        value.data = Load<uint64_t>(bytes);
-        return true;
-    case VT_R4:
+    if (type == VT_EMPTY || type == VT_NULL) return true;
+    if (form.isText) return DecodeText(bytes, type == VT_LPWSTR ? kCodePageUtf16 : codePage, value);
+    if (type == VT_CF) return DecodeClipboard(bytes, value);
+    if (type == VT_BOOL)
+        value.data = LoadWhole(bytes) != 0;
+    else if (IsOneOf(kSigned, type))
+        value.data = LoadSigned(bytes);
+    else if (IsOneOf(kUnsigned, type))
+        value.data = LoadWhole(bytes);
+    else if (type == VT_R4)
         value.data = double{Load<float>(bytes)};
-        return true;
-    case VT_R8:
-    case VT_DATE:
+    else if (type == VT_R8 || type == VT_DATE)
         value.data = Load<double>(bytes);
-        return true;
-    case VT_CLSID:
+    else if (type == VT_CLSID)
         value.data = Load<GUID>(bytes);
-        return true;
-    case VT_CF:
-        return DecodeClipboard(bytes, value);
-    case VT_LPWSTR:
-        return DecodeText(bytes, kCodePageUtf16, value);
-    default:
-        if (form.isText) return DecodeText(bytes, codePage, value);
+    else
         value.data = ToBytes(bytes);
-        return true;
-    }
+    return true;
 }
 
 // Encodes an integer of that size if it is in range.
@@ -170,36 +153,39 @@ bool EncodeBytes(const Value& value, const TypeForm& form, ImageWriter& image) {
     return true;
 }
 
+bool EncodeBool(const Value& value, ImageWriter& image) {
+    const auto* truth = std::get_if<bool>(&value.data);
+    if (truth != nullptr) image.Put32(*truth ? 0xFFFF : 0);
+    return truth != nullptr;
+}
+
+bool EncodeGuid(const Value& value, ImageWriter& image) {
+    const auto* guid = std::get_if<GUID>(&value.data);
+    if (guid != nullptr) image.Put(guid, sizeof *guid);
+    return guid != nullptr;
+}
+
 bool EncodeElement(const Value& value, uint16_t codePage, ImageWriter& image) {
     const TypeForm& form = FormOf(value.type);
     if (form.form == Form::none) return false;
+    if (form.isText) return EncodeText(value, value.type == VT_LPWSTR ? kCodePageUtf16 : codePage, image);
     switch (value.type) {
     case VT_EMPTY:
     case VT_NULL:
         return true;
-    case VT_BOOL: {
-        const auto* truth = std::get_if<bool>(&value.data);
-        if (truth != nullptr) image.Put32(*truth ? 0xFFFF : 0);
-        return truth != nullptr;
-    }
+    case VT_BOOL:
+        return EncodeBool(value, image);
     case VT_R4:
     case VT_R8:
     case VT_DATE:
         return EncodeReal(value, form.size, image);
-    case VT_CLSID: {
-        const auto* guid = std::get_if<GUID>(&value.data);
-        if (guid != nullptr) image.Put(guid, sizeof *guid);
-        return guid != nullptr;
-    }
+    case VT_CLSID:
+        return EncodeGuid(value, image);
     case VT_CF:
         return EncodeClipboard(value, image);
-    case VT_DECIMAL:
-        return EncodeBytes(value, form, image);
-    case VT_LPWSTR:
-        return EncodeText(value, kCodePageUtf16, image);
     default:
-        if (form.isText) return EncodeText(value, codePage, image);
-        return form.form == Form::fixed ? EncodeWhole(value, form.size, image) : EncodeBytes(value, form, image);
+        const bool isNumber = form.form == Form::fixed && value.type != VT_DECIMAL;
+        return isNumber ? EncodeWhole(value, form.size, image) : EncodeBytes(value, form, image);
     }
 }
 
