@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "drawcore/view.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -161,7 +162,10 @@ bool CachedView::FinishSince(Clock::time_point start, int milliseconds) {
         m_slice.place = 0;
         if (HasHighlight()) m_highlight.Begin(m_next.Size(), m_next.Bounds());
     }
-    if (HasHighlight() && !DrawOn(m_highlight.Dc(), m_document->Selected().Set(), m_slice.place, left())) return false;
+    if (SelectsAll())
+        m_highlight.TakeFrom(m_next, m_background);
+    else if (HasHighlight() && !DrawOn(m_highlight.Dc(), m_document->Selected().Set(), m_slice.place, left()))
+        return false;
     std::swap(m_picture, m_next);
     m_scene.CopyFrom(m_picture.Dc(), m_scene.Bounds());
     if (HasHighlight()) m_highlight.DrawInto(m_scene);
@@ -206,8 +210,23 @@ void CachedView::RenewScene() {
     if (area.IsRectEmpty()) return;
     m_scene.CopyFrom(m_picture.Dc(), area);
     if (!HasHighlight() || !m_highlight.Begin(m_scene.Size(), area)) return;
-    Draw(m_highlight.Dc(), m_document->Selected().Set());
+    if (SelectsAll())
+        m_highlight.TakeFrom(m_picture, m_background);
+    else
+        Draw(m_highlight.Dc(), m_document->Selected().Set());
     m_highlight.DrawInto(m_scene);
+}
+
+// Drawing many graphics takes longer than comparing the numbers of graphics.
+bool CachedView::SelectsAll() const {
+    constexpr int kMany = 1000;
+    const int selected = m_document ? m_document->Selected().Count() : 0;
+    if (selected < kMany) return false;
+    const auto all = orlo::host::Members(m_document->Root());
+    int count = 0;
+    for (auto member = all.begin(); member != all.end(); ++member)
+        ++count;
+    return count == selected;
 }
 
 void CachedView::Draw(HDC dc, GraphicStruct* graphic) {

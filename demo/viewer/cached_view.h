@@ -63,6 +63,7 @@ private:
     bool DrawOn(HDC dc, GraphicStruct* graphic, uint32_t& place, int milliseconds);
     bool FinishSince(std::chrono::steady_clock::time_point start, int milliseconds);
     bool HasHighlight() const { return m_document && m_document->Selected().Count() > 0; }
+    bool SelectsAll() const;
 
     Camera& m_camera;
     const int m_frameTime;

@@ -1,7 +1,8 @@
 // The highlight around selected graphics.
 //
 // The selection is drawn once more, on a background of a color that is not used otherwise: every pixel of another color
-// belongs to it. This works for whatever the drawing code draws, including texts and hatches.
+// belongs to it. This works for whatever the drawing code draws, including texts and hatches. If everything is
+// selected, the picture of the drawing tells the same.
 
 #include "demo/viewer/selection_highlight.h"
 
@@ -32,6 +33,18 @@ bool SelectionHighlight::Begin(CSize scene, CRect area) {
     m_mask.Fill(m_around, kGround);
     ::IntersectClipRect(m_mask.Dc(), m_around.left, m_around.top, m_around.right, m_around.bottom);
     return true;
+}
+
+void SelectionHighlight::TakeFrom(const MemoryPicture& picture, COLORREF background) {
+    const uint32_t backgroundPixel =
+        static_cast<uint32_t>(RGB(GetBValue(background), GetGValue(background), GetRValue(background)));
+    const CRect& around = m_around;
+    for (int y = around.top; y < around.bottom; ++y) {
+        const uint32_t* pixels = picture.Row(y);
+        std::replace_copy_if(
+            pixels + around.left, pixels + around.right, m_mask.Row(y) + around.left,
+            [=](uint32_t pixel) { return (pixel & 0xFFFFFF) == backgroundPixel; }, kGroundPixel);
+    }
 }
 
 void SelectionHighlight::DrawInto(MemoryPicture& scene) {

@@ -13,6 +13,8 @@ public:
     // afterwards. Returns false if there is not enough memory, and no highlight is drawn.
     bool Begin(CSize scene, CRect area);
     HDC Dc() const { return m_mask.Dc(); }
+    // Takes the selection from a picture of it instead of drawing it.
+    void TakeFrom(const MemoryPicture& picture, COLORREF background);
     void DrawInto(MemoryPicture& scene);
 
 private:

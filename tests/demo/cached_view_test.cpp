@@ -8,6 +8,8 @@
 
 #include "drawcore/view.h"
 #include "orlo/host/graphic.h"
+#include "orlo/host/owners.h"
+#include "orlo/host/vertex.h"
 
 namespace {
 
@@ -138,6 +140,29 @@ TEST_F(MovingPicture, EqualsAFreshDrawingAtRest) {
         ASSERT_FALSE(picture.IsMoved());
         ASSERT_EQ(Shown(), DrawnAnew());
     }
+}
+
+// The highlight is then taken from the picture. A selection that lacks only what is out of sight is drawn.
+TEST_F(MovingPicture, HighlightsAllAsItHighlightsMany) {
+    const auto dot = [&](double x, double y) {
+        GraphicStruct* graphic = ::GraphicNewEx(kGraphicVertices, 0, 1);
+        for (const double step : {0.0, 0.1})
+            ::GraphicVertexAdd(graphic, orlo::host::OwnedVertex(::VertexNewEx(x + step, y, 0)).get());
+        ::GraphicAdd(document->Root(), graphic);
+        return graphic;
+    };
+    for (int i = 0; i < 1000; ++i)
+        dot(Number(70), Number(70));
+    GraphicStruct* distant = dot(5000, 5000);
+    document->Selected().Apply(document->Selectable(), Selection::Way::Replace);
+    picture.InvalidateAll();
+    const ViewPixels all = Shown();
+    document->Selected().Apply({distant}, Selection::Way::Toggle);
+    EXPECT_EQ(DrawnAnew(), all);
+    document->Selected().Apply({distant}, Selection::Way::Add);
+    picture.Pan(CSize(5, 5));
+    Rest();
+    EXPECT_EQ(Shown(), DrawnAnew());
 }
 
 TEST_F(MovingPicture, NeverShowsAnOutdatedPicture) {
