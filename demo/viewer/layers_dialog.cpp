@@ -212,9 +212,17 @@ void CLayersDialog::OnState(UINT command) {
     Toggle(command - IDC_LAYER_ON, SelectedLayers());
 }
 
-// Posted because selecting many rows sends a notification for each.
+// Selecting many rows sends a notification for each, and the list would draw each.
+void CLayersDialog::OnRowChanged() {
+    if (std::exchange(m_isShowing, true)) return;
+    ::SendMessageA(m_list, WM_SETREDRAW, FALSE, 0);
+    PostMessage(kShowStates);
+}
+
 LRESULT CLayersDialog::OnShowStates(WPARAM, LPARAM) {
     m_isShowing = false;
+    ::SendMessageA(m_list, WM_SETREDRAW, TRUE, 0);
+    ::InvalidateRect(m_list, nullptr, FALSE);
     ShowStates();
     return 0;
 }
@@ -232,7 +240,11 @@ BOOL CLayersDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     }
     case LVN_ITEMCHANGED:
     case LVN_ODSTATECHANGED:
-        if (!std::exchange(m_isShowing, true)) PostMessage(kShowStates);
+        OnRowChanged();
+        return TRUE;
+    case LVN_KEYDOWN:
+        if (reinterpret_cast<const NMLVKEYDOWN*>(lParam)->wVKey == 'A' && ::GetKeyState(VK_CONTROL) < 0)
+            ListView_SetItemState(m_list, -1, LVIS_SELECTED, LVIS_SELECTED);
         return TRUE;
     case LVN_COLUMNCLICK: {
         const int column = reinterpret_cast<const NMLISTVIEW*>(lParam)->iSubItem;

@@ -1,6 +1,6 @@
 // The layers dialog: turns layers on and off, freezes or locks them, one or several at a time. The drawing shows each
 // change immediately; Cancel undoes all of them. Clicking a column's title sorts by it, and the Find field filters
-// layers by name. The list is virtual, so that it can show thousands of layers.
+// layers by name; Ctrl+A selects all of them. The list is virtual, so that it can show thousands of layers.
 #pragma once
 
 #include <afxwin.h>
@@ -40,6 +40,7 @@ private:
     // Rebuilds the rows and keeps the selected layers, or else selects the first row.
     void ShowRows();
     void ShowStates();
+    void OnRowChanged();
     void OnClick(POINT point);
     LRESULT DrawCell(const NMHDR& header) const;
 
@@ -50,6 +51,6 @@ private:
     std::vector<size_t> m_rows; // the layers shown by the list, in its order
     int m_sortColumn = 0;
     bool m_sortsDown = false;
-    bool m_isShowing = false; // a message to update the check boxes has been posted
+    bool m_isShowing = false; // a message to draw the rows and update the check boxes has been posted
     HWND m_list = nullptr;
 };

@@ -10,6 +10,7 @@
 #include "drawcore/table.h"
 #include "orlo/host/drawing.h"
 #include "orlo/win/gdi.h"
+#include "support/fresh_drawing.h"
 
 namespace {
 
@@ -119,7 +120,7 @@ TEST_F(Layers, ShowTheirColors) {
         const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
         EXPECT_EQ(Cell(dialog, 0, 5), "Red");
         ListView_SetItemState(list, -1, 0, LVIS_SELECTED);
-        ::UpdateWindow(list);
+        user.Wait(0);
         RECT cell = {LVIR_BOUNDS, 5, 0, 0};
         ::SendMessageA(list, LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
         EXPECT_EQ(::GetPixel(orlo::WindowDC(list).get(), cell.right - 3, (cell.top + cell.bottom) / 2), RGB(255, 0, 0));
@@ -134,8 +135,15 @@ TEST_F(Layers, ThousandsCanBeChangedAtOnce) {
     InDialog([&](HWND dialog) {
         const HWND list = ::GetDlgItem(dialog, IDC_LAYER_LIST);
         EXPECT_EQ(::SendMessageA(list, LVM_GETITEMCOUNT, 0, 0), 3002);
-        ListView_SetItemState(list, -1, LVIS_SELECTED, LVIS_SELECTED);
-        user.Wait(0);
+        user.Key(VK_END, UserInput::kShift);
+        EXPECT_EQ(ListView_GetSelectedCount(list), 3002u);
+        EXPECT_EQ(StalePart(dialog), "");
+        user.Key(VK_HOME);
+        EXPECT_EQ(ListView_GetSelectedCount(list), 1u);
+        EXPECT_EQ(StalePart(dialog), "");
+        user.Key('A', UserInput::kControl);
+        EXPECT_EQ(ListView_GetSelectedCount(list), 3002u);
+        EXPECT_EQ(StalePart(dialog), "");
         user.Mnemonic('f');
         EXPECT_EQ(Cell(dialog, 3001, 2), "yes");
         user.Key(VK_RETURN);
