@@ -114,9 +114,34 @@ Fill FillWith(const List& list, int n) {
     return result;
 }
 
+// Types the name of one of the last layers. Only the first key reads the names of the items.
+void BenchTyping() {
+    constexpr int kLayers = 10000;
+    const TestDrawing drawing;
+    TableStruct* layers = drawing.Table(kTableLayers);
+    MakeLayers(layers, kLayers);
+    const Parent parent;
+    const HWND combo = ::CreateWindowExA(0, "QXComboBox", "", kComboStyle, 10, 10, 200, 320, parent.m_hWnd,
+                                         reinterpret_cast<HMENU>(INT_PTR{IDC_LAYER}), nullptr, nullptr);
+    const ControlFillRecord record = {layers, 0, 0};
+    std::vector<double> first, later;
+    for (int round = 0; round < 9; ++round) {
+        ::SendMessageA(combo, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
+        const auto type = [&](char letter) {
+            return Seconds([&] { ::SendMessageA(combo, WM_CHAR, static_cast<WPARAM>(letter), 1); });
+        };
+        first.push_back(type('l'));
+        for (const char letter : std::string("ayer 9998"))
+            later.push_back(type(letter));
+    }
+    Print("type_into_layers_10000_first_key", 1000 * Median(first), "ms");
+    Print("type_into_layers_10000_key", 1000 * Median(later), "ms");
+}
+
 } // namespace
 
 void BenchFill() {
+    BenchTyping();
     const List lists[] = {{"fill_colors_", IDC_COLOR, kTableColors, MakeColors},
                           {"fill_layers_", IDC_LAYER, kTableLayers, MakeLayers}};
     for (const List& list : lists) {
