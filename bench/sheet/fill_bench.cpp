@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -114,7 +115,7 @@ Fill FillWith(const List& list, int n) {
     return result;
 }
 
-// Types the name of one of the last layers. Only the first key reads the names of the items.
+// Types the name of one of the last layers.
 void BenchTyping() {
     constexpr int kLayers = 10000;
     const TestDrawing drawing;
@@ -124,18 +125,18 @@ void BenchTyping() {
     const HWND combo = ::CreateWindowExA(0, "QXComboBox", "", kComboStyle, 10, 10, 200, 320, parent.m_hWnd,
                                          reinterpret_cast<HMENU>(INT_PTR{IDC_LAYER}), nullptr, nullptr);
     const ControlFillRecord record = {layers, 0, 0};
-    std::vector<double> first, later;
+    std::vector<double> slowest;
     for (int round = 0; round < 9; ++round) {
         ::SendMessageA(combo, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
         const auto type = [&](char letter) {
             return Seconds([&] { ::SendMessageA(combo, WM_CHAR, static_cast<WPARAM>(letter), 1); });
         };
-        first.push_back(type('l'));
-        for (const char letter : std::string("ayer 9998"))
-            later.push_back(type(letter));
+        double seconds = 0;
+        for (const char letter : std::string("layer 9998"))
+            seconds = std::max(seconds, type(letter));
+        slowest.push_back(seconds);
     }
-    Print("type_into_layers_10000_first_key", 1000 * Median(first), "ms");
-    Print("type_into_layers_10000_key", 1000 * Median(later), "ms");
+    Print("type_into_layers_10000_slowest_key", 1000 * Median(slowest), "ms");
 }
 
 } // namespace

@@ -248,7 +248,6 @@ void CComboControl::PostNcDestroy() {
 
 LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const ControlItems items = ControlItems::OfCombo(m_hWnd);
-    m_state->names.Watch(items, message);
     if (message == WM_GETOBJECT) {
         if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
     }
@@ -259,7 +258,9 @@ LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         m_state->RecordChoice();
     }
     const bool cancels = message == WM_KEYDOWN && wParam == VK_ESCAPE && GetDroppedState();
-    const LRESULT result = CComboBox::WindowProc(message, wParam, lParam);
+    if (message == WM_DESTROY) m_state->names = ItemNames();
+    const LRESULT result = CComboBox::WindowProc(message, wParam, lParam); // can delete this object
+    if (items.IsChange(message)) m_state->names.Change(items, message, lParam, result);
     if (cancels) m_state->RestoreChoice();
     if (items.IsSelection(message)) NotifyValueChange(m_hWnd);
     return result;

@@ -7,16 +7,17 @@
 struct ControlItems::Messages {
     UINT count, getSelection, setSelection, reset, add, insert, findExact, findPrefix, selectPrefix, length, text,
         rowHeight, remove;
+    LONG hasStrings; // style
 };
 
 const ControlItems::Messages ControlItems::kCombo = {
-    CB_GETCOUNT,     CB_GETCURSEL,       CB_SETCURSEL,   CB_RESETCONTENT, CB_ADDSTRING,
-    CB_INSERTSTRING, CB_FINDSTRINGEXACT, CB_FINDSTRING,  CB_SELECTSTRING, CB_GETLBTEXTLEN,
-    CB_GETLBTEXT,    CB_SETITEMHEIGHT,   CB_DELETESTRING};
+    CB_GETCOUNT,     CB_GETCURSEL,       CB_SETCURSEL,    CB_RESETCONTENT, CB_ADDSTRING,
+    CB_INSERTSTRING, CB_FINDSTRINGEXACT, CB_FINDSTRING,   CB_SELECTSTRING, CB_GETLBTEXTLEN,
+    CB_GETLBTEXT,    CB_SETITEMHEIGHT,   CB_DELETESTRING, CBS_HASSTRINGS};
 const ControlItems::Messages ControlItems::kList = {
-    LB_GETCOUNT,     LB_GETCURSEL,       LB_SETCURSEL,   LB_RESETCONTENT, LB_ADDSTRING,
-    LB_INSERTSTRING, LB_FINDSTRINGEXACT, LB_FINDSTRING,  LB_SELECTSTRING, LB_GETTEXTLEN,
-    LB_GETTEXT,      LB_SETITEMHEIGHT,   LB_DELETESTRING};
+    LB_GETCOUNT,     LB_GETCURSEL,       LB_SETCURSEL,    LB_RESETCONTENT, LB_ADDSTRING,
+    LB_INSERTSTRING, LB_FINDSTRINGEXACT, LB_FINDSTRING,   LB_SELECTSTRING, LB_GETTEXTLEN,
+    LB_GETTEXT,      LB_SETITEMHEIGHT,   LB_DELETESTRING, LBS_HASSTRINGS};
 
 ControlItems ControlItems::OfCombo(HWND window) {
     return {window, kCombo};
@@ -67,6 +68,18 @@ bool ControlItems::SelectPrefix(int from, const char* prefix) const {
 bool ControlItems::IsChange(UINT message) const {
     return message == messages_->add || message == messages_->insert || message == messages_->remove ||
            message == messages_->reset;
+}
+
+bool ControlItems::IsAddition(UINT message) const {
+    constexpr LONG kDrawn = CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE;
+    static_assert(kDrawn == (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE));
+    if (message != messages_->add && message != messages_->insert) return false;
+    const LONG style = ::GetWindowLongA(window_, GWL_STYLE);
+    return !(style & kDrawn) || (style & messages_->hasStrings);
+}
+
+bool ControlItems::IsReset(UINT message) const {
+    return message == messages_->reset;
 }
 
 bool ControlItems::IsSelection(UINT message) const {

@@ -41,8 +41,10 @@ public:
     // changing nothing, if there is none.
     bool SelectPrefix(int from, const char* prefix) const;
 
-    // Returns whether the message adds or removes items.
+    // Return whether the message adds or removes items, adds one with a text, or removes all.
     bool IsChange(UINT message) const;
+    bool IsAddition(UINT message) const;
+    bool IsReset(UINT message) const;
     // Returns whether the message selects an item.
     bool IsSelection(UINT message) const;
 

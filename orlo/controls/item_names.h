@@ -6,14 +6,15 @@
 
 #include "orlo/controls/control_items.h"
 
-// Caches the names until the items change: reading thousands of them takes longer than the time between two keystrokes.
+// Keeps the names as items are added at the end: reading thousands of them takes longer than the time between two
+// keystrokes. After other changes of the items they are read again.
 class ItemNames {
 public:
     const std::vector<std::string>& Of(const ControlItems& items);
-    // Must be called with each message of the control before the control handles it.
-    void Watch(const ControlItems& items, UINT message);
+    // Must be called with each message that changes the items after the control has handled it.
+    void Change(const ControlItems& items, UINT message, LPARAM lParam, LRESULT result);
 
 private:
     std::vector<std::string> names_;
-    bool read_ = false;
+    bool known_ = false;
 };

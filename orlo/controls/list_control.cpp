@@ -94,12 +94,13 @@ void CListControl::PostNcDestroy() {
 
 LRESULT CListControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     const ControlItems items = ControlItems::OfList(m_hWnd);
-    m_names->Watch(items, message);
     if (message == WM_CHAR && TypeAhead(m_hWnd, items, *m_names, wParam)) return 0;
     if (message == WM_GETOBJECT) {
         if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kListKind)) return object;
     }
-    const LRESULT result = CListBox::WindowProc(message, wParam, lParam);
+    if (message == WM_DESTROY) *m_names = ItemNames();
+    const LRESULT result = CListBox::WindowProc(message, wParam, lParam); // can delete this object
+    if (items.IsChange(message)) m_names->Change(items, message, lParam, result);
     if (items.IsSelection(message)) NotifySelection(m_hWnd, GetCurSel());
     return result;
 }

@@ -265,6 +265,18 @@ TYPED_TEST(TableControl, CachesItemNamesWhileTyping) {
     control.ResetContent();
     type("g");
     EXPECT_EQ(control.GetCurSel(), -1);
+    for (const char* item : {"00000001\tBlue", "00000002\tGold"})
+        control.AddString(item);
+    control.read = 0;
+    type("g");
+    EXPECT_EQ(control.GetCurSel(), 1);
+    EXPECT_EQ(control.read, 0) << "the names are known since the control was emptied";
+    control.InsertString(0, "00000003\tGray");
+    type("gr");
+    EXPECT_EQ(control.GetCurSel(), 0) << "inserted before the others";
+    control.SendMessage(TypeParam::kIsCombo ? CB_DELETESTRING : LB_DELETESTRING, 0);
+    type("b");
+    EXPECT_EQ(control.GetCurSel(), 0);
     control.DestroyWindow();
 }
 
