@@ -120,6 +120,20 @@ TEST(FittedControls, AreThoseOfAPageThatRequestsIt) {
     }
 }
 
+// A label starts a group, which would end the group of radio buttons that its field is in.
+TEST(FittedControls, KeepTheirGroupsWhenALabelMovesToItsField) {
+    GraphicKit kit;
+    TestSheet sheet(kit);
+    sheet.Add([](CDataExchange*) {}, kGroupPage).FitControls();
+    sheet.Run([&](SheetDriver& user) {
+        EXPECT_EQ(::GetWindow(user.Control(kEdit), GW_HWNDPREV), user.Control(kLabel));
+        for (HWND next = user.Control(kRadio); next != user.Control(kRadio + 1);) {
+            next = ::GetWindow(next, GW_HWNDNEXT);
+            EXPECT_FALSE(::GetWindowLongPtrA(next, GWL_STYLE) & WS_GROUP) << ::GetDlgCtrlID(next);
+        }
+    });
+}
+
 // Returns the number of pixels in the color of texts.
 int Ink(HWND control) {
     ::RedrawWindow(control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
