@@ -1,4 +1,4 @@
-// Tests of the preview pane: the background of the host, and the graphic of the active page as large as it fits,
+// The preview pane: the background of the host, and the graphic of the active page as large as it fits,
 // however large it is; and the calls of the host that draw it.
 
 #include <gtest/gtest.h>

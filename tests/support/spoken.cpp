@@ -1,4 +1,4 @@
-// Walks windows as a screen reader does.
+// Implements the walk.
 
 #include "support/spoken.h"
 

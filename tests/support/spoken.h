@@ -1,4 +1,4 @@
-// Reads windows as a screen reader does: each field has a name, and no text contains the key of an item.
+// Walks windows as a screen reader does: each field has a name, and no text contains the key of an item.
 #pragma once
 
 #include <windows.h>
