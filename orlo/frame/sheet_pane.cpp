@@ -7,6 +7,7 @@
 #include <afxres.h>
 
 #include <algorithm>
+#include <optional>
 
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
@@ -32,6 +33,81 @@ CRect PlaceIn(HWND parent, HWND window) {
     ::GetWindowRect(window, rect);
     ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
     return rect;
+}
+
+// The buttons are children of the sheet, which passes their commands on to the pane.
+LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR pane) {
+    auto* self = reinterpret_cast<CSheetPane*>(pane);
+    if (message == WM_NCDESTROY) ::RemoveWindowSubclass(sheet, OnSheetMessage, id);
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (message == WM_COMMAND && (control == nullptr || ::GetParent(control) == sheet)) {
+        const unsigned button = LOWORD(wParam);
+        if (button == IDOK || button == IDCANCEL || button == kPaneReset) return self->SendMessage(WM_COMMAND, button);
+        if (button == kPaneClose) // deletes the sheet and this button
+            return self->PostMessage(WM_COMMAND, button);
+    }
+    return ::DefSubclassProc(sheet, message, wParam, lParam);
+}
+
+// Where a modal sheet has its buttons: in the column beside the page, above the preview.
+void AddButtons(const CGraphicPropertySheet& propertySheet) {
+    const HWND sheet = propertySheet.m_hWnd, page = propertySheet.GetActivePage()->m_hWnd;
+    CRect units(4, 4, 50, 14); // dialog units
+    ::MapDialogRect(page, units);
+    const CSize gap(units.left, units.top), size(units.right, units.bottom);
+    CRect client;
+    ::GetClientRect(sheet, client);
+    const LRESULT font = ::SendMessageA(page, WM_GETFONT, 0, 0);
+    CPoint place(client.right - 2 * gap.cx - size.cx, PlaceIn(sheet, page).top + gap.cy);
+    for (const Button& button : kButtons) {
+        const DWORD kind = button.id == IDOK ? WS_GROUP | BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        const HWND window = ::CreateWindowExA(
+            0, "BUTTON", LibraryText(button.text), WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, place.x, place.y, size.cx,
+            size.cy, sheet, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), nullptr, nullptr);
+        ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(font), FALSE);
+        place.y += size.cy + gap.cy;
+    }
+    ::SendMessageA(sheet, DM_SETDEFID, IDOK, 0);
+}
+
+bool ShowIn(CSheetPane& pane, CGraphicPropertySheet& sheet, CPoint place) {
+    if (!sheet.Create(&pane, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
+    sheet.SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowSubclass(sheet.m_hWnd, OnSheetMessage, 1, reinterpret_cast<DWORD_PTR>(&pane));
+    AddButtons(sheet);
+    return true;
+}
+
+// Returns null for a page of another class, which a regen method can add.
+COrloPropertyPage* ActivePageOf(const CGraphicPropertySheet* sheet) {
+    CPropertyPage* page = sheet != nullptr ? sheet->GetActivePage() : nullptr;
+    const bool isOrlos = page != nullptr && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage));
+    return isOrlos ? static_cast<COrloPropertyPage*>(page) : nullptr;
+}
+
+// A control with the focus, in the page or in the sheet.
+struct Focus {
+    bool inPage;
+    int control;
+};
+
+std::optional<Focus> FocusWithin(const CGraphicPropertySheet* sheet) {
+    const COrloPropertyPage* page = ActivePageOf(sheet);
+    HWND control = ::GetFocus();
+    if (page == nullptr || control == page->m_hWnd || !::IsChild(sheet->m_hWnd, control)) return std::nullopt;
+    const bool inPage = ::IsChild(page->m_hWnd, control);
+    while (::GetParent(control) != (inPage ? page->m_hWnd : sheet->m_hWnd)) // the edit field of a combo box
+        control = ::GetParent(control);
+    return Focus{inPage, ::GetDlgCtrlID(control)};
+}
+
+// Returns false if there is no such control to see.
+bool SetFocusWithin(CGraphicPropertySheet& sheet, const Focus& focus) {
+    const CWnd* parent = focus.inPage ? static_cast<CWnd*>(ActivePageOf(&sheet)) : &sheet;
+    const HWND control = parent != nullptr ? ::GetDlgItem(parent->m_hWnd, focus.control) : nullptr;
+    if (control == nullptr || !::IsWindowVisible(control)) return false;
+    sheet.SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+    return true;
 }
 
 } // namespace
@@ -121,21 +197,24 @@ void CSheetPane::Renew() {
     m_isStale = false;
     if (!m_isOpen) return;
     const HWND focus = ::GetFocus();
-    const std::optional<Focus> within = FocusWithin();
+    const std::optional<Focus> within = FocusWithin(m_sheet);
     SendMessage(WM_SETREDRAW, FALSE);
     DropSheet();
     m_sheet = NewSheet();
-    if (m_sheet != nullptr && !ShowSheet()) DropSheet();
+    // The pane stays scrolled as far as the new sheet allows.
+    if (m_sheet != nullptr && !ShowIn(*this, *m_sheet, m_scroll->Place())) DropSheet();
+    if (m_sheet != nullptr) m_sheetSize = PlaceIn(m_hWnd, m_sheet->m_hWnd).Size();
     const bool any = m_sheet != nullptr && HasGraphics();
     m_scroll->SetContents(m_hWnd, any ? m_sheetSize : CSize());
     if (m_sheet != nullptr) m_sheet->ShowWindow(any ? SW_SHOWNA : SW_HIDE);
     m_nothing.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
     SendMessage(WM_SETREDRAW, TRUE);
     ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-    if (within && any)
-        SetFocusWithin(*within);
-    else if (focus != ::GetFocus())
+    if (within && any) {
+        if (!SetFocusWithin(*m_sheet, *within)) TakeFocus();
+    } else if (focus != ::GetFocus()) {
         ::SetFocus(::IsWindow(focus) ? focus : ::GetParent(m_hWnd));
+    }
 }
 
 void CSheetPane::DropSheet() {
@@ -143,42 +222,11 @@ void CSheetPane::DropSheet() {
     DeleteSheet();
 }
 
-bool CSheetPane::ShowSheet() {
-    if (!m_sheet->Create(this, WS_CHILD | WS_CLIPCHILDREN | DS_CONTROL, WS_EX_CONTROLPARENT)) return false;
-    const CPoint place = m_scroll->Place(); // the pane stays scrolled as far as the new sheet allows
-    m_sheet->SetWindowPos(nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-    m_sheetSize = PlaceIn(m_hWnd, m_sheet->m_hWnd).Size();
-    ::SetWindowSubclass(m_sheet->m_hWnd, OnSheetMessage, 1, reinterpret_cast<DWORD_PTR>(this));
-    AddButtons();
-    return true;
-}
-
-// Where a modal sheet has its buttons: in the column beside the page, above the preview.
-void CSheetPane::AddButtons() {
-    const HWND sheet = m_sheet->m_hWnd, page = m_sheet->GetActivePage()->m_hWnd;
-    CRect units(4, 4, 50, 14); // dialog units
-    ::MapDialogRect(page, units);
-    const CSize gap(units.left, units.top), size(units.right, units.bottom);
-    CRect client;
-    ::GetClientRect(sheet, client);
-    const LRESULT font = ::SendMessageA(page, WM_GETFONT, 0, 0);
-    CPoint place(client.right - 2 * gap.cx - size.cx, PlaceIn(sheet, page).top + gap.cy);
-    for (const Button& button : kButtons) {
-        const DWORD kind = button.id == IDOK ? WS_GROUP | BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
-        const HWND window = ::CreateWindowExA(
-            0, "BUTTON", LibraryText(button.text), WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, place.x, place.y, size.cx,
-            size.cy, sheet, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(button.id)), nullptr, nullptr);
-        ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(font), FALSE);
-        place.y += size.cy + gap.cy;
-    }
-    ::SendMessageA(sheet, DM_SETDEFID, IDOK, 0);
-}
-
 // ---- Writing
 
 bool CSheetPane::Apply() {
     if (!m_isOpen) return true;
-    COrloPropertyPage* page = ActivePage();
+    COrloPropertyPage* page = ActivePageOf(m_sheet);
     if (page != nullptr && !m_isStale && page->IsModified()) {
         const HWND focus = ::GetFocus();
         if (!page->OnKillActive()) return false;
@@ -199,65 +247,23 @@ void CSheetPane::Reset() {
 
 // ---- Keys and buttons
 
-bool CSheetPane::OnButton(unsigned nID) {
-    switch (nID) {
+BOOL CSheetPane::OnCommand(WPARAM wParam, LPARAM lParam) {
+    switch (LOWORD(wParam)) {
     case IDOK:
         Apply();
-        return true;
+        return TRUE;
     case IDCANCEL:
         OnEscape();
-        return true;
+        return TRUE;
     case kPaneReset:
         Reset();
-        return true;
+        return TRUE;
+    case kPaneClose:
+        OnCloseButton();
+        return TRUE;
     default:
-        return false;
+        return CWnd::OnCommand(wParam, lParam);
     }
-}
-
-BOOL CSheetPane::OnCommand(WPARAM wParam, LPARAM lParam) {
-    if (OnButton(LOWORD(wParam))) return TRUE;
-    if (LOWORD(wParam) != kPaneClose) return CWnd::OnCommand(wParam, lParam);
-    OnCloseButton();
-    return TRUE;
-}
-
-LRESULT CALLBACK CSheetPane::OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                            DWORD_PTR pane) {
-    auto* self = reinterpret_cast<CSheetPane*>(pane);
-    if (message == WM_NCDESTROY) ::RemoveWindowSubclass(sheet, OnSheetMessage, id);
-    const auto control = reinterpret_cast<HWND>(lParam);
-    if (message == WM_COMMAND && (control == nullptr || ::GetParent(control) == sheet)) {
-        const unsigned button = LOWORD(wParam);
-        if (button == IDOK || button == IDCANCEL || button == kPaneReset) return self->SendMessage(WM_COMMAND, button);
-        if (button == kPaneClose) // deletes the sheet and this button
-            return self->PostMessage(WM_COMMAND, button);
-    }
-    return ::DefSubclassProc(sheet, message, wParam, lParam);
-}
-
-// Returns null for a page of another class, which a regen method can add.
-COrloPropertyPage* CSheetPane::ActivePage() const {
-    CPropertyPage* page = m_sheet != nullptr ? m_sheet->GetActivePage() : nullptr;
-    const bool isOrlos = page != nullptr && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage));
-    return isOrlos ? static_cast<COrloPropertyPage*>(page) : nullptr;
-}
-
-std::optional<CSheetPane::Focus> CSheetPane::FocusWithin() const {
-    const COrloPropertyPage* page = ActivePage();
-    HWND control = ::GetFocus();
-    if (page == nullptr || !HasFocus() || control == m_sheet->m_hWnd || control == page->m_hWnd) return std::nullopt;
-    const bool inPage = ::IsChild(page->m_hWnd, control);
-    while (::GetParent(control) != (inPage ? page->m_hWnd : m_sheet->m_hWnd)) // the edit field of a combo box
-        control = ::GetParent(control);
-    return Focus{inPage, ::GetDlgCtrlID(control)};
-}
-
-void CSheetPane::SetFocusWithin(const Focus& focus) {
-    const CWnd* parent = focus.inPage ? static_cast<CWnd*>(ActivePage()) : m_sheet;
-    const HWND control = parent != nullptr ? ::GetDlgItem(parent->m_hWnd, focus.control) : nullptr;
-    if (control == nullptr || !::IsWindowVisible(control)) return TakeFocus();
-    m_sheet->SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
 }
 
 void CSheetPane::TakeFocus() {

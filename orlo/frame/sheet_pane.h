@@ -16,12 +16,10 @@
 #include <afxwin.h>
 
 #include <memory>
-#include <optional>
 
 #include "orlo/export.h"
 
 class CGraphicPropertySheet;
-class COrloPropertyPage;
 class ScrollArea;
 
 // Identifiers of the buttons. Apply is IDOK, help ID_HELP.
@@ -82,20 +80,6 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
 private:
-    struct Focus { // a control in the sheet
-        bool inPage;
-        int control;
-    };
-
-    COrloPropertyPage* ActivePage() const;
-    std::optional<Focus> FocusWithin() const;
-    void SetFocusWithin(const Focus& focus);
-    bool ShowSheet();
-    void AddButtons();
-    bool OnButton(unsigned nID);
-    static LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                           DWORD_PTR pane);
-
     CGraphicPropertySheet* m_sheet = nullptr; // the derived class's
     CWnd m_nothing;                           // the text shown if nothing is selected
     std::unique_ptr<ScrollArea> m_scroll;

@@ -94,13 +94,87 @@ CPoint PlaceOnScreen(HWND window, CPoint place, CSize size) {
                   std::max(work.top, std::min(place.y, work.bottom - size.cy)));
 }
 
-} // namespace
+// Returns the width in pixels that a button's string specifies, else the standard width.
+int ButtonWidth(HWND page, UINT text, int standard) {
+    char string[256];
+    const char* feed = LoadLibraryText(text, string, sizeof string) != 0 ? std::strchr(string, '\n') : nullptr;
+    if (feed == nullptr) return standard;
+    CRect width(0, 0, std::atoi(feed + 1), 0);
+    ::MapDialogRect(page, &width);
+    return width.right;
+}
 
-struct CWizardSheet::Row {
+// Leaves only the commands Move and Close.
+void TrimSystemMenu(HWND sheet) {
+    const HMENU menu = ::GetSystemMenu(sheet, FALSE);
+    for (int i = ::GetMenuItemCount(menu) - 1; i >= 0; --i) {
+        const UINT command = ::GetMenuItemID(menu, i);
+        if (command != SC_MOVE && command != SC_CLOSE) ::DeleteMenu(menu, static_cast<UINT>(i), MF_BYPOSITION);
+    }
+}
+
+void CopyFont(HWND page, CFont& font) {
+    const auto source = reinterpret_cast<HFONT>(::SendMessageA(page, WM_GETFONT, 0, 0));
+    LOGFONTA description;
+    if (source == nullptr || ::GetObjectA(source, sizeof description, &description) == 0) return;
+    font.DeleteObject();
+    font.CreateFontIndirect(&description);
+}
+
+// The widths of the buttons, in pixels.
+struct Row {
     int widths[kButtonCount] = {};
     int sum = 0;
-    int gaps = 0;
+    int gap = 0; // before Cancel
 };
+
+Row MeasureRow(HWND sheet, HWND page, int standardWidth, int gap) {
+    Row row;
+    for (int i = 0; i < kButtonCount; ++i) {
+        row.widths[i] = ButtonWidth(page, kButtons[i].text, standardWidth);
+        if (!IsShown(::GetDlgItem(sheet, kButtons[i].id))) continue;
+        row.sum += row.widths[i];
+        if (kButtons[i].id == IDCANCEL) row.gap = gap;
+    }
+    return row;
+}
+
+// Aligned right: Back and Next together, Cancel after a gap.
+void PlaceRow(HWND sheet, const Row& row, CPoint end, int height) {
+    int x = end.x - row.gap - row.sum;
+    for (int i = 0; i < kButtonCount; ++i) {
+        const HWND button = ::GetDlgItem(sheet, kButtons[i].id);
+        if (!IsShown(button)) continue;
+        if (kButtons[i].id == IDCANCEL) x += row.gap;
+        ::MoveWindow(button, x, end.y - height, row.widths[i], height, TRUE);
+        x += row.widths[i];
+    }
+}
+
+// Shows the page's title in place of the tabs.
+void ShowHeading(HWND sheet, CTabCtrl& tabs, int page) {
+    char text[256] = "";
+    TCITEMA item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    item.cchTextMax = sizeof text;
+    tabs.SendMessage(TCM_GETITEMA, static_cast<WPARAM>(page), reinterpret_cast<LPARAM>(&item));
+    ::SetDlgItemTextA(sheet, kHeadingId, item.pszText);
+}
+
+// The system updates the default button's frame for the Tab key, but not between the sheet and its page, and does not
+// remove it from a disabled button.
+void ShowDefaultButton(HWND sheet) {
+    const HWND focus = ::GetFocus();
+    const bool inside = focus != nullptr && ::IsChild(sheet, focus);
+    if (focus != nullptr && focus != sheet && !inside) return;
+    const HWND framed = inside && CanBePressed(focus) ? focus : ::GetDlgItem(sheet, kNextId);
+    ForEachChild(sheet, [=](HWND child) {
+        if (IsPushButton(child)) FramePushButton(child, child == framed);
+    });
+}
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CWizardSheet, CPropertySheet)
 
@@ -126,9 +200,9 @@ CWizardSheet::~CWizardSheet() = default;
 // If the first page cannot be created, the sheet is empty and the user can cancel it.
 int CWizardSheet::OnCreate(CREATESTRUCT*) {
     if (!BeginCreate()) return -1;
-    TrimSystemMenu();
+    TrimSystemMenu(m_hWnd);
     SetActivePage(m_nCurPage);
-    TakePageFont();
+    CopyFont(GetActivePage()->m_hWnd, m_font);
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
     if (!CreateTabRow(kChildStyle | rows, CRect(0, 0, 100, 10), kTabRowId)) return -1;
     m_tabRow.ShowWindow(SW_HIDE);
@@ -140,26 +214,9 @@ int CWizardSheet::OnCreate(CREATESTRUCT*) {
     if (!m_bModeless && !CreateButtons()) return -1;
     RecalcWizardLayout();
     m_tabRow.SetCurSel(m_nCurPage);
-    ShowHeading();
+    ShowHeading(m_hWnd, m_tabRow, m_nCurPage);
     if (GetActivePage()->m_hWnd != nullptr) GetActivePage()->SetFocus();
     return 0;
-}
-
-// Leaves only the commands Move and Close.
-void CWizardSheet::TrimSystemMenu() {
-    const HMENU menu = ::GetSystemMenu(m_hWnd, FALSE);
-    for (int i = ::GetMenuItemCount(menu) - 1; i >= 0; --i) {
-        const UINT command = ::GetMenuItemID(menu, i);
-        if (command != SC_MOVE && command != SC_CLOSE) ::DeleteMenu(menu, static_cast<UINT>(i), MF_BYPOSITION);
-    }
-}
-
-void CWizardSheet::TakePageFont() {
-    const auto font = reinterpret_cast<HFONT>(GetActivePage()->SendMessage(WM_GETFONT));
-    LOGFONTA description;
-    if (font == nullptr || ::GetObjectA(font, sizeof description, &description) == 0) return;
-    m_font.DeleteObject();
-    m_font.CreateFontIndirect(&description);
 }
 
 // Without a page, units are treated as pixels.
@@ -196,46 +253,12 @@ int CWizardSheet::LoadButtonText(UINT nID, char* pszBuffer) {
 
 // ---- Layout
 
-int CWizardSheet::ButtonWidth(UINT nIDText) {
-    char text[kTextSize];
-    const char* feed = LoadLibraryText(nIDText, text, kTextSize) != 0 ? std::strchr(text, '\n') : nullptr;
-    if (feed == nullptr) return m_sizeButton.cx;
-    CRect width(0, 0, std::atoi(feed + 1), 0);
-    ::MapDialogRect(GetActivePage()->m_hWnd, &width);
-    return width.right;
-}
-
-CWizardSheet::Row CWizardSheet::MeasureRow() {
-    Row row;
-    if (m_bModeless) return row;
-    for (int i = 0; i < kButtonCount; ++i) {
-        row.widths[i] = ButtonWidth(kButtons[i].text);
-        if (!IsShown(::GetDlgItem(m_hWnd, kButtons[i].id))) continue;
-        row.sum += row.widths[i];
-        if (kButtons[i].id == IDCANCEL) row.gaps += m_cxButtonGap;
-    }
-    return row;
-}
-
-// Aligned right: Back and Next together, Cancel after a gap.
-void CWizardSheet::PlaceRow(const Row& row, int cxClient, int cyClient) {
-    int x = cxClient - m_sizeTabMargin.cx - row.gaps - row.sum;
-    const int y = cyClient - m_sizeButton.cy - m_sizeTabMargin.cy;
-    for (int i = 0; i < kButtonCount; ++i) {
-        const HWND button = ::GetDlgItem(m_hWnd, kButtons[i].id);
-        if (!IsShown(button)) continue;
-        if (kButtons[i].id == IDCANCEL) x += m_cxButtonGap;
-        ::MoveWindow(button, x, y, row.widths[i], m_sizeButton.cy, TRUE);
-        x += row.widths[i];
-    }
-}
-
 void CWizardSheet::RecalcWizardLayout() {
     const HWND page = GetActivePage()->m_hWnd;
     const CSize pageSize = WindowSize(page);
     const int mx = m_sizeTabMargin.cx, my = m_sizeTabMargin.cy;
-    const Row row = MeasureRow();
-    const int cxClient = std::max<int>(2 * mx + pageSize.cx + 3, row.sum + row.gaps + 2 * mx);
+    const Row row = m_bModeless ? Row() : MeasureRow(m_hWnd, page, m_sizeButton.cx, m_cxButtonGap);
+    const int cxClient = std::max<int>(2 * mx + pageSize.cx + 3, row.sum + row.gap + 2 * mx);
 
     constexpr UINT kKeep = SWP_NOZORDER | SWP_NOACTIVATE;
     m_tabRow.SetWindowPos(nullptr, mx, my, cxClient - 2 * mx, 0, kKeep);
@@ -247,7 +270,7 @@ void CWizardSheet::RecalcWizardLayout() {
     ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
     Resize(window.Size());
     if (page != nullptr) ::SetWindowPos(page, nullptr, mx + 1, cyTabs + my, cxClient - 2 * mx - 3, pageSize.cy, kKeep);
-    if (!m_bModeless) PlaceRow(row, cxClient, cyClient);
+    if (!m_bModeless) PlaceRow(m_hWnd, row, CPoint(cxClient - mx, cyClient - my), m_sizeButton.cy);
     // The system has moved the old screen contents of the child windows, so that parts of the page appear on the
     // buttons.
     ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -287,26 +310,16 @@ void CWizardSheet::SetButtonStates(int nPage) {
     ::SetDlgItemTextA(m_hWnd, kNextId, text);
 }
 
-void CWizardSheet::ShowHeading() {
-    char text[kTextSize] = "";
-    TCITEMA item = {};
-    item.mask = TCIF_TEXT;
-    item.pszText = text;
-    item.cchTextMax = kTextSize;
-    m_tabRow.SendMessage(TCM_GETITEMA, static_cast<WPARAM>(m_nCurPage), reinterpret_cast<LPARAM>(&item));
-    ::SetDlgItemTextA(m_hWnd, kHeadingId, item.pszText);
-}
-
 // Tab row, heading and buttons change with the page, and remain unchanged if it cannot be left.
 bool CWizardSheet::MoveTo(int nPage) {
     const CSize before = WindowSize(GetActivePage()->m_hWnd);
     if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
-    ShowHeading();
+    ShowHeading(m_hWnd, m_tabRow, m_nCurPage);
     if (WindowSize(GetActivePage()->m_hWnd) != before) RecalcWizardLayout();
     // Some systems take the focus from a disabled button, leaving no window with the focus.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
-    ShowDefaultButton();
+    ShowDefaultButton(m_hWnd);
     return true;
 }
 
@@ -319,24 +332,12 @@ void CWizardSheet::OnNext() {
         OnFinish();
     } else if (MoveTo(m_nCurPage + 1)) {
         FocusActivePage();
-        ShowDefaultButton();
+        ShowDefaultButton(m_hWnd);
     }
 }
 
 LRESULT CWizardSheet::OnGetDefaultButton(WPARAM, LPARAM) {
     return ::GetDlgItem(m_hWnd, kNextId) != nullptr ? MAKELRESULT(kNextId, DC_HASDEFID) : Default();
-}
-
-// The system updates the default button's frame for the Tab key, but not between the sheet and its page, and does not
-// remove it from a disabled button.
-void CWizardSheet::ShowDefaultButton() {
-    const HWND focus = ::GetFocus();
-    const bool inside = focus != nullptr && ::IsChild(m_hWnd, focus);
-    if (focus != nullptr && focus != m_hWnd && !inside) return;
-    const HWND framed = inside && CanBePressed(focus) ? focus : ::GetDlgItem(m_hWnd, kNextId);
-    ForEachChild(m_hWnd, [=](HWND child) {
-        if (IsPushButton(child)) FramePushButton(child, child == framed);
-    });
 }
 
 // Return presses the default button, Next, unless fields that the user has not visited would be skipped.
@@ -355,7 +356,7 @@ BOOL CWizardSheet::PreTranslateMessage(MSG* pMsg) {
         OnReturn(*pMsg);
     else
         handled = CPropertySheet::PreTranslateMessage(pMsg);
-    if (m_hWnd != nullptr && !m_bModeless) ShowDefaultButton();
+    if (m_hWnd != nullptr && !m_bModeless) ShowDefaultButton(m_hWnd);
     return handled;
 }
 

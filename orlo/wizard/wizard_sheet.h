@@ -68,17 +68,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    struct Row; // the widths of the buttons
-
-    void TrimSystemMenu();
-    void TakePageFont();
     void MeasureUnits();
-    int ButtonWidth(UINT nIDText);
-    Row MeasureRow();
-    void PlaceRow(const Row& row, int cxClient, int cyClient);
     void Resize(CSize size);
     bool MoveTo(int nPage); // Returns false if the page was not left.
-    void ShowHeading();
-    void ShowDefaultButton();
     void OnReturn(const MSG& message);
 };
