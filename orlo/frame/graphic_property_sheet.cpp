@@ -77,9 +77,9 @@ CGraphicPropertyPage* CGraphicPropertySheet::GetActiveGraphicPage() {
 }
 
 void CGraphicPropertySheet::UpdatePreview(int bNow) {
-    if (m_wndPreview.m_hWnd == nullptr) return;
+    if (m_wndPreview.m_hWnd == nullptr || m_defersPreview) return;
     ::InvalidateRect(m_wndPreview.m_hWnd, nullptr, TRUE);
-    if (bNow && !m_defersPreview) ::UpdateWindow(m_wndPreview.m_hWnd);
+    if (bNow) ::UpdateWindow(m_wndPreview.m_hWnd);
 }
 
 void CGraphicPropertySheet::UpdateDesc(int) {}

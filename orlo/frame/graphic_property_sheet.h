@@ -91,7 +91,7 @@ private:
     int m_cxPreview; // size of the preview pane, in device pixels
     int m_cyPreview;
     CGraphicPreview m_wndPreview;
-    bool m_defersPreview = false; // UpdatePreview(1) only invalidates it
+    bool m_defersPreview = false; // UpdatePreview does nothing
     int m_bEndWithCode = 0;
     int m_nEndCode = 0;
     Written m_written;

@@ -62,7 +62,7 @@ void PageState::AddPreviewGraphic() {
         return;
     }
     m_page.m_pPreviewGraphic->dwFlags |= kFlagPreview;
-    const Deferred deferred(sheet->m_defersPreview); // the page is not visible yet, and is about to update the preview
+    const Deferred deferred(sheet->m_defersPreview); // the page updates the preview when it is active
     for (int i = 0; i < sheet->GetPageCount(); ++i) {
         CPropertyPage* page = sheet->GetPage(i);
         if (page->m_hWnd != nullptr && page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))
