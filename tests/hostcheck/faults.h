@@ -15,6 +15,7 @@ constexpr const char* kVariants[] = {
     "flags of the host in vertices",
     "insertion without vertices",
     "no styles and colors",
+    "slow drawing",
 };
 constexpr char kNoStyles[] = "no styles and colors";
 

@@ -628,6 +628,7 @@ const ExtentsStruct* GraphicGetExtentsSel(GraphicStruct* graphic, int selected) 
 void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, ViewportStruct* viewport, int preview,
                     int flags) {
     if ((Is("texts not drawn") && graphic->bType == kGraphicText) || (Is("preview not drawn") && preview)) return;
+    if (Is("slow drawing")) ::Sleep(15);
     if (Is("pen leaked")) ::CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
     Graphic& drawn = *Graphic::From(graphic);
     const Content before = drawn.content;
