@@ -1,4 +1,4 @@
-// Accessibility of the viewer: a screen reader hears the name of each part and of each field of its dialogs.
+// Accessibility of the viewer: each part of its windows and each field of its dialogs has a name.
 
 #include "demo/viewer.h"
 
@@ -6,7 +6,7 @@
 #include "demo/viewer/resource.h"
 #include "orlo/resources/resource.h"
 #include "support/accessible.h"
-#include "support/spoken.h"
+#include "support/accessible_names.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ TEST_F(ScreenReader, GetsANameForEachFieldOfTheSheet) {
         for (const FieldCase& row : kFields) {
             ASSERT_TRUE(ClickTab(user, sheet, row.page));
             const HWND field = ::GetDlgItem(ActivePageOf(sheet), row.control);
-            EXPECT_EQ(SpokenName(field), row.name);
+            EXPECT_EQ(AccessibleName(field), row.name);
             const bool isEdit = ::SendMessageA(field, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL;
             EXPECT_EQ(Accessible(field).Role() == ROLE_SYSTEM_TEXT, isEdit) << row.name;
         }
@@ -56,10 +56,10 @@ TEST_F(ScreenReader, GetsANameForEachFieldOfTheSheet) {
 TEST_F(ScreenReader, GetsThePartsOfTheMainWindow) {
     user.Key(VK_F4);
     EXPECT_EQ(Accessible(frame->Pane().m_hWnd).Name(), "Properties");
-    EXPECT_EQ(SpokenName(::FindWindowExA(frame->Pane().m_hWnd, nullptr, "STATIC", nullptr)), "Nothing is selected");
+    EXPECT_EQ(AccessibleName(::FindWindowExA(frame->Pane().m_hWnd, nullptr, "STATIC", nullptr)), "Nothing is selected");
     user.Key('A', UserInput::kControl);
     user.Wait(100);
-    EXPECT_LT(6, ExpectSpoken(frame->m_hWnd)) << "the sheet in the pane";
+    EXPECT_LT(6, ExpectAccessible(frame->m_hWnd)) << "the sheet in the pane";
     for (HWND part = ::GetWindow(frame->m_hWnd, GW_CHILD); part; part = ::GetWindow(part, GW_HWNDNEXT)) {
         if (!::IsWindowVisible(part)) continue;
         EXPECT_NE(Accessible(part).Name(), "") << ::GetDlgCtrlID(part);
@@ -77,11 +77,11 @@ TEST_F(ScreenReader, GetsEachFieldOfTheDialogs) {
     for (const auto& row : rows)
         InDialog(row.key, row.modifiers, [&](HWND dialog) {
             EXPECT_EQ(Accessible(dialog).Name(), row.title);
-            EXPECT_EQ(ExpectSpoken(dialog), row.fields) << row.title;
+            EXPECT_EQ(ExpectAccessible(dialog), row.fields) << row.title;
         });
     InDialog('L', UserInput::kControl, [](HWND dialog) {
-        EXPECT_EQ(SpokenName(::GetDlgItem(dialog, IDC_LAYER_FIND)), "Find:");
-        EXPECT_EQ(SpokenName(::GetDlgItem(dialog, IDC_LAYER_LIST)), "Layers of the drawing:");
+        EXPECT_EQ(AccessibleName(::GetDlgItem(dialog, IDC_LAYER_FIND)), "Find:");
+        EXPECT_EQ(AccessibleName(::GetDlgItem(dialog, IDC_LAYER_LIST)), "Layers of the drawing:");
     });
 }
 
@@ -92,7 +92,7 @@ TEST_F(ScreenReader, GetsEachStepOfTheStyleWizard) {
         user.Type("Walls");
         for (int step = 0; step < 3; ++step) {
             SCOPED_TRACE(step);
-            EXPECT_LT(2, ExpectSpoken(wizard));
+            EXPECT_LT(2, ExpectAccessible(wizard));
             if (step < 2) user.Click(::GetDlgItem(wizard, kNext));
         }
     });

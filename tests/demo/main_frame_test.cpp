@@ -13,8 +13,8 @@
 #include "orlo/host/graphic.h"
 #include "orlo/host/property.h"
 #include "orlo/resources/resource.h"
+#include "support/accessible_names.h"
 #include "support/message_box_watcher.h"
-#include "support/spoken.h"
 
 namespace {
 
@@ -133,7 +133,7 @@ TEST_F(Viewer, AllWarningsAreListed) {
                       const std::string text = WindowText(::GetDlgItem(dialog, IDC_WARNINGS));
                       for (const std::string& warning : warnings)
                           EXPECT_NE(text.find(warning + "\r\n"), std::string::npos) << warning;
-                      EXPECT_EQ(ExpectSpoken(dialog), 2);
+                      EXPECT_EQ(ExpectAccessible(dialog), 2);
                       user.Key(VK_RETURN);
                   });
 }

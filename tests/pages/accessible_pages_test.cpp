@@ -8,13 +8,13 @@
 #include "orlo/win/child_windows.h"
 #include "pages/every_kind.h"
 #include "support/accessible.h"
+#include "support/accessible_names.h"
 #include "support/host_frame.h"
 #include "support/sheet_driver.h"
-#include "support/spoken.h"
 
 namespace {
 
-TEST(SpokenPages, NameEveryFieldAndItem) {
+TEST(AccessiblePages, NameEveryFieldAndItem) {
     EveryKind kinds;
     HostFrame frame(kinds.Drawing());
     kinds.Select(kEverything);
@@ -24,7 +24,7 @@ TEST(SpokenPages, NameEveryFieldAndItem) {
         for (int page = 0; page < sheet->GetPageCount(); ++page) {
             SCOPED_TRACE(page);
             user.SelectPage(page);
-            fields += ExpectSpoken(user.Sheet());
+            fields += ExpectAccessible(user.Sheet());
             ForEachChild(user.Page(), [&](HWND control) {
                 char kind[32] = "";
                 ::GetClassNameA(control, kind, sizeof kind);

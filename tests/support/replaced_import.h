@@ -12,7 +12,7 @@ public:
     ReplacedImport(const char* module, const char* name, Function* function)
         : ReplacedImport(module, name, reinterpret_cast<void*>(function)) {}
     ReplacedImport(const char* module, const char* name, void* function);
-    // Lets the module call the original function again.
+    // Restores the original function.
     ~ReplacedImport();
     ReplacedImport(const ReplacedImport&) = delete;
     ReplacedImport& operator=(const ReplacedImport&) = delete;

@@ -1,6 +1,6 @@
 // Implements the walk.
 
-#include "support/spoken.h"
+#include "support/accessible_names.h"
 
 #include <gtest/gtest.h>
 
@@ -93,9 +93,9 @@ std::vector<std::string> TextsOfItems(HWND window) {
     if (name == STATUSCLASSNAMEA) return PartTexts(window);
     if (name == WC_LISTVIEWA) return CellTexts(window);
     std::vector<std::string> texts;
-    const Accessible spoken(window);
-    for (int item = 1; spoken.IsOwn() && item <= spoken.Count(); ++item)
-        texts.push_back(spoken.Name(item));
+    const Accessible accessible(window);
+    for (int item = 1; accessible.IsOwn() && item <= accessible.Count(); ++item)
+        texts.push_back(accessible.Name(item));
     return texts;
 }
 
@@ -107,11 +107,11 @@ bool IsReached(HWND window) {
 
 } // namespace
 
-std::string SpokenName(HWND control) {
-    const Accessible spoken(control);
-    const std::string name = spoken.Name();
+std::string AccessibleName(HWND control) {
+    const Accessible accessible(control);
+    const std::string name = accessible.Name();
     const HWND before = ::GetWindow(control, GW_HWNDPREV);
-    const bool namesItself = spoken.IsOwn() || (::SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON);
+    const bool namesItself = accessible.IsOwn() || (::SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON);
     if (namesItself || before == nullptr || !(::SendMessageA(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC)) return name;
     std::string label = WindowText(before);
     label.erase(std::remove(label.begin(), label.end(), '&'), label.end());
@@ -120,9 +120,9 @@ std::string SpokenName(HWND control) {
 
 void ExpectNoKeys(HWND window) {
     SCOPED_TRACE(Described(window));
-    const Accessible spoken(window);
-    EXPECT_FALSE(ShowsKey(spoken.Name())) << spoken.Name();
-    EXPECT_FALSE(ShowsKey(spoken.Value())) << spoken.Value();
+    const Accessible accessible(window);
+    EXPECT_FALSE(ShowsKey(accessible.Name())) << accessible.Name();
+    EXPECT_FALSE(ShowsKey(accessible.Value())) << accessible.Value();
     for (const std::string& text : TextsOfItems(window))
         EXPECT_FALSE(ShowsKey(text)) << text;
     COMBOBOXINFO info = {};
@@ -130,7 +130,7 @@ void ExpectNoKeys(HWND window) {
     if (::GetComboBoxInfo(window, &info) && info.hwndList != nullptr) ExpectNoKeys(info.hwndList);
 }
 
-int ExpectSpoken(HWND window) {
+int ExpectAccessible(HWND window) {
     int fields = 0;
     ExpectNoKeys(window);
     ForEachChild(window, [&](HWND child) {
@@ -139,7 +139,7 @@ int ExpectSpoken(HWND window) {
         if (!IsReached(child)) return;
         ++fields;
         if (ClassOf(child) != WC_TABCONTROLA)
-            EXPECT_NE(SpokenName(child), "") << Described(child);
+            EXPECT_NE(AccessibleName(child), "") << Described(child);
         else
             for (const std::string& page : TabTexts(child))
                 EXPECT_NE(page, "") << Described(child);
