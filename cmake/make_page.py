@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Converts a guide to an HTML page, with an anchor at each heading: make_page.py GUIDE.md PAGE.html
 
-Links to other guides lead to their pages. The pictures of the guide are copied beside the page.
+Links to other guides lead to their pages. The pictures of the guide are copied to the folder of the page.
 """
 import pathlib
 import re
@@ -33,7 +33,7 @@ pre {{ background: #f2f2f2; padding: .6em; overflow-x: auto }}
 
 
 def for_converter(text):
-    """The converter knows fences at the margin only, and lists with an indentation of four."""
+    """Adapts a text to the converter, which supports only fences at the margin and lists indented by four."""
     fence = None
     for line in text.splitlines():
         indent = len(line) - len(line.lstrip())

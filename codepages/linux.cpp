@@ -42,8 +42,8 @@ std::optional<std::string> ToUtf8(std::u16string_view text) {
     return utf8;
 }
 
-// Removes the first character from the text and returns it, or only the first byte and nothing if that is not UTF-8;
-// overlong forms are not.
+// Removes the first character from the text and returns it. If it is not UTF-8, or an overlong form, removes one byte
+// and returns nothing.
 std::optional<char32_t> TakeCharacter(std::string_view& utf8) {
     const auto lead = static_cast<uint8_t>(utf8[0]);
     const std::string_view tail = utf8.substr(1);

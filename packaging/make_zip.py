@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Creates NAME.zip from a build for hosts to build against, and NAME-debug.zip with the debug data of its files:
+"""Creates NAME.zip from a build, for building hosts, and NAME-debug.zip with the debug data of its files:
 make_zip.py BUILD_FOLDER SOURCE_FOLDER NAME OUTPUT_FOLDER
 
 The same build results in the same bytes: names are sorted, and all files have the time of the commit, which
@@ -17,11 +17,11 @@ import zipfile
 
 
 def commit_time(source):
-    stated = os.environ.get("SOURCE_DATE_EPOCH")
-    if stated is None:
+    epoch = os.environ.get("SOURCE_DATE_EPOCH")
+    if epoch is None:
         command = ["git", "-C", source, "log", "-1", "--format=%ct"]
-        stated = subprocess.run(command, check=True, capture_output=True, text=True).stdout
-    return time.gmtime(int(stated))[:6]
+        epoch = subprocess.run(command, check=True, capture_output=True, text=True).stdout
+    return time.gmtime(int(epoch))[:6]
 
 
 def write_zip(path, folder, files, moment):
@@ -35,13 +35,13 @@ def write_zip(path, folder, files, moment):
 
 
 def converter(build):
-    """Returns the Python with which the build has converted the guides."""
+    """Returns the Python interpreter that the build used to convert the guides."""
     cache = pathlib.Path(build, "CMakeCache.txt").read_text(encoding="utf-8")
     return re.search(r"^ORLO_MARKDOWN_PYTHON:FILEPATH=(.*)$", cache, re.MULTILINE)[1]
 
 
 def add_cover(python, source, tree):
-    """Puts the page that readers open first, and the license, at the top."""
+    """Adds the start page and the license to the top folder."""
     shutil.copy(source / "LICENSE", tree / "LICENSE.txt")
     page = [source / "cmake/make_page.py", source / "packaging/README.md", tree / "README.html"]
     subprocess.run([python, *page], check=True)

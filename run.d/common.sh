@@ -38,7 +38,7 @@ wine_prefix() {
     touch "$WINEPREFIX/.ready"
 }
 
-# Creates a Wine prefix of another name that shares the 700 MB of system files with the usual one, and switches to it.
+# Creates another Wine prefix that shares 700 MB of system files with the usual one, and switches to it.
 derive_wine_prefix() { # SUFFIX
     wine_prefix
     local original=$WINEPREFIX

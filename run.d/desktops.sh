@@ -3,7 +3,7 @@
 desktops=()   # process of each
 most_desktops=4
 
-# Keeps a desktop until the process ends. build/desktops/NUMBER then brings a shell there.
+# Keeps a desktop until the process ends. Sourcing build/desktops/NUMBER moves a shell to it.
 keep_desktop() { # NUMBER PROCESSOR
     taskset -cp "$2" $BASHPID >/dev/null || true
     if [ "$1" -gt 0 ]; then derive_wine_prefix "$1"; fi
@@ -15,7 +15,7 @@ keep_desktop() { # NUMBER PROCESSOR
     read -r -u "$keeper_fd" || true
 }
 
-# Starts a desktop for each processor, and lists them in the form that ctest reads. This shell is on the first one.
+# Starts a desktop for each processor and lists them in ctest's format. This shell is on the first one.
 start_desktops() {
     local number=0 processor list=
     wine_prefix

@@ -1,5 +1,5 @@
 # ./run package
-# Creates out/orlo-VERSION-win64.zip and -win32.zip for hosts to build against, each with its debug data in a
+# Creates out/orlo-VERSION-win64.zip and -win32.zip for building hosts, each with its debug data in a
 # -debug.zip, and their checksums in out/SHA256SUMS.
 
 package() { # PRESET WIDTH

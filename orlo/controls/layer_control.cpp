@@ -53,7 +53,7 @@ HICON LoadLayerIcon(int id) {
     return ::LoadIconA(LibraryModule(), MAKEINTRESOURCEA(id));
 }
 
-// A layer of a drawing. Has no drawing if a control shows none.
+// A layer, and its drawing; null if the control shows no drawing.
 struct ShownLayer {
     DrawingStruct* drawing = nullptr;
     uint16_t id = 0;

@@ -17,7 +17,7 @@ DRAWCORE_API TableStruct* DrawingGetTable(DrawingStruct* drawing, const char* na
 // drawing units, both when read and when written. kind 0: a length. kind 1: a text size; in a drawing in paper space
 // the value is in millimeters and the text in the unit of text sizes.
 // Called: when a field with a pen width in world space, a text height or another length is shown, checked or read.
-// Failure: a text that cannot be read is refused with a beep or a message; a length without a text leaves its field
+// Failure: a text that cannot be read is rejected with a beep or a message; a length without a text leaves its field
 // blank.
 DRAWCORE_API int DrawingStdTextToNumeric(DrawingStruct* drawing, const char* text, double* value, int kind);
 DRAWCORE_API int DrawingStdNumericToText(DrawingStruct* drawing, double value, char* buffer, int size, int kind);
@@ -25,7 +25,7 @@ DRAWCORE_API int DrawingStdNumericToText(DrawingStruct* drawing, double value, c
 // Convert an angle between text and radians. A number without a unit is in the angular system of the drawing: degrees,
 // grads or radians. reserved is 0.
 // Called: when a field with an angle is shown or read.
-// Failure: a text that cannot be read is refused with a beep or a message; the property is not changed.
+// Failure: a text that cannot be read is rejected with a beep or a message; the property is not changed.
 DRAWCORE_API int DrawingStdTextToAngle(DrawingStruct* drawing, const char* text, double* value, int reserved);
 DRAWCORE_API int DrawingStdAngleToText(DrawingStruct* drawing, double value, char* buffer, int size, int reserved);
 

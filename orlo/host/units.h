@@ -13,7 +13,7 @@
 // A host may evaluate calculations. The reference database reads the longest valid calculation with + - * / and
 // parentheses at the start: in "2*" that is the 2.
 // Called: when a field with a number is read.
-// Failure: text after the number is an error: the user is told, and nothing is written.
+// Failure: text after the number is an error: a message appears, and nothing is written.
 DRAWCORE_API double StringToDouble(int context, const char* text, char** end);
 
 // Writes value with that many significant digits, as mantissa and exponent if exponentForm is 1. The buffer has at
@@ -34,7 +34,7 @@ DRAWCORE_API void DoubleToString(int context, double value, int digits, char* bu
 //
 // reserved is 0. suffix is 1: the name of the unit follows the number; 0: the number only.
 // Called: when a field or a list with lengths on paper is shown or read.
-// Failure: a text that cannot be read is refused with a beep or a message; a length without a text leaves its field
+// Failure: a text that cannot be read is rejected with a beep or a message; a length without a text leaves its field
 // blank.
 DRAWCORE_API int UnitsTextToNumericEx(TableStruct* units, uint16_t number, uint16_t display, const char* text,
                                       double* value);

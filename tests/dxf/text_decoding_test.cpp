@@ -23,7 +23,7 @@ TEST(TextDecoder, DecodesByCodePageAndVersion) {
         {"AC1012", "dos850", "\x84", "\u00E4"},
         {"AC1012", "ISO8859-5", "\xC1", "\u0421"},
         {"AC1015", "ANSI_950", "\x81\x40", "\uEEB8"},           // a user-defined character
-        {"AC1015", "ANSI_1258", "a\xCC", "a\u0300"},            // a combining mark stays a character of its own
+        {"AC1015", "ANSI_1258", "a\xCC", "a\u0300"},            // a combining mark remains a separate character
         {"AC1015", "ANSI_932", "\x83\x5C\x83", "\u30BD\u30FB"}, // the second byte is missing
         {"AC1015", "utf-8", "\xC3\xA4\xC3", "\u00E4\uFFFD"},
         {"AC1015", "ANSI_70000", "\xE4", "\u00E4"},

@@ -32,7 +32,7 @@ public:
     explicit WantingPage(CSize wanted) : CGraphicPropertyPage(kTestPage, 0) { m_sizeWanted = wanted; }
 };
 
-// A sheet with the pages of the test alone.
+// A sheet with only the pages of the test.
 class Layout {
 public:
     explicit Layout(unsigned pageTemplate = kTestPage) {
@@ -65,8 +65,8 @@ int PreviewSize() {
     return ::MulDiv(100, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96);
 }
 
-// The second template has a larger font, whose buttons are wider than the preview. Cancel is as wide as a string of
-// this program says (frame_test.rc).
+// The second template has a larger font, whose buttons are wider than the preview. The width of Cancel is
+// set by a string of this program (frame_test.rc).
 TEST(SheetLayout, PlacesPageButtonsAndPreviewByTheUnitsOfThePage) {
     for (const unsigned pageTemplate : {kTestPage, kLargePage}) {
         SCOPED_TRACE(pageTemplate);
@@ -167,7 +167,7 @@ bool IsLine(HDC dc, CPoint from, CPoint to, int systemColor) {
     return true;
 }
 
-// Highlighted at the left, with a shadow and a dark line at the lower right, around the page and the column. The tabs
+// A highlight at the left, a shadow and a dark line at the lower right, around the page and the column. The tabs
 // are above it.
 TEST(SheetFrame, SurroundsPageAndColumn) {
     Layout layout;

@@ -65,7 +65,7 @@ protected:
     TestPane pane{kit};
 };
 
-// Where a modal sheet has its buttons.
+// In the place of the buttons of a modal sheet.
 TEST_F(Pane, HasItsButtonsInTheColumnBesideThePage) {
     const HWND sheet = pane.SheetWindow();
     CRect client, units(4, 4, 50, 14);
@@ -102,7 +102,7 @@ TEST_F(Pane, ScrollsByLinesPagesAndEnds) {
     }
 }
 
-// A bar at the bottom hides a part of the sheet that would fit without it.
+// The horizontal scroll bar covers a part of the sheet that would fit without it.
 TEST_F(Pane, HasBothBarsIfOneTakesTheRoomOfTheOther) {
     Shrink(50, 0);
     EXPECT_TRUE(HasBar(WS_HSCROLL) && HasBar(WS_VSCROLL));

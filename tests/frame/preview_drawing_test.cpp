@@ -1,5 +1,5 @@
-// The preview pane: the background of the host, and the graphic of the active page as large as it fits,
-// however large it is; and the calls of the host that draw it.
+// Tests of the preview pane: the background of the host, the graphic of the active page, scaled to fit, and the
+// calls of the host's drawing functions.
 
 #include <gtest/gtest.h>
 
@@ -37,7 +37,7 @@ std::string NumberText(const T& value) {
         return "";
 }
 
-// Returns a function that records the call and calls the original. Unique is a type of its own for each function.
+// Returns a function that records the call and calls the original. Unique is a different type for each function.
 template <class Unique, class Result, class... Arguments>
 auto Recorded(const char* name, Result (*original)(Arguments...), Unique) {
     static const char* recordedName;
@@ -190,7 +190,7 @@ TEST_F(PreviewDrawing, StaysWhiteWithoutAViewport) {
     });
 }
 
-// A page that is opened later shows what was set on the pages that are open.
+// A page that is opened later shows the values set on the open pages.
 TEST(PreviewFeeding, EveryOpenPageSetsItsValuesOnANewGraphic) {
     GraphicKit kit;
     TestSheet sheet(kit);

@@ -7,7 +7,7 @@ constexpr char kFaultVariable[] = "ORLO_FAULT";
 constexpr char kStubs[] = "stubs";
 // "stub NAME": that function is a stub. "missing NAME": it is not exported.
 
-// Other designs of a database that are sound.
+// Valid designs that differ from the reference database.
 constexpr const char* kVariants[] = {
     "true is 0xFFFF",
     "any string of the host",

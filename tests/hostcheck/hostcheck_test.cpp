@@ -1,4 +1,4 @@
-// Runs hostcheck as the author of a host does: sound databases are green, and each fault is reported for its function.
+// Runs hostcheck as the author of a host does: complete databases pass, and each fault is reported for its function.
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -139,7 +139,7 @@ TEST(HostcheckProgram, DistinguishesStubsFromFaults) {
     EXPECT_EQ(allowed.exitCode, 0u) << allowed.out;
     EXPECT_TRUE(Requirements(allowed, "broken").empty());
     EXPECT_GT(Requirements(allowed, "stub").size(), 20u);
-    // A required function that does nothing is no stub.
+    // A required function that does nothing is not a stub.
     const Outcome required = HostcheckWith("stub GraphicGetVtbl", "faulty\\drawcore32.dll --allow stubs");
     EXPECT_EQ(required.exitCode, 1u);
     EXPECT_NE(std::string::npos, required.out.find("broken  GraphicGetVtbl")) << required.out;

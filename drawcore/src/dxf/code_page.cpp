@@ -22,7 +22,7 @@ constexpr NamedPage kNamedPages[] = {
     {"johab", 1361},      {"mac-roman", 10000}, {"utf-8", 65001},     {"utf8", 65001},
 };
 
-// Parses ANSI_nnnn and DOSnnn. Small numbers, which are code pages of the system, are no names of drawings.
+// Parses ANSI_nnnn and DOSnnn. Small numbers, which are code pages of the system, are not used in drawings.
 uint16_t ParsedNumber(std::string_view name) {
     constexpr uint16_t kSmallest = 37;
     const size_t digits = name.find_first_of("0123456789");

@@ -13,7 +13,7 @@ namespace dxf {
 class TextDecoder {
 public:
     void SetVersion(std::string_view version);
-    // Takes a name as in drawings (code_page.h).
+    // name: as in drawings; see code_page.h.
     void SetCodePage(std::string_view name);
     std::string Decode(std::string_view bytes) const;
     // Encodes UTF-8 for the file: a character that the code page cannot represent becomes "\U+4E57".
