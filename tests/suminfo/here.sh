@@ -103,13 +103,13 @@ suminfo set - title=Named --custom Client=text:B <one.doc | cmp - same.doc
 chmod a-w same.doc
 expect "a read-only original" "$(ended suminfo set same.doc title=New -o named.doc; suminfo get named.doc title)" $'0\nNew'
 expect "a damaged document" "$(head -c 5000 one.doc | ended suminfo set - title=x; cat out err)" \
-    $'1\nsuminfo: -: was left alone: the compound file is damaged, writing could make it worse'
+    $'1\nsuminfo: -: was not changed: the compound file is damaged'
 expect "two documents" "$(ended suminfo set one.doc two.doc title=x -o both.doc; cat err)" \
     $'2\nsuminfo: -o: only one document can be edited to another file'
 expect "a full disk" "$(suminfo set - title=x <one.doc 2>&1 >/dev/full || echo $?)" \
     $'suminfo: -: the output cannot be written: the disk is full\n1'
 expect "a missing folder" "$(ended suminfo set one.doc title=x -o nowhere/new.doc; cat err)" \
-    $'1\nsuminfo: nowhere/new.doc: no file can be created in its folder: no such folder'
+    $'1\nsuminfo: nowhere/new.doc: cannot create a file in its folder: no such folder'
 cmp one.doc before.doc
 expect "a script" "$(suminfo rc --stream "$stream" - | grep -c RCDATA)" 1
 expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/full || echo $?)" \
