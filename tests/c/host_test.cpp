@@ -16,7 +16,7 @@ protected:
     // Shows the last page, which is the host's own, and replaces the text of its first field.
     void TypeOnOwnPage(HWND sheet, const char* keys) {
         const HWND tabs = ::FindWindowExA(sheet, nullptr, WC_TABCONTROLA, nullptr);
-        for (LRESULT page = Ask(tabs, TCM_GETITEMCOUNT); page > 1; --page)
+        for (LRESULT page = Query(tabs, TCM_GETITEMCOUNT); page > 1; --page)
             PressInTabs(sheet, VK_RIGHT);
         const HWND field = Visible(sheet, CFieldPage::FieldID(0));
         ASSERT_NE(field, nullptr);

@@ -51,7 +51,7 @@ protected:
 
 TEST_F(OwnPages, TheFirstPointOfSeveralLinesIsMovedAndUndone) {
     const std::vector<GraphicStruct*> lines = {Graphics()[0], Graphics()[2]}; // red and yellow
-    const std::vector<uint32_t> before = Seen();
+    const std::vector<uint32_t> before = ViewPixels();
     OnPage(lines, "Geometry", [&](HWND page) {
         EXPECT_EQ(WindowText(::GetDlgItem(page, kLength)), "*****");
         EXPECT_EQ(WindowText(::GetDlgItem(page, kCorners)), "2");
@@ -66,7 +66,7 @@ TEST_F(OwnPages, TheFirstPointOfSeveralLinesIsMovedAndUndone) {
     }
     EXPECT_EQ(Corner(lines[1], 1).x, 35);
     selection().Clear();
-    EXPECT_NE(Seen(), before);
+    EXPECT_NE(ViewPixels(), before);
     user.Key('Z', UserInput::kControl);
     EXPECT_EQ(Corner(lines[0], 0).x, 5);
     EXPECT_EQ(Corner(lines[1], 0).x, 25);

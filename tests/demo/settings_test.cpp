@@ -251,7 +251,7 @@ TEST_F(SavedSettings, StatusBarReportsTextThatIsNotALength) {
 }
 
 // Texts are abbreviated if they are wider than the bar, and end in an ellipsis if they still are.
-TEST_F(Remembered, StatusBarTruncatesOnlyWithAnEllipsis) {
+TEST_F(SavedSettings, StatusBarTruncatesOnlyWithAnEllipsis) {
     const HWND bar = ::GetDlgItem(frame->m_hWnd, IDC_STATUS);
     const auto expectWhole = [&](int pane) {
         CRect place;

@@ -8,13 +8,13 @@ import pathlib
 import re
 import sys
 
-PUBLIC = "public"  # what a host includes: orlo.h and all that it reaches, orlo_c.h, orlo/host, and these
+PUBLIC = "public"  # headers for hosts: orlo.h and what it includes, orlo_c.h, orlo/host, and these
 ALSO_PUBLIC = ["orlo/win/com_owner.h", "orlo/win/encoded_text.h", "orlo/win/gdi.h"]  # header only, not part of the interface
 TOP_HEADERS = {"orlo.h", "orlo_c.h"}  # included with angle brackets, as by a host
 
 
 def downward(area, modules, also=""):
-    """Modules from top to bottom: each may include itself, those below it, and others that all of them may."""
+    """Adds modules from top to bottom: each may include itself, those below it, and the common ones."""
     names = [f"{area}/{module}" for module in modules.split()]
     return {name: {*names[place:], *also.split()} for place, name in enumerate(names)}
 
@@ -23,7 +23,7 @@ def downward(area, modules, also=""):
 MAY = {
     **downward("orlo", "c entry pages exchange frame controls samples binding win host", "afx"),
     **downward("drawcore", "calls export import document save paint database graphics styles tables units dxf geometry",
-               "drawcore/include orlo/host"),
+               "drawcore/include orlo/host codepages"),
     **downward("demo", "program tour viewer automation", f"afx drawcore/include {PUBLIC}"),
     "drawcore/include": {"drawcore/include", "orlo/host"},
     "tools/cli": {"tools/cli", "files"},
@@ -35,9 +35,10 @@ MAY = {
     "skeleton": {"skeleton", "orlo/host"},
     "afx": {"afx"},
     "files": {"files"},
+    "codepages": {"codepages"},
 }
 MAY["orlo/binding"] = {"orlo/binding", "orlo/host", "afx"}  # win is below it, but uses windows
-MAY["orlo/propset"] = {"orlo/propset", "afx"}
+MAY["orlo/propset"] = {"orlo/propset", "afx", "codepages"}
 MAY["orlo/summary"] = {"orlo/summary", "orlo/propset", "orlo/win", "afx", "files"}
 MAY["orlo/wizard"] = {"orlo/wizard", "orlo/win", "afx"}
 MAY["orlo/resources"] = {"orlo/resources", "afx"}
@@ -47,7 +48,7 @@ for module in "entry pages exchange frame controls wizard".split():
     MAY[f"orlo/{module}"].add("orlo/resources")  # strings, and identifiers of templates and controls
 MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry", "drawcore/include", "orlo/host"}  # without windows
 MAY["drawcore/document"] = {"drawcore/document", "drawcore/units", *MAY["drawcore/save"]}
-MAY["drawcore/calls"].add("files")
+MAY["drawcore/export"].add("files")
 
 # Additional headers allowed per module: declarations of the host contract without windows.
 MAY_ALSO = {"orlo/propset": {"orlo/host/memory.h"}, "orlo/summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}
@@ -68,7 +69,7 @@ def sources(folder):
 
 
 def module_of(name):
-    """The module of a file, given by its path from the root."""
+    """Returns the module of a file, given by its path from the root."""
     parts = name.split("/")
     if parts[:2] == ["drawcore", "src"]:
         del parts[1]
@@ -78,7 +79,7 @@ def module_of(name):
 
 
 def found(root, path, header):
-    """The path from the root of an included file of this tree; None for a header of the system."""
+    """Returns the path of an included file from the root; None for a system header."""
     for folder in [root / folder for folder in SEARCHED] + [path.parent]:
         if (folder / header).is_file():
             return (folder / header).resolve().relative_to(root.resolve()).as_posix()
@@ -86,7 +87,7 @@ def found(root, path, header):
 
 
 def public_headers(root):
-    """What orlo.h reaches, orlo_c.h, and the host contract with its C++ helpers."""
+    """Returns the headers that orlo.h includes, orlo_c.h, and the host contract with its C++ helpers."""
     host = [path.relative_to(root).as_posix() for path in root.glob("orlo/host/*.h")]
     reached, open_ = set(), ["orlo/include/orlo.h", "orlo/include/orlo_c.h", *ALSO_PUBLIC, *host]
     while open_:
@@ -99,7 +100,7 @@ def public_headers(root):
 
 
 def forbidden(root, path, header, public):
-    """Why a file may not include that header; None if it may."""
+    """Returns the reason why a file may not include that header; None if it may."""
     module = module_of(path.relative_to(root).as_posix())
     if module in WITHOUT_WINDOWS and WINDOW_HEADERS.fullmatch(header):
         return f"{module} has no windows"
@@ -113,7 +114,7 @@ def forbidden(root, path, header, public):
 
 def spelling(top, mark, header):
     """One spelling: <orlo.h> and <orlo_c.h> as a host writes it, everything else by its path from the root."""
-    relative = mark == '"' and not header.startswith(("orlo/", "files/")) and (top == "orlo" or "orlo/" in header)
+    relative = mark == '"' and not header.startswith(("orlo/", "files/", "codepages/")) and (top == "orlo" or "orlo/" in header)
     if relative or (header in TOP_HEADERS) != (mark == "<") and header.startswith("orlo"):
         return 'written otherwise than <orlo.h>, <orlo_c.h> or "orlo/..."'
     return None
@@ -129,18 +130,18 @@ def faults(root, public):
 
 
 def unreached(root, public):
-    """Names that the library exports and no public header has: functions, and the classes of members."""
+    """Returns exported names that no public header declares: functions, and the classes of members."""
     code = " ".join(re.sub(r"//.*", "", (root / name).read_text(encoding="utf-8")) for name in public)
     known = set(re.findall(r"\w+", code))
     for line in (root / "tests/exports/orlo.exports").read_text().splitlines():
-        symbol = re.sub(r"^(typeinfo|vtable) for |\[abi:cxx11\]|^orlo::|<\w+>|\(.*", "", line)
+        symbol = re.sub(r"^(typeinfo|vtable) for |\[abi:cxx11\]|^orlo::|[(<].*", "", line)
         symbol = re.sub(r"^orlo::", "", symbol).split("::")[0]
         if symbol not in known:
             yield symbol
 
 
 def undeclared(root, public):
-    """Public headers that no CMakeLists.txt names as such, and the other way round."""
+    """Returns public headers that no CMakeLists.txt lists as public, and listed ones that are not public."""
     declared = set()
     for lists in root.glob("orlo/**/CMakeLists.txt"):
         for files in re.findall(r"FILE_SET .*\s+FILES\s+([^)]*)\)", lists.read_text()):
