@@ -222,6 +222,9 @@ void Spoil(Graphic& graphic) {
     Content& content = graphic.content;
     const bool isHatch = content.brushStyle > 1;
     if (Is("fillings not drawn") || (Is("hatches not drawn") && isHatch)) content.brushStyle = kBrushStyleNone;
+    const bool hasUndrawn = !content.vertices.empty() && !(content.vertices.back().wFlags & kVertexDrawn);
+    if (Is("drawn segments filled only") && hasUndrawn) content.brushStyle = kBrushStyleNone;
+    if (Is("no line is a line") && content.penStyle == kLineStyleNone) content.penStyle = kLineStyleByLayer;
     if (Is("fillings in the pen color")) content.brushColor = kColorOfPen;
     if (Is("texts not turned")) content.textAngle = 0;
     if (Is("texts of another height")) content.textSize *= 2;
@@ -311,6 +314,7 @@ static int onePlace; // of all iterations over entries
 
 uint16_t TableEntryFirst(TableStruct* table, int* cookie) {
     if (Is("one iteration of entries")) cookie = &onePlace;
+    if (Is("freed table used") && table && !TableStruct::Find(table)) return 1;
     const uint16_t id = Original_TableEntryFirst(table, cookie);
     return Is("identifier among the markers") && id ? uint16_t{kLineStyleByLayer} : id;
 }
@@ -370,6 +374,7 @@ double StringToDouble(int context, const char* text, char** end) {
 }
 
 void DoubleToString(int context, double value, int digits, char* buffer, int reserved, int form, int trim) {
+    if (Is("six digits only")) digits = 6;
     Original_DoubleToString(context, value, digits, buffer, reserved, form, trim);
     if (Is("trailing zeros")) std::strcat(buffer, std::strchr(buffer, '.') ? "00" : ".00");
 }

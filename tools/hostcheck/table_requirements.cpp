@@ -149,6 +149,27 @@ void TreatsNullAsEmpty(const Subject& s) {
     Require(!CALL(host, TableGetStringVar)(nullptr, 1, text, sizeof text), "TableGetStringVar returned a string");
 }
 
+// These functions are not part of the contract; without them, no table ends while hostcheck runs.
+using DrawingNew = DrawingStruct*();
+using DrawingDispose = void(DrawingStruct**);
+
+void TreatsFreedTablesAsEmpty(const Subject& s) {
+    if (!s.host.Has("DrawingNew") || !s.host.Has("DrawingDispose")) return;
+    DrawingStruct* drawing = s.host.Function<DrawingNew>("DrawingNew")();
+    if (!drawing) return;
+    TableStruct* layers = CALL(s.host, DrawingGetTable)(drawing, kTableLayers);
+    s.host.Function<DrawingDispose>("DrawingDispose")(&drawing);
+    int cookie = 0;
+    char text[8];
+    long whole = 0;
+    Require(!CALL(s.host, TableEntryFirst)(layers, &cookie), "TableEntryFirst returned an entry");
+    Require(!CALL(s.host, TableEntryGetName)(layers, 1, text, sizeof text), "TableEntryGetName returned a name");
+    Require(!CALL(s.host, TableEntryGetData)(layers, 1), "TableEntryGetData returned data");
+    Require(!CALL(s.host, TableEntryGetIDFirst)(layers, &cookie, "0"), "TableEntryGetIDFirst returned an entry");
+    Require(!CALL(s.host, TableGetOwner)(layers), "TableGetOwner returned a drawing");
+    Require(!CALL(s.host, TableGetIntVar)(layers, 1, &whole), "TableGetIntVar returned a value");
+}
+
 void StoresIntegers(const Subject& s) {
     for (const long value : {0L, -1L, 0x7FFFFFFFL}) {
         long found = 5;
@@ -198,6 +219,8 @@ constexpr Requirement kRows[] = {
     {"TableEntryGetData", "returns a COLORREF for each entry of the color table", ReturnsColors},
     {"TableGetOwner", "returns the drawing", BelongsToTheDrawing},
     {"TableEntryFirst", "and all functions of tables treat null as an empty table", TreatsNullAsEmpty},
+    {"TableEntryFirst", "and all functions of tables treat a table that no longer exists as empty",
+     TreatsFreedTablesAsEmpty},
     {"TableSetIntVar", "stores 32-bit integers that TableGetIntVar returns", StoresIntegers},
     {"TableSetNumericVar", "stores doubles that TableGetNumericVar returns", StoresDoubles},
     {"TableSetStringVar", "stores a copy of a string that TableGetStringVar returns, truncated", StoresStrings},

@@ -300,6 +300,15 @@ void NumbersRoundTrip(const Subject& s) {
     }
 }
 
+void WritesTheDigits(const Subject& s) {
+    for (const int digits : {6, 15}) {
+        char text[33] = "";
+        CALL(s.host, DoubleToString)(0, 1 / 3.0, digits, text, 0, 0, 1);
+        const double off = std::fabs(CALL(s.host, StringToDouble)(0, text, nullptr) - 1 / 3.0);
+        Require(off <= std::pow(10, -digits), "wrote a third with %d digits as \"%s\"", digits, text);
+    }
+}
+
 void WritesExponentForm(const Subject& s) {
     const std::string text = NumberText(s, 2.5e20, 1);
     const double found = CALL(s.host, StringToDouble)(0, text.c_str(), nullptr);
@@ -325,6 +334,7 @@ void ReadsTheNumberOnly(const Subject& s) {
 constexpr Requirement kRows[] = {
     {"StringToDouble", "reads what DoubleToString writes", NumbersRoundTrip},
     {"StringToDouble", "reads the number at the start and stores its end; 0 if there is none", ReadsTheNumberOnly},
+    {"DoubleToString", "writes as many significant digits as requested", WritesTheDigits},
     {"DoubleToString", "writes mantissa and exponent if exponentForm is 1", WritesExponentForm},
     {"DoubleToString", "writes no trailing zeros", WritesNoTrailingZeros},
     {"UnitsTextToNumericEx", "reads what UnitsNumericToTextEx writes", LengthsRoundTrip},

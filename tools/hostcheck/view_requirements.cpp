@@ -128,6 +128,33 @@ void Fills(const Subject& s) {
     Require(none == 0, "%d pixels inside a square without a brush are drawn", none);
 }
 
+// Samples of brushes: an outline of which only some segments are drawn, or none.
+void FillsOneOutline(const Subject& s) {
+    if (s.Entries(s.Table(kTableBrushStyles)).empty()) return;
+    const auto square = s.NewSquare(10);
+    SetPlainAppearance(s, square.get());
+    CALL(s.host, GraphicSetBrushStyle)(square.get(), kSolidBrush);
+    CALL(s.host, GraphicSetBrushColor)(square.get(), kRed);
+    for (VertexStruct* vertex : s.Vertices(square.get()))
+        vertex->wFlags &= static_cast<uint16_t>(~kVertexDrawn);
+    square->dwOneOutline = 1;
+    Scene scene(s);
+    scene.Draw(square.get());
+    const int filled = scene.picture.Of(Ink::Red, Scene::Area(1, 1, 9, 9)).count;
+    Require(filled > 64 * 64 * 9 / 10, "%d of 4096 pixels inside undrawn segments are filled with dwOneOutline 1",
+            filled);
+    const int drawn = scene.picture.Of(Ink::Black).count;
+    Require(drawn == 0, "%d pixels of undrawn segments are drawn with dwOneOutline 1", drawn);
+}
+
+void DrawsNoLine(const Subject& s) {
+    const auto square = s.NewSquare(10);
+    SetPlainAppearance(s, square.get());
+    CALL(s.host, GraphicSetPenStyle)(square.get(), kLineStyleNone);
+    const int drawn = Scene(s).Draw(square.get()).picture.Of().count;
+    Require(drawn == 0, "%d pixels of an outline are drawn with kLineStyleNone", drawn);
+}
+
 // Returns the scale that draws the lines one unit apart.
 double ScaleOf(const Subject& s, TableStruct* styles, uint16_t id) {
     int cookie = 0, dashCount;
@@ -252,6 +279,8 @@ constexpr Requirement kRows[] = {
     {"GraphicDrawEx2", "draws the members of a set", DrawsMembers},
     {"GraphicDrawEx2", "draws only segments to vertices with the flag kVertexDrawn", DrawsSegmentsWithTheirFlag},
     {"GraphicDrawEx2", "fills with the solid brush in the brush color, and without a brush not at all", Fills},
+    {"GraphicDrawEx2", "fills undrawn segments as one outline if dwOneOutline is 1", FillsOneOutline},
+    {"GraphicDrawEx2", "draws no outline with the line style kLineStyleNone", DrawsNoLine},
     {"GraphicDrawEx2", "draws hatches in the brush color", DrawsHatches},
     {"GraphicDrawEx2", "draws a text in the pen color, at its position and in its height", DrawsTexts},
     {"GraphicDrawEx2", "draws a text in its angle", TurnsTexts},
