@@ -135,7 +135,7 @@ def reference(functions, notes):
     for function in functions:
         yield f"\n### {function.name}\n\n```c\n{shown(function.prototype)}\n```\n\n"
         rules = len(notes[function.header]) > 1
-        more = f" See also the [rules of the header](#{function.header.replace('.', '')})." if rules else ""
+        more = f"See also the [rules of the header](#{function.header.replace('.', '')})." if rules else ""
         yield paragraphs([*map(code, function.comment), more])
         yield "\n"
         yield wrapped("Called " + code(function.tags["Called"]), "* ")
