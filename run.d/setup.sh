@@ -4,7 +4,7 @@
 packages="cmake ninja-build g++ g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth fonts-wine
           fonts-dejavu-core googletest libboost-dev libcli11-dev nlohmann-json3-dev libstb-dev pkg-config clang-14
           clang-format-14 libclang-rt-14-dev lld-14 llvm-14 nettle-dev python3 python3-markdown libgsf-bin python3-olefile
-          python3-ezdxf" # the last three read the files that the tests write
+          python3-ezdxf locales" # libgsf-bin, olefile and ezdxf read the files that the tests write; locales: German Wine
 
 # The viewer opens the user guide in a browser.
 case $command in
