@@ -107,6 +107,7 @@ void DrawingPatch::EnsureRecord(LayerIndex index) {
     Layer& layer = Describe(index);
     if (layer.declared) return;
     layer.declared = true;
+    if (layer.lineType.empty()) layer.lineType = "Continuous";
     tables_.AddLayer(layer, in_.layers.Stored(layer));
 }
 

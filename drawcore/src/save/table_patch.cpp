@@ -221,7 +221,7 @@ void TablePatch::AddLayer(const Layer& layer, const std::string& storedName) {
     Values values = {{2, storedName, true},
                      {70, std::to_string(layer.flags)},
                      {62, std::to_string(layer.color)},
-                     {6, layer.lineType.empty() ? "Continuous" : layer.lineType}};
+                     {6, layer.lineType}};
     if (layer.trueColor >= 0 && version_ >= "AC1018") values.push_back({420, std::to_string(layer.trueColor)});
     if (version_ >= "AC1015") values.push_back({370, std::to_string(layer.lineWeight)});
     Add("LAYER", "AcDbLayerTableRecord", values);
