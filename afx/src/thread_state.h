@@ -14,7 +14,7 @@ class AfxDialogItems {
 public:
     // Returns the control of the dialog, or null.
     HWND Find(HWND dialog, int nID);
-    // Remembers a control that has been met in another way, unless one with its identifier is known.
+    // Remembers a control that was found in another way, unless one with its identifier is known.
     void Note(HWND control);
 
 private:

@@ -65,7 +65,7 @@ void PrintAgainstGsf(const std::string& name, const Words& ours) {
 
 constexpr int kEntities = 1000000;
 
-// Seven lines, two circles and a text of ten entities.
+// Of ten entities, seven are lines, two are circles and one is a text.
 void WriteDrawing(const std::filesystem::path& file) {
     std::ofstream out(file);
     out << "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n";
@@ -80,7 +80,8 @@ void WriteDrawing(const std::filesystem::path& file) {
     out << "0\nENDSEC\n0\nEOF\n";
 }
 
-// Reading is listing. Setting a property of one entity reads twice, since the result is verified, and writes a copy.
+// Reading is measured by listing. Setting a property of one entity reads twice, since the result is verified, and
+// writes a copy.
 void PrintDrawings() {
     namespace fs = std::filesystem;
     constexpr int kFewRounds = 5;

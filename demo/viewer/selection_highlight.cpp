@@ -1,8 +1,8 @@
 // The highlight around selected graphics.
 //
 // The selection is drawn once more, on a background of a color that is not used otherwise: every pixel of another color
-// belongs to it. This works for whatever the drawing code draws, including texts and hatches. If everything is
-// selected, the picture of the drawing tells the same.
+// belongs to it. This works for everything that the drawing code draws, including texts and hatches. If everything is
+// selected, the picture of the drawing is used instead.
 
 #include "demo/viewer/selection_highlight.h"
 

@@ -1,4 +1,4 @@
-// Child windows: iteration, and a list of them that is kept.
+// Child windows: iteration, and a cached list.
 #pragma once
 
 #include <windows.h>
@@ -18,8 +18,8 @@ void ForEachChild(HWND window, Visit visit) {
     ::EnumChildWindows(window, VisitChild<Visit>, reinterpret_cast<LPARAM>(&visit));
 }
 
-// The child windows of a window. Listing them asks each of them for its own children, and searching for one asks for
-// the list of all; a dialog does both for every field whenever it is shown.
+// The child windows of a window, cached: listing them queries the children of each one, and searching for one lists
+// all; a dialog does both for every field whenever it is shown.
 class ChildWindows {
 public:
     // Returns all child windows, recursively. Lists them again if the last one is no longer the last.

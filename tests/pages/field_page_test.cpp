@@ -586,7 +586,7 @@ TEST_F(FieldPage, LaterDuplicateMnemonicIsRemoved) {
     });
 }
 
-TEST_F(FieldPage, AMnemonicOfTheButtonsGivesWay) {
+TEST_F(FieldPage, AMnemonicOfTheButtonsIsRemoved) {
     kit.Add({{"A", "a"}, {"B", "b"}, {"C", "c"}});
     table.rows = {Row(FieldKind::Text, "&Rating:", "A"), Row(FieldKind::Text, "Unit &cost:", "B"),
                   Row(FieldKind::Text, "&Area:", "C")};

@@ -208,7 +208,7 @@ void ExpectWholeTexts(HWND parent) {
     }
 }
 
-TEST_F(GermanSheet, ShowsItsTextsWhole) {
+TEST_F(GermanSheet, ShowsCompleteTexts) {
     const auto sheet = kinds.NewSheet();
     SheetDriver().Run(*sheet, [&](SheetDriver& user) {
         ExpectWholeTexts(user.Sheet());
@@ -233,7 +233,7 @@ private:
     std::unique_ptr<CGraphicPropertySheet> m_sheet;
 };
 
-TEST_F(GermanSheet, ShowsTheButtonsOfThePaneWhole) {
+TEST_F(GermanSheet, ShowsCompleteButtonsOfThePane) {
     Pane pane(kinds);
     ASSERT_TRUE(pane.CreatePane(WS_POPUP, &frame, 0));
     pane.Open();
