@@ -153,6 +153,8 @@ def check_targets():
     before = read("copy.dxf")
     run("set", "copy.dxf", "PenColor=5", "--in-place", "--backup")
     expect("a backup", read("copy.dxf.bak") == before and read("copy.dxf") != before)
+    done = run("set", "copy.dxf", "PenColor=6", "-o", "none/out.dxf")
+    expect("a missing folder", done.returncode == 2 and b": none/out.dxf: " in done.stderr, done)
     done = run("set", "-", "PenColor=5", "-o", "-", stdin=before)
     expect("a pipe", done.stdout == read("copy.dxf") and done.returncode == 0, done.stderr)
     expect("a pipe cannot be edited in place", run("set", "-", "PenColor=5", "--in-place", stdin=before).returncode == 2)

@@ -44,12 +44,17 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output, boo
     std::error_code isNew;
     const bool isOwn = !path_.empty() && std::filesystem::equivalent(target, path_, isNew);
     if (isOwn && bytes == Bytes()) return;
-    if (keepsBackup) KeepBackup(target);
-    files::FileReplacement replacement(target);
-    replacement.Write(bytes);
-    if (isOwn && !files::HasContents(target, Bytes()))
-        throw dxf::SaveError("the file was changed by another program meanwhile");
-    replacement.Commit();
+    try {
+        if (keepsBackup) KeepBackup(target);
+        files::FileReplacement replacement(target);
+        replacement.Write(bytes);
+        if (isOwn && !files::HasContents(target, Bytes()))
+            throw dxf::SaveError("the file was changed by another program meanwhile");
+        replacement.Commit();
+    } catch (const files::FileError& error) {
+        if (isOwn) throw; // the caller adds the name of the drawing
+        throw dxf::SaveError(output + ": " + error.what());
+    }
 }
 
 std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) const {
