@@ -39,7 +39,7 @@ uint16_t CodePageNumber(std::string_view name) {
     for (const NamedPage& page : kNamedPages)
         if (page.name == folded) return page.number;
     const uint16_t number = ParsedNumber(folded);
-    return codepages::FromUtf16(u"a", number) ? number : codepages::kWesternEuropean;
+    return codepages::ToUtf16("a", number, codepages::Invalid::Replace) ? number : codepages::kWesternEuropean;
 }
 
 } // namespace dxf
