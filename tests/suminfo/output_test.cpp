@@ -79,7 +79,7 @@ TEST(ResourceScript, LeavesNoFileOnFailure) {
     const std::string stream = (kStreams / "Test-Humor-Generation-ppt--SummaryInformation--ed4099.bin").string();
     const Outcome empty = RunSuminfo({"rc", "--stream", stream, script.string()});
     EXPECT_EQ(empty.exitCode, 1);
-    EXPECT_EQ(empty.err, "suminfo: " + stream + ": the document has no sections\n");
+    EXPECT_EQ(empty.err, "suminfo: " + stream + ": the property set has no sections\n");
     EXPECT_TRUE(fs::is_empty(folder.Path()));
     const std::string nowhere = (folder.Path() / "missing" / "out.rc").string();
     const Outcome run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
