@@ -49,16 +49,36 @@ std::error_condition ConditionOf(const std::error_code& error) {
     return error.default_error_condition();
 }
 
+// The message() of std::system_category is in the code page of the system.
+std::string MessageOf(const std::error_code& error) {
+#ifdef _WIN32
+    if (error.category() == std::system_category()) {
+        constexpr int kSize = 512;
+        wchar_t wide[kSize] = L"";
+        char text[3 * kSize] = ""; // three bytes of UTF-8 at most for each 16 bits
+        constexpr DWORD kFlags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
+        ::FormatMessageW(kFlags, nullptr, static_cast<DWORD>(error.value()), 0, wide, kSize, nullptr);
+        ::WideCharToMultiByte(CP_UTF8, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+        return *text != '\0' ? text : "error " + std::to_string(error.value());
+    }
+#endif
+    return error.message();
+}
+
 std::string TextOf(const std::error_code& error) {
     const std::error_condition condition = ConditionOf(error);
     for (const Wording& wording : kWordings)
         if (condition == wording.reason) return wording.text;
-    std::string text = error.message();
-    text.erase(text.find_last_not_of("\r\n. ") + 1);
-    return text;
+    return SystemMessage(error);
 }
 
 } // namespace
+
+std::string SystemMessage(const std::error_code& error) {
+    std::string text = MessageOf(error);
+    text.erase(text.find_last_not_of("\r\n. ") + 1);
+    return text;
+}
 
 FileError::FileError(const std::string& what, std::error_code reason)
     : std::runtime_error(what + ": " + TextOf(reason)), reason_(reason) {}

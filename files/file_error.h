@@ -21,6 +21,8 @@ private:
     std::error_code reason_;
 };
 
+// Returns the system's message for an error, in UTF-8, without a period at its end.
+std::string SystemMessage(const std::error_code& error);
 // Returns the error of the calling thread's last system call.
 std::error_code LastError();
 // Throws a FileError with the error of the calling thread's last system call.

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <new>
 
+#include "files/file_error.h"
 #include "orlo/win/encoded_text.h"
 
 namespace orlo {
@@ -52,13 +53,7 @@ void Refuse(OrloResult result, const char* text) {
 }
 
 void RefuseWithSystemError(long error, const char* what) {
-    wchar_t message[512] = L"";
-    const DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS;
-    ::FormatMessageW(flags, nullptr, static_cast<DWORD>(error), 0, message, ARRAYSIZE(message), nullptr);
-    std::string text = Narrow(message, CP_UTF8);
-    while (!text.empty() && std::strchr("\r\n. ", text.back()) != nullptr)
-        text.pop_back();
-    if (text.empty()) text = "error " + std::to_string(error);
+    const std::string text = files::SystemMessage({static_cast<int>(error), std::system_category()});
     throw Refusal{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError, std::string(what) + ": " + text};
 }
 
