@@ -73,7 +73,7 @@ TEST_F(Styles, AreCreatedByTheWizardWithTheKeyboard) {
                       const std::string summary = WindowText(OnPage(wizard, IDC_STYLE_SUMMARY));
                       EXPECT_NE(std::string::npos, summary.find("\"Walls\""));
                       EXPECT_NE(std::string::npos, summary.find("Pen: Red")) << summary;
-                      EXPECT_NE(std::string::npos, summary.find("Brush: as each")) << summary;
+                      EXPECT_NE(std::string::npos, summary.find("Brush: unchanged")) << summary;
                       user.Click(::GetDlgItem(wizard, kBack));
                       user.Click(::GetDlgItem(wizard, kNext));
                       EXPECT_EQ(summary, WindowText(OnPage(wizard, IDC_STYLE_SUMMARY)));
