@@ -87,8 +87,8 @@ void FitWidth(HWND child, HWND page, int box, const std::vector<RECT>& groups) {
 void FitControls(HWND page, const std::vector<HWND>& children) {
     std::vector<HWND> controls;
     std::copy_if(children.begin(), children.end(), std::back_inserter(controls),
-                 [page](HWND child) { return ::GetParent(child) == page; }); // skip child windows of controls
-    std::vector<RECT> groups;                                                // with the sizes of the template
+                 [page](HWND child) { return ::GetParent(child) == page; });
+    std::vector<RECT> groups; // with the sizes of the template
     for (const HWND control : controls)
         if (IsGroupBox(control)) groups.push_back(PlaceIn(page, control));
     const int box = ScreenPixels(kBoxWidth);

@@ -6,5 +6,5 @@
 
 #include <vector>
 
-// children: the child windows of the page, recursively.
+// children: the child windows of the page, recursively. Those of controls are left alone.
 void FitControls(HWND page, const std::vector<HWND>& children);

@@ -31,7 +31,7 @@ const char* COrloPropertyPage::GetTemplateName() const {
 void COrloPropertyPage::OnWindowPosChanging(WINDOWPOS*) {
     const std::vector<HWND> children = m_children->Of(m_hWnd); // a copy, because a list that closes may send messages
     for (const HWND child : children)
-        ::SendMessageA(child, CB_SHOWDROPDOWN, FALSE, 0);
+        if (::IsChild(m_hWnd, child)) ::SendMessageA(child, CB_SHOWDROPDOWN, FALSE, 0);
     Default();
 }
 
