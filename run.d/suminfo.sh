@@ -6,7 +6,7 @@ native=$PWD/build/native/tools/suminfo/suminfo windows=$PWD/build/bin/suminfo.ex
 shopt -s globstar
 is_current() {
     local part
-    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},files,tools/cli,tools/suminfo,native,cmake}/**; do
+    for part in CMakeLists.txt {orlo/{propset,summary,win,host},afx/{include,src/base},files,codepages,tools/cli,tools/suminfo,native,cmake}/**; do
         if [ "$part" -nt "$1" ]; then return 1; fi # also when there is no program
     done
 }

@@ -18,6 +18,12 @@ bool IsReference(int code) {
            code == kExtendedHandle;
 }
 
+// Returns whether the reference is an item of a list, which can be shorter.
+bool IsListItem(std::string_view kind, int code) {
+    if (kind == "VIEWPORT") return code == 331 || code == 341;
+    return (kind == "GROUP" && code == 340) || (kind == "IDBUFFER" && code == 330);
+}
+
 // Normalizes a handle: without blanks and leading zeros, uppercase. Returns an empty string for the null handle.
 std::string KeyOf(std::string_view value) {
     std::string key;
@@ -63,34 +69,48 @@ private:
         const RecordPatch record(of_.patch_, tags_, begin);
         groups_ = &record.Groups();
         kind_ = Tag{0, (*groups_)[0].value}.Trimmed();
-        const auto handle = std::find_if(groups_->begin(), groups_->end(), [](const Group& group) {
-            return group.code == kHandle || group.code == kDimensionStyleHandle;
-        });
-        const std::string own = handle == groups_->end() ? "" : KeyOf(handle->value);
+        const std::string own = OwnHandle();
         // Of two records with the same handle, one remains that others refer to.
         if (of_.handles_.erase(own) > 0) grows_ = true;
         const auto owned = of_.owned_.find(own);
         if (!own.empty() && owned != of_.owned_.end())
             return RemoveRecord(record.End(), owned->second, of_.edits_.size());
         const size_t before = of_.edits_.size();
+        const std::optional<Loss> loss = DropReferences();
+        if (!loss) return;
+        const bool isObject = section_ == "OBJECTS" && (kind_ == "DIMASSOC" || IsOwnedBy(loss->objectOffset));
+        if (loss->isLastMember || isObject) return RemoveRecord(record.End(), loss->objectOffset, before);
+        RecordName name = NameOfRecord(text_, begin);
+        name.line = LineAt(text_, begin);
+        of_.blocking_.push_back({loss->objectOffset, "cannot be removed because " + name.Text() + " refers to it"});
+    }
+
+    std::string OwnHandle() const {
+        const auto handle = std::find_if(groups_->begin(), groups_->end(), [](const Group& group) {
+            return group.code == kHandle || group.code == kDimensionStyleHandle;
+        });
+        return handle == groups_->end() ? "" : KeyOf(handle->value);
+    }
+
+    // A reference to a removed record without which the current record is meaningless.
+    struct Loss {
+        size_t objectOffset; // stands for the removed record
+        bool isLastMember;   // of a group
+    };
+
+    // Drops the record's references to removed records, up to the first loss.
+    std::optional<Loss> DropReferences() {
         size_t lostMembers = 0;
-        std::optional<size_t> removed; // offset that stands for the removed record
-        for (size_t i = 1; i < groups_->size() && !removed; ++i) {
+        for (size_t i = 1; i < groups_->size(); ++i) {
             const Group& group = (*groups_)[i];
             if (!IsReference(group.code)) continue;
             const auto found = of_.handles_.find(KeyOf(group.value));
             if (found == of_.handles_.end()) continue;
-            if (!Drop(i)) removed = found->second;
-            if (kind_ == "GROUP" && !group.attached && ++lostMembers == CountMembers())
-                return RemoveRecord(record.End(), found->second, before);
+            const bool isDropped = Drop(i);
+            const bool isLastMember = kind_ == "GROUP" && !group.attached && ++lostMembers == CountMembers();
+            if (!isDropped || isLastMember) return Loss{found->second, isLastMember};
         }
-        if (removed) {
-            const bool isObject = section_ == "OBJECTS" && (kind_ == "DIMASSOC" || IsOwnedBy(*removed));
-            if (isObject) return RemoveRecord(record.End(), *removed, before);
-            RecordName name = NameOfRecord(text_, begin);
-            name.line = LineAt(text_, begin);
-            of_.blocking_.push_back({*removed, "cannot be removed because " + name.Text() + " refers to it"});
-        }
+        return std::nullopt;
     }
 
     // Counts the members of a group.
@@ -131,11 +151,13 @@ private:
         if (group.code == kExtendedHandle) return Put(group, "0"), true;
         if (group.attached) return DropFromBraces(at), true;
         const bool isOwner = group.part == 0 && group.code == kOwner;
-        if (isOwner) return false;
+        return !isOwner && DropFromRecord(at);
+    }
+
+    bool DropFromRecord(size_t at) {
+        const Group& group = (*groups_)[at];
         const int code = group.code;
-        if ((kind_ == "GROUP" && code == 340) || (kind_ == "IDBUFFER" && code == 330) ||
-            (kind_ == "VIEWPORT" && (code == 331 || code == 341)))
-            return Remove(group), true;
+        if (IsListItem(kind_, code)) return Remove(group), true;
         if (kind_ == "XRECORD") return Put(group, "0"), true;
         if (kind_ == "HATCH" && code == 330) return DropBoundary(at), true;
         if (kind_ == "LEADER" && code == 340) return DropAnnotation(group), true;

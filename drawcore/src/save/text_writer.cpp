@@ -105,6 +105,13 @@ void AppearanceWriter::PutFormat(Text& text, uint16_t format) {
 
 namespace {
 
+bool MustPutFace(const MText& text, const TextAppearance& now, const TextAppearance& wanted, uint8_t forAll) {
+    const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
+    const bool isOther = now.font != wanted.font || (now.style ^ wanted.style) & kCut ||
+                         (isInCodes && forAll & (kVariedFont | kVariedStyle));
+    return isOther && IsNameForCode(wanted.font);
+}
+
 // Replaces all faces in the text's codes by one.
 void PutFaceCode(MText& text, const TextAppearance& appearance) {
     const std::string cut =
@@ -132,11 +139,7 @@ void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
     if (forAll & kVariedSize) text.text = WithoutCodes(text.text, "H");
     if (inGroups().text.height != appearance.height) text.height = appearance.height;
     if (inGroups().text.height != appearance.height) text.text = WithoutCodes(text.text, "H");
-    const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
-    const bool otherFace = inGroups().text.font != appearance.font ||
-                           (inGroups().text.style ^ appearance.style) & kCut ||
-                           (isInCodes && forAll & (kVariedFont | kVariedStyle));
-    if (otherFace && IsNameForCode(appearance.font)) PutFaceCode(text, appearance);
+    if (MustPutFace(text, inGroups().text, appearance, forAll)) PutFaceCode(text, appearance);
     const auto put = [&](uint16_t bit, const char* codes) {
         if (!((inGroups().text.style ^ appearance.style) & bit || forAll & kVariedStyle)) return;
         text.text = WithoutCodes(text.text, codes);
