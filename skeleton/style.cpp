@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kMostDashes = 8;
+constexpr int kMaxDashes = 8;
 
 const Entry* EntryOf(TableStruct* table, uint16_t id) {
     TableStruct* found = TableStruct::Find(table);
@@ -36,7 +36,7 @@ int LayerGetReadOnly(DrawingStruct* drawing, uint16_t id) {
 
 int LineStyleGetDLItems(TableStruct* table, uint16_t id) {
     const Entry* style = EntryOf(table, id);
-    return style ? std::min(static_cast<int>(style->dashes.size()), kMostDashes) : 0;
+    return style ? std::min(static_cast<int>(style->dashes.size()), kMaxDashes) : 0;
 }
 
 int LineStyleGetPattern(TableStruct* table, uint16_t id, double* pattern) {

@@ -11,14 +11,14 @@ namespace {
 // have been destroyed.
 const DWORD kSlot = ::TlsAlloc();
 
-constexpr std::size_t kMostItems = 1000;
+constexpr std::size_t kMaxItems = 1000;
 
 } // namespace
 
 // A control found earlier may have been deleted, or its handle may belong to another window. Returns null if memory
 // runs out.
 HWND* AfxDialogItems::At(HWND dialog, int nID) {
-    if (m_found.size() >= kMostItems) m_found.clear();
+    if (m_found.size() >= kMaxItems) m_found.clear();
     try {
         HWND& found = m_found[{dialog, nID}];
         if (found != nullptr && (::GetDlgCtrlID(found) != nID || ::GetParent(found) != dialog)) found = nullptr;

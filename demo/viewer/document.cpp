@@ -91,7 +91,7 @@ std::vector<GraphicStruct*> Document::Selectable() const {
     return graphics;
 }
 
-std::vector<GraphicStruct*> Document::StillSelectable() const {
+std::vector<GraphicStruct*> Document::CurrentlySelectable() const {
     std::vector<GraphicStruct*> graphics;
     for (GraphicStruct* graphic : m_selection.Members())
         if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
@@ -200,7 +200,7 @@ std::string Document::Undo() {
     const UndoableChange* change = m_history.Undo([&] { graphics = ::DrawingUndo(Drawing()); });
     m_styles.RenumberGraphics();
     TrimHistory();
-    return change ? change->What() : Counted(graphics, "object");
+    return change ? change->Description() : Counted(graphics, "object");
 }
 
 std::string Document::Redo() {
@@ -209,5 +209,5 @@ std::string Document::Redo() {
     const UndoableChange* change = m_history.Redo([&] { graphics = ::DrawingRedo(Drawing()); });
     m_styles.RenumberGraphics();
     TrimHistory();
-    return change ? change->What() : Counted(graphics, "object");
+    return change ? change->Description() : Counted(graphics, "object");
 }

@@ -66,7 +66,7 @@ public:
     // Returns the visible and selectable graphics in drawing order.
     std::vector<GraphicStruct*> Selectable() const;
     // Returns the selected graphics except those whose layer was locked or hidden since.
-    std::vector<GraphicStruct*> StillSelectable() const;
+    std::vector<GraphicStruct*> CurrentlySelectable() const;
     // Returns the next graphic after the last selected one, wrapping around, or null if none can be selected.
     GraphicStruct* Next(bool forward) const;
 

@@ -350,7 +350,7 @@ void CMainFrame::ShowUndone(const std::string& message) {
 }
 
 void CMainFrame::DeselectUnselectable() {
-    const std::vector<GraphicStruct*> selectable = m_document->StillSelectable();
+    const std::vector<GraphicStruct*> selectable = m_document->CurrentlySelectable();
     const int left = m_document->Selected().Count() - static_cast<int>(selectable.size());
     if (left == 0) return;
     m_view.SelectOnly(selectable);

@@ -104,7 +104,7 @@ private:
     bool SaveTo(const std::string& path, bool overChanged);
     // Returns true if the document can be closed: saved, or the user chose to discard it.
     bool CanCloseDocument();
-    void ShowWhatOpened();
+    void ShowOpenedDocument();
     void ShowTitle();
     void ShowSelected();
     void ShowChange();

@@ -69,12 +69,12 @@ void CMainFrame::Show(std::unique_ptr<Document> document) {
     m_view.SetDocument(document.get());
     m_document = std::move(document); // closes the previous one
     m_pane.SetDocument(m_document.get());
-    ShowWhatOpened();
+    ShowOpenedDocument();
     OnSelectionChanged();
     ShowTitle();
 }
 
-void CMainFrame::ShowWhatOpened() {
+void CMainFrame::ShowOpenedDocument() {
     std::string text = Counted(static_cast<int>(m_document->Selectable().size()), "graphic");
     const std::vector<std::string>& warnings = m_document->Warnings();
     if (warnings.size() > 1) text += "; " + Counted(static_cast<int>(warnings.size()), "warning") + " (File, Warnings)";

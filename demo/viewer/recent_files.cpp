@@ -52,7 +52,7 @@ std::vector<std::string> RecentFiles::List() {
                        &bytes))
         return {};
     std::vector<std::string> files;
-    for (size_t begin = 0; files.size() < kMost && begin < texts.size() && texts[begin];) {
+    for (size_t begin = 0; files.size() < kMax && begin < texts.size() && texts[begin];) {
         const std::wstring file = texts.c_str() + begin;
         files.push_back(Utf8(file.c_str()));
         begin += file.size() + 1;
@@ -64,7 +64,7 @@ void RecentFiles::Add(const std::string& path) {
     const std::string full = FullPath(path);
     std::vector<std::string> files = Without(List(), full);
     files.insert(files.begin(), full);
-    files.resize(std::min(files.size(), kMost));
+    files.resize(std::min(files.size(), kMax));
     Write(files);
 }
 

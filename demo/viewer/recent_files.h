@@ -6,7 +6,7 @@
 
 class RecentFiles {
 public:
-    static constexpr size_t kMost = 8;
+    static constexpr size_t kMax = 8;
 
     // Returns full paths in UTF-8, the most recent first. If the registry denies access, the list is empty.
     static std::vector<std::string> List();

@@ -14,21 +14,21 @@ public:
     virtual ~UndoableChange();
     virtual void Undo() = 0;
     virtual void Redo() = 0;
-    virtual std::string What() const = 0; // Returns text for the status bar, such as "layers".
+    virtual std::string Description() const = 0; // Returns text for the status bar, such as "layers".
 };
 
 // A change from one state, which has Restore(), to another one.
 template <class State>
 class StateChange : public UndoableChange {
 public:
-    StateChange(const char* what, State before, State after)
-        : m_what(what), m_before(std::move(before)), m_after(std::move(after)) {}
+    StateChange(const char* description, State before, State after)
+        : m_description(description), m_before(std::move(before)), m_after(std::move(after)) {}
     void Undo() override { m_before.Restore(); }
     void Redo() override { m_after.Restore(); }
-    std::string What() const override { return m_what; }
+    std::string Description() const override { return m_description; }
 
 private:
-    const char* m_what;
+    const char* m_description;
     State m_before, m_after;
 };
 

@@ -11,12 +11,12 @@
 
 #include "orlo/host/graphic.h"
 
-enum { kPricePage = 1, kMostPrices = 10000 };
+enum { kPricePage = 1, kMaxPrices = 10000 };
 
 // The host's own data: a price for each graphic that has one.
 typedef struct Prices {
-    struct GraphicStruct* graphics[kMostPrices];
-    double prices[kMostPrices];
+    struct GraphicStruct* graphics[kMaxPrices];
+    double prices[kMaxPrices];
     int count;
 } Prices;
 
@@ -45,7 +45,7 @@ static int32_t ORLO_CALL SetPrice(void* context, struct GraphicStruct* graphic, 
 static void Collect(Prices* prices, struct GraphicStruct* set) {
     uint32_t position;
     struct GraphicStruct* graphic;
-    for (graphic = GraphicFirst(set, &position, 1, kOrloAllGraphics); graphic != NULL && prices->count < kMostPrices;
+    for (graphic = GraphicFirst(set, &position, 1, kOrloAllGraphics); graphic != NULL && prices->count < kMaxPrices;
          graphic = GraphicNext(set, &position, 1, kOrloAllGraphics)) {
         prices->graphics[prices->count] = graphic;
         prices->prices[prices->count++] = 10.0;

@@ -13,7 +13,7 @@
 
 namespace {
 
-using orlo::Refuse;
+using orlo::ThrowError;
 
 // Passes the messages by which a dialog has its controls measure and draw their items.
 class DialogObject final : public CWnd {
@@ -24,7 +24,7 @@ protected:
 void RequireDialogObject(HWND dialog) {
     if (CWnd::FromHandlePermanent(dialog) != nullptr) return;
     auto object = std::make_unique<DialogObject>();
-    if (!object->SubclassWindow(dialog)) Refuse(kOrloFailed, "cannot subclass the dialog");
+    if (!object->SubclassWindow(dialog)) ThrowError(kOrloFailed, "cannot subclass the dialog");
     object.release(); // deleted with the window
 }
 
@@ -47,9 +47,9 @@ std::optional<TableControl> FindControl(HWND window) {
 // Returns the items of a control whose values are numbers.
 ControlItems RequireItems(HWND window) {
     const std::optional<TableControl> control = FindControl(window);
-    if (!control) Refuse(kOrloBadArgument, "the window is not a control of the library on this thread");
+    if (!control) ThrowError(kOrloBadArgument, "the window is not a control of the library on this thread");
     if (control->kind == kControlFontFaces || control->kind == kControlFontSizes)
-        Refuse(kOrloWrongType, "the control shows a text");
+        ThrowError(kOrloWrongType, "the control shows a text");
     return control->items;
 }
 
@@ -82,7 +82,7 @@ OrloResult ORLO_CALL OrloGetSelected(HWND control, uint32_t* value) {
         orlo::RequireNotNull(value, "the value") = 0;
         const ControlItems items = RequireItems(control);
         const int index = items.Selected();
-        if (index < 0) Refuse(kOrloNotFound, "nothing is selected");
+        if (index < 0) ThrowError(kOrloNotFound, "nothing is selected");
         *value = NumberAt(items, index);
     });
 }
@@ -93,7 +93,7 @@ OrloResult ORLO_CALL OrloSetSelected(HWND control, uint32_t value) {
         int index = items.Count() - 1;
         while (index >= 0 && NumberAt(items, index) != value)
             --index;
-        if (index < 0) Refuse(kOrloNotFound, "the control does not list this value");
+        if (index < 0) ThrowError(kOrloNotFound, "the control does not list this value");
         items.Select(index);
     });
 }

@@ -28,7 +28,7 @@ std::shared_ptr<FrameworkScope> FrameworkScope::OfThread(const ControlReady& onR
 
 FrameworkScope::FrameworkScope(ControlReady onReady) : m_main(std::move(onReady)) {
     if (AfxGetThread() == nullptr && AfxGetApp() != nullptr)
-        Refuse(kOrloBadThread, "the framework is running on another thread");
+        ThrowError(kOrloBadThread, "the framework is running on another thread");
     if (AfxGetThread() == nullptr) m_application.emplace();
     m_previousMain = AfxGetThread()->m_pMainWnd;
     if (!m_main.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr))
@@ -42,9 +42,9 @@ FrameworkScope::~FrameworkScope() {
 
 OwnerObject::OwnerObject(HWND owner) {
     if (owner == nullptr) return;
-    if (!::IsWindow(owner)) Refuse(kOrloBadArgument, "owner is not a window");
+    if (!::IsWindow(owner)) ThrowError(kOrloBadArgument, "owner is not a window");
     if (::GetWindowThreadProcessId(owner, nullptr) != ::GetCurrentThreadId())
-        Refuse(kOrloBadThread, "owner is a window of another thread");
+        ThrowError(kOrloBadThread, "owner is a window of another thread");
     m_owner = CWnd::FromHandlePermanent(owner);
     if (m_owner == nullptr && m_object.Attach(owner)) m_owner = &m_object;
 }

@@ -48,7 +48,7 @@ std::string SystemTextToUtf8(const std::string& text) {
     return Narrow(Widen(text, CP_ACP), CP_UTF8);
 }
 
-void Refuse(OrloResult result, const char* text) {
+void ThrowError(OrloResult result, const char* text) {
     throw Refusal{result, text};
 }
 

@@ -18,7 +18,7 @@ struct Refusal {
 // Converts a text in the code page of the system, such as one of the framework.
 std::string SystemTextToUtf8(const std::string& text);
 
-[[noreturn]] void Refuse(OrloResult result, const char* text);
+[[noreturn]] void ThrowError(OrloResult result, const char* text);
 // Throws Refusal with kOrloSystemError (kOrloOutOfMemory for E_OUTOFMEMORY). The text is `what`, a colon and the
 // system's message for the error.
 [[noreturn]] void RefuseWithSystemError(long error, const char* what);
@@ -30,7 +30,7 @@ OrloResult GuardedCall(const std::function<void()>& work);
 // Returns *pointer. Throws Refusal if it is null.
 template <class T>
 T& RequireNotNull(T* pointer, const char* name) {
-    if (pointer == nullptr) Refuse(kOrloBadArgument, (std::string(name) + " is null").c_str());
+    if (pointer == nullptr) ThrowError(kOrloBadArgument, (std::string(name) + " is null").c_str());
     return *pointer;
 }
 
@@ -38,7 +38,7 @@ T& RequireNotNull(T* pointer, const char* name) {
 template <class Record>
 Record& RequireRecord(Record* record, const char* name) {
     if (RequireNotNull(record, name).size != sizeof(Record))
-        Refuse(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
+        ThrowError(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
     return *record;
 }
 
@@ -48,7 +48,7 @@ template <class Record>
 Record CopyRecord(const Record* record, const char* name, size_t least = sizeof(Record)) {
     const size_t size = RequireNotNull(record, name).size;
     if (size < least || size > sizeof(Record))
-        Refuse(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
+        ThrowError(kOrloBadArgument, (std::string(name) + " has a size that this version does not support").c_str());
     Record copy = {};
     std::memcpy(&copy, record, size);
     return copy;

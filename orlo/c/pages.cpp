@@ -45,7 +45,7 @@ private:
 };
 
 void SetAccess(FieldRow& row, const OrloPage& page, uint32_t index) {
-    if (page.get == nullptr) Refuse(kOrloBadArgument, "a field is read by a callback, but the page has none");
+    if (page.get == nullptr) ThrowError(kOrloBadArgument, "a field is read by a callback, but the page has none");
     row.get = [page, index](GraphicStruct* graphic, FieldValue& value) {
         OrloValue record = {sizeof record, 0.0, nullptr};
         if (!page.get(page.context, graphic, index, &record)) return false;
@@ -93,7 +93,7 @@ FieldTable TableOf(const OrloPage& page) {
     RequireNotNull(page.caption, "the caption");
     RequireNotNull(page.fields, "the array of fields");
     table.caption = ToSystemText(page.caption);
-    for (uint32_t i = 0; i < page.fieldCount && i <= CFieldPage::kMostRows; ++i)
+    for (uint32_t i = 0; i < page.fieldCount && i <= CFieldPage::kMaxRows; ++i)
         table.rows.push_back(RowOf(page, CopyRecordAt(page.fields, i, "field " + std::to_string(i)), i));
     if (page.types != nullptr || page.accepts != nullptr)
         table.accepts = [page](GraphicStruct* graphic) {
@@ -116,9 +116,9 @@ void AddPages(const OrloSheet& record, CGraphicPropertySheet& sheet) {
             const OrloPage page = CopyRecordAt(record.pages, i, "the record");
             ::AddFieldPage(&sheet, page.number, TableOf(page));
         } catch (const std::invalid_argument& refusal) {
-            Refuse(kOrloBadArgument, (name + ": " + SystemTextToUtf8(refusal.what())).c_str());
+            ThrowError(kOrloBadArgument, (name + ": " + SystemTextToUtf8(refusal.what())).c_str());
         } catch (const Refusal& refusal) {
-            Refuse(refusal.result, (name + ": " + refusal.text).c_str());
+            ThrowError(refusal.result, (name + ": " + refusal.text).c_str());
         }
     }
 }

@@ -34,13 +34,13 @@ std::shared_ptr<OpenSet> RequireSet(OrloPropset handle) {
     Table& table = TheTable();
     const std::lock_guard<std::mutex> locked(table.lock);
     const auto found = table.sets.find(handle);
-    if (found == table.sets.end()) Refuse(kOrloBadHandle, "no property set has this handle");
+    if (found == table.sets.end()) ThrowError(kOrloBadHandle, "no property set has this handle");
     return found->second;
 }
 
 std::shared_ptr<OpenSet> RequireUndamagedSet(OrloPropset handle) {
     std::shared_ptr<OpenSet> set = RequireSet(handle);
-    if (set->IsDamaged()) Refuse(kOrloDamaged, "the property set is damaged and cannot be changed or saved");
+    if (set->IsDamaged()) ThrowError(kOrloDamaged, "the property set is damaged and cannot be changed or saved");
     return set;
 }
 
@@ -67,13 +67,13 @@ const GUID& AsGuid(const OrloGuid& format) {
 
 ImageSection& RequireSection(SetImage& image, const OrloGuid* format) {
     ImageSection* section = image.Find(AsGuid(RequireNotNull(format, "the format")));
-    if (section == nullptr) Refuse(kOrloNotFound, "the property set has no section with this format");
+    if (section == nullptr) ThrowError(kOrloNotFound, "the property set has no section with this format");
     return *section;
 }
 
 ImageProperty& RequireProperty(SetImage& image, const OrloGuid* format, uint32_t id) {
     ImageProperty* property = RequireSection(image, format).Find(id);
-    if (property == nullptr) Refuse(kOrloNotFound, "the section has no such property");
+    if (property == nullptr) ThrowError(kOrloNotFound, "the section has no such property");
     return *property;
 }
 
@@ -81,7 +81,7 @@ void CopyOut(const void* bytes, size_t count, void* buffer, size_t* size) {
     const size_t capacity = RequireNotNull(size, "the size");
     *size = count;
     if (buffer == nullptr) return;
-    if (capacity < count) Refuse(kOrloBufferTooSmall, "the buffer is too small");
+    if (capacity < count) ThrowError(kOrloBufferTooSmall, "the buffer is too small");
     if (count > 0) std::memcpy(buffer, bytes, count);
 }
 
@@ -114,7 +114,7 @@ OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, Orlo
         OrloFinding& record = RequireRecord(finding, "the finding");
         record = {sizeof record, 0, 0, 0};
         const auto open = RequireSet(set);
-        if (index >= open->findings.size()) Refuse(kOrloNotFound, "the finding index is out of range");
+        if (index >= open->findings.size()) ThrowError(kOrloNotFound, "the finding index is out of range");
         const Finding& found = open->findings[index];
         CopyOut(found.text.c_str(), found.text.size() + 1, buffer, size);
         record = {sizeof record, static_cast<uint32_t>(found.severity), static_cast<uint32_t>(found.code),
@@ -134,7 +134,7 @@ OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, Orlo
         OrloSection& record = RequireRecord(section, "the section");
         record = {sizeof record, {}, 0, 0};
         const auto open = RequireSet(set);
-        if (index >= open->image.sections.size()) Refuse(kOrloNotFound, "the section index is out of range");
+        if (index >= open->image.sections.size()) ThrowError(kOrloNotFound, "the section index is out of range");
         const ImageSection& found = open->image.sections[index];
         std::memcpy(&record.format, &found.formatId, sizeof record.format);
         record.codePage = found.codePage.value_or(0);
@@ -148,7 +148,7 @@ OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, u
         record = {sizeof record, 0, 0, 0, 0};
         const auto open = RequireSet(set);
         if (section >= open->image.sections.size() || index >= open->image.sections[section].properties.size())
-            Refuse(kOrloNotFound, "the section or property index is out of range");
+            ThrowError(kOrloNotFound, "the section or property index is out of range");
         const ImageProperty& found = open->image.sections[section].properties[index];
         record = {sizeof record, found.id, found.type, found.state == ValueState::complete, found.bytes.size()};
     });

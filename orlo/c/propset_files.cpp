@@ -26,13 +26,13 @@ void Check(HRESULT result, const char* what) {
 OrloPropset Open(const uint8_t* data, size_t size, std::optional<Origin> origin = std::nullopt) {
     std::vector<Finding> findings;
     std::optional<SetImage> image = ReadSetImage(data, size, findings);
-    if (!image) Refuse(kOrloDamaged, "not a property set");
+    if (!image) ThrowError(kOrloDamaged, "not a property set");
     return AddSet({std::move(*image), std::move(findings), std::move(origin)});
 }
 
 Bytes Written(const OpenSet& set) {
     std::optional<Bytes> bytes = WriteSetImage(set.image);
-    if (!bytes) Refuse(kOrloNotEncodable, "a name cannot be represented in the code page of its section");
+    if (!bytes) ThrowError(kOrloNotEncodable, "a name cannot be represented in the code page of its section");
     return std::move(*bytes);
 }
 
@@ -42,7 +42,7 @@ Bytes ReadToEnd(IStream& stream) {
     for (ULONG read = 1; read != 0;) {
         Check(stream.Read(part, sizeof part, &read), "the stream cannot be read");
         bytes.insert(bytes.end(), part, part + std::min<ULONG>(read, sizeof part));
-        if (bytes.size() > kLongest) Refuse(kOrloDamaged, "the stream is too long for a property set");
+        if (bytes.size() > kLongest) ThrowError(kOrloDamaged, "the stream is too long for a property set");
     }
     return bytes;
 }
@@ -61,7 +61,8 @@ void WriteWhole(IStream& stream, const Bytes& bytes) {
 
 std::string StreamName(const char* name) {
     const std::string text = name != nullptr ? name : kSummaryStreamName;
-    if (text.empty() || !Utf8ToCodePage(text, kCodePageUtf16)) Refuse(kOrloBadArgument, "the stream name is not valid");
+    if (text.empty() || !Utf8ToCodePage(text, kCodePageUtf16))
+        ThrowError(kOrloBadArgument, "the stream name is not valid");
     return text;
 }
 
@@ -70,15 +71,15 @@ CompoundReader OpenToRead(const std::filesystem::path& path) {
         return OpenCompoundFile(path);
     } catch (const files::FileError& error) {
         const bool isMissing = error.Reason() == std::errc::no_such_file_or_directory;
-        Refuse(isMissing ? kOrloNotFound : kOrloSystemError, error.what());
+        ThrowError(isMissing ? kOrloNotFound : kOrloSystemError, error.what());
     }
 }
 
 Bytes ReadStream(const std::filesystem::path& path, const std::string& name) {
     const CompoundReader reader = OpenToRead(path);
-    if (reader.State() == CompoundState::foreign) Refuse(kOrloDamaged, "not a compound file");
+    if (reader.State() == CompoundState::foreign) ThrowError(kOrloDamaged, "not a compound file");
     const CompoundStream* stream = FindStream(reader, name);
-    if (stream == nullptr) Refuse(kOrloNotFound, "the file has no such stream");
+    if (stream == nullptr) ThrowError(kOrloNotFound, "the file has no such stream");
     return reader.Read(*stream);
 }
 
@@ -91,13 +92,13 @@ void Save(OpenSet& set, const Bytes& bytes, const std::filesystem::path& path, c
     try {
         EditedDocument document(path, EditedDocument::IfMissing::Create);
         if (set.origin && IsSamePlace(*set.origin, path, stream) && document.Read(stream) != set.origin->bytes)
-            Refuse(kOrloChanged, "the stream has been changed since the set was read");
+            ThrowError(kOrloChanged, "the stream has been changed since the set was read");
         document.Write(stream, bytes);
         document.Commit();
     } catch (const UnfitDocument& unfit) {
-        Refuse(kOrloDamaged, unfit.what());
+        ThrowError(kOrloDamaged, unfit.what());
     } catch (const files::FileError& error) {
-        Refuse(error.Reason() == std::errc::not_enough_memory ? kOrloOutOfMemory : kOrloSystemError, error.what());
+        ThrowError(error.Reason() == std::errc::not_enough_memory ? kOrloOutOfMemory : kOrloSystemError, error.what());
     }
     set.origin = Origin{path, stream, bytes};
 }

@@ -31,9 +31,9 @@ Number At(const Bytes& bytes, size_t offset) {
 Bytes RequireThumbnail(OrloPropset set) {
     const auto open = RequireSet(set);
     const ImageProperty& property = RequireProperty(open->image, &kOrloSummary, kOrloThumbnail);
-    if (property.type != kOrloTypeClipboard) Refuse(kOrloWrongType, "the thumbnail is not a picture");
+    if (property.type != kOrloTypeClipboard) ThrowError(kOrloWrongType, "the thumbnail is not a picture");
     if (property.state != ValueState::complete || property.bytes.size() < kLengthSize + kPictureOffset)
-        Refuse(kOrloDamaged, "the thumbnail is damaged");
+        ThrowError(kOrloDamaged, "the thumbnail is damaged");
     return Bytes(property.bytes.begin() + kLengthSize, property.bytes.end());
 }
 
@@ -48,7 +48,7 @@ SIZE SizeInside(const Bytes& value) {
 
 SIZE NaturalSize(const Bytes& value) {
     const SIZE size = SizeInside(value);
-    if (size.cx <= 0 || size.cy <= 0) Refuse(kOrloDamaged, "the thumbnail is damaged or in an unsupported format");
+    if (size.cx <= 0 || size.cy <= 0) ThrowError(kOrloDamaged, "the thumbnail is damaged or in an unsupported format");
     const double longer = std::max(size.cx, size.cy);
     if (At<uint32_t>(value, 4) == CF_DIB && longer <= kLargest) return size;
     const double scale = kVectorSide / longer;
@@ -63,7 +63,7 @@ SIZE RequestedSize(const Bytes& value, uint32_t& width, uint32_t& height) {
         height = static_cast<uint32_t>(own.cy);
     }
     if (width == 0 || height == 0 || width > kLargest || height > kLargest)
-        Refuse(kOrloBadArgument, "the size must be between 1x1 and 8192x8192");
+        ThrowError(kOrloBadArgument, "the size must be between 1x1 and 8192x8192");
     return {static_cast<LONG>(width), static_cast<LONG>(height)};
 }
 
@@ -78,14 +78,14 @@ Picture Render(const Bytes& value, SIZE size) {
     const orlo::OwnedDC dc(::CreateCompatibleDC(nullptr));
     void* bits = nullptr;
     Picture picture{orlo::OwnedBitmap(::CreateDIBSection(dc.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0)), nullptr};
-    if (!picture.bitmap) Refuse(kOrloOutOfMemory, "cannot create a bitmap of that size");
+    if (!picture.bitmap) ThrowError(kOrloOutOfMemory, "cannot create a bitmap of that size");
     picture.pixels = static_cast<uint32_t*>(bits);
     const orlo::SelectedObject selected(dc.get(), picture.bitmap.get());
     ::PatBlt(dc.get(), 0, 0, size.cx, size.cy, WHITENESS);
     ::SetStretchBltMode(dc.get(), HALFTONE);
     const RECT all = {0, 0, size.cx, size.cy};
     if (!::DrawThumbnailValue(value.data(), static_cast<DWORD>(value.size()), dc.get(), &all))
-        Refuse(kOrloDamaged, "the thumbnail is damaged or in an unsupported format");
+        ThrowError(kOrloDamaged, "the thumbnail is damaged or in an unsupported format");
     ::GdiFlush();
     const size_t count = static_cast<size_t>(size.cx) * static_cast<size_t>(size.cy);
     std::for_each(picture.pixels, picture.pixels + count, [](uint32_t& pixel) { pixel |= ~kColor; });
@@ -102,7 +102,7 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
                                                    void* buffer, size_t* size) {
     return GuardedCall([&] {
         RequireNotNull(size, "the size");
-        if (order > kOrloRgba) Refuse(kOrloBadArgument, "unknown pixel order");
+        if (order > kOrloRgba) ThrowError(kOrloBadArgument, "unknown pixel order");
         const Bytes value = RequireThumbnail(set);
         const SIZE pixels =
             RequestedSize(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));

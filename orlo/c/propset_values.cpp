@@ -2,7 +2,9 @@
 
 #include <propidl.h>
 
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
 
 #include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
@@ -20,18 +22,18 @@ Value ValueOf(OrloPropset set, const OrloGuid* format, uint32_t id) {
     if (property.state != ValueState::complete ||
         !DecodeValue(property.type, property.bytes.data(), property.bytes.size(),
                      RequireSection(open->image, format).codePage, value))
-        Refuse(kOrloDamaged, "the value is damaged");
+        ThrowError(kOrloDamaged, "the value is damaged");
     return value;
 }
 
 // Returns the items of a list.
 const std::vector<Value>& ItemsOf(const Value& list) {
-    if ((list.type & VT_VECTOR) == 0) Refuse(kOrloWrongType, "the value is not a list");
+    if ((list.type & VT_VECTOR) == 0) ThrowError(kOrloWrongType, "the value is not a list");
     return list.elements;
 }
 
 Value ItemOf(const Value& list, uint32_t index) {
-    if (index >= ItemsOf(list).size()) Refuse(kOrloNotFound, "the list has no such item");
+    if (index >= ItemsOf(list).size()) ThrowError(kOrloNotFound, "the list has no such item");
     return list.elements[index];
 }
 
@@ -39,19 +41,19 @@ int64_t IntegerOf(const Value& value) {
     if (const bool* truth = std::get_if<bool>(&value.data)) return *truth ? 1 : 0;
     if (const int64_t* number = std::get_if<int64_t>(&value.data)) return *number;
     const uint64_t* number = std::get_if<uint64_t>(&value.data);
-    if (number == nullptr || *number > INT64_MAX) Refuse(kOrloWrongType, "the value is not a 64-bit integer");
+    if (number == nullptr || *number > INT64_MAX) ThrowError(kOrloWrongType, "the value is not a 64-bit integer");
     return static_cast<int64_t>(*number);
 }
 
 double RealOf(const Value& value) {
     const double* number = std::get_if<double>(&value.data);
-    if (number == nullptr) Refuse(kOrloWrongType, "the value is not a real number");
+    if (number == nullptr) ThrowError(kOrloWrongType, "the value is not a real number");
     return *number;
 }
 
 void CopyText(const Value& value, char* buffer, size_t* size) {
     const std::string* text = std::get_if<std::string>(&value.data);
-    if (text == nullptr) Refuse(kOrloWrongType, "the value is not text");
+    if (text == nullptr) ThrowError(kOrloWrongType, "the value is not text");
     CopyOut(text->c_str(), text->size() + 1, buffer, size);
 }
 
@@ -64,20 +66,21 @@ uint16_t CodePageOf(SetImage& image, const OrloGuid* format) {
 // Creates the section. Fails if it exists already, since its texts are encoded in its code page.
 void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
-    if (codePage <= 0 || codePage > UINT16_MAX) Refuse(kOrloBadArgument, "not a code page");
+    if (codePage <= 0 || codePage > UINT16_MAX) ThrowError(kOrloBadArgument, "not a code page");
     if (image.Find(wanted) != nullptr)
-        Refuse(kOrloBadArgument, "the code page of an existing section cannot be changed");
+        ThrowError(kOrloBadArgument, "the code page of an existing section cannot be changed");
     if (!Utf8ToCodePage("a", static_cast<uint16_t>(codePage)))
-        Refuse(kOrloBadArgument, "the code page is not supported by the system");
+        ThrowError(kOrloBadArgument, "the code page is not supported by the system");
     SectionFor(image, wanted, static_cast<uint16_t>(codePage));
 }
 
 void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t type, Bytes bytes) {
-    if (id <= kOrloCodePage) Refuse(kOrloBadArgument, "dictionary and code page are not values");
+    if (id <= kOrloCodePage) ThrowError(kOrloBadArgument, "dictionary and code page are not values");
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
     const ImageSection* section = image.Find(wanted);
     const ImageProperty* property = section != nullptr ? section->Find(id) : nullptr;
-    if (property != nullptr && property->type != type) Refuse(kOrloWrongType, "the property exists with another type");
+    if (property != nullptr && property->type != type)
+        ThrowError(kOrloWrongType, "the property exists with another type");
     StoreValue(SectionFor(image, wanted, kCodePageUtf8), id, type, std::move(bytes));
 }
 
@@ -85,46 +88,38 @@ void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t t
 void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
     const auto open = RequireUndamagedSet(set);
     std::optional<Bytes> bytes = EncodeValue(value, CodePageOf(open->image, format));
-    if (!bytes) Refuse(unfit, "the value cannot be represented in its type");
+    if (!bytes) ThrowError(unfit, "the value cannot be represented in its type");
     StoreBytes(open->image, format, id, value.type, std::move(*bytes));
 }
 
+bool Contains(std::initializer_list<uint32_t> types, uint32_t type) {
+    return std::find(types.begin(), types.end(), type) != types.end();
+}
+
 Value IntegerValue(uint32_t type, int64_t number) {
-    switch (type) {
-    case VT_BOOL:
-        if (number != 0 && number != 1) Refuse(kOrloWrongType, "a Boolean must be 0 or 1");
+    if (type == VT_BOOL) {
+        if (number != 0 && number != 1) ThrowError(kOrloWrongType, "a Boolean must be 0 or 1");
         return {type, number == 1, {}};
-    case VT_UI1:
-    case VT_UI2:
-    case VT_UI4:
-    case VT_UINT:
-    case VT_UI8:
-    case VT_FILETIME:
-        if (number < 0) Refuse(kOrloWrongType, "the type is unsigned and the number is negative");
-        return {type, static_cast<uint64_t>(number), {}};
-    case VT_I1:
-    case VT_I2:
-    case VT_I4:
-    case VT_INT:
-    case VT_I8:
-    case VT_CY:
-    case VT_ERROR:
-        return {type, number, {}};
-    default:
-        Refuse(kOrloWrongType, "not an integer type");
     }
+    if (Contains({VT_UI1, VT_UI2, VT_UI4, VT_UINT, VT_UI8, VT_FILETIME}, type)) {
+        if (number < 0) ThrowError(kOrloWrongType, "the type is unsigned and the number is negative");
+        return {type, static_cast<uint64_t>(number), {}};
+    }
+    if (!Contains({VT_I1, VT_I2, VT_I4, VT_INT, VT_I8, VT_CY, VT_ERROR}, type))
+        ThrowError(kOrloWrongType, "not an integer type");
+    return {type, number, {}};
 }
 
 Value RealValue(uint32_t type, double number) {
-    if (type != VT_R4 && type != VT_R8 && type != VT_DATE) Refuse(kOrloWrongType, "not a type of real numbers");
-    if (!std::isfinite(number)) Refuse(kOrloBadArgument, "the number is not finite");
+    if (type != VT_R4 && type != VT_R8 && type != VT_DATE) ThrowError(kOrloWrongType, "not a type of real numbers");
+    if (!std::isfinite(number)) ThrowError(kOrloBadArgument, "the number is not finite");
     if (type == VT_R4 && std::isinf(static_cast<float>(number)))
-        Refuse(kOrloWrongType, "the number is out of range for a float");
+        ThrowError(kOrloWrongType, "the number is out of range for a float");
     return {type, number, {}};
 }
 
 Value TextValue(uint32_t type, const char* text) {
-    if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR) Refuse(kOrloWrongType, "not a text type");
+    if (type != VT_LPSTR && type != VT_LPWSTR && type != VT_BSTR) ThrowError(kOrloWrongType, "not a text type");
     return {type, std::string(&RequireNotNull(text, "the text")), {}};
 }
 
@@ -250,7 +245,7 @@ OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format
         const uint16_t codePage = CodePageOf(open->image, format);
         Value value;
         if (!DecodeValue(type, bytes.data(), bytes.size(), codePage, value) || EncodeValue(value, codePage) != bytes)
-            Refuse(kOrloWrongType, "the bytes are not a single value of the type");
+            ThrowError(kOrloWrongType, "the bytes are not a single value of the type");
         StoreBytes(open->image, format, id, type, std::move(bytes));
     });
 }
@@ -259,7 +254,7 @@ OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGuid* format, 
     return GuardedCall([&] {
         const auto open = RequireUndamagedSet(set);
         if (id <= kOrloCodePage)
-            Refuse(kOrloBadArgument, "dictionary and code page cannot be removed from their section");
+            ThrowError(kOrloBadArgument, "dictionary and code page cannot be removed from their section");
         RequireProperty(open->image, format, id);
         ImageSection& section = RequireSection(open->image, format);
         RemoveValue(section, id);
@@ -276,7 +271,7 @@ OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format,
             for (const DictionaryEntry& entry : *section.dictionary)
                 if (entry.id == id && entry.undecoded.empty())
                     return CopyOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
-        Refuse(kOrloNotFound, "the property has no name");
+        ThrowError(kOrloNotFound, "the property has no name");
     });
 }
 
@@ -285,9 +280,9 @@ OrloResult ORLO_CALL OrloPropsetGetNameAt(OrloPropset set, uint32_t section, uin
     return GuardedCall([&] {
         RequireNotNull(id, "the identifier") = 0;
         const auto open = RequireSet(set);
-        if (section >= open->image.sections.size()) Refuse(kOrloNotFound, "the section index is out of range");
+        if (section >= open->image.sections.size()) ThrowError(kOrloNotFound, "the section index is out of range");
         const auto& dictionary = open->image.sections[section].dictionary;
-        if (!dictionary || index >= dictionary->size()) Refuse(kOrloNotFound, "the name index is out of range");
+        if (!dictionary || index >= dictionary->size()) ThrowError(kOrloNotFound, "the name index is out of range");
         const DictionaryEntry& entry = (*dictionary)[index];
         CopyOut(entry.name.c_str(), entry.name.size() + 1, buffer, size);
         *id = entry.id;
@@ -299,7 +294,7 @@ OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format
         RequireNotNull(id, "the identifier") = 0;
         const auto open = RequireSet(set);
         const DictionaryEntry* entry = FindName(RequireSection(open->image, format), &RequireNotNull(name, "the name"));
-        if (entry == nullptr) Refuse(kOrloNotFound, "no property has that name");
+        if (entry == nullptr) ThrowError(kOrloNotFound, "no property has that name");
         *id = entry->id;
     });
 }
@@ -311,11 +306,11 @@ OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format,
         RequireProperty(open->image, format, id);
         ImageSection& section = RequireSection(open->image, format);
         if (text.empty() || id <= kOrloCodePage)
-            Refuse(kOrloBadArgument, "the name is empty, or the property cannot have a name");
+            ThrowError(kOrloBadArgument, "the name is empty, or the property cannot have a name");
         if (!Utf8ToCodePage(text, section.codePage.value_or(kUsualCodePage)))
-            Refuse(kOrloNotEncodable, "the name cannot be represented in the code page of the section");
+            ThrowError(kOrloNotEncodable, "the name cannot be represented in the code page of the section");
         const DictionaryEntry* there = FindName(section, text);
-        if (there != nullptr && there->id != id) Refuse(kOrloBadArgument, "another property has that name");
+        if (there != nullptr && there->id != id) ThrowError(kOrloBadArgument, "another property has that name");
         StoreName(section, id, text);
     });
 }

@@ -69,7 +69,7 @@ void FillControlOfThread(unsigned kind, HWND control) {
 OrloSheet CopySheet(const OrloSheet* sheet) {
     const OrloSheet record = CopyRecord(sheet, "sheet", offsetof(OrloSheet, pages));
     RequireNotNull(record.drawing, "sheet->drawing");
-    if (record.drawing != ::CurrentDrawing()) Refuse(kOrloBadArgument, "sheet->drawing is not the current drawing");
+    if (record.drawing != ::CurrentDrawing()) ThrowError(kOrloBadArgument, "sheet->drawing is not the current drawing");
     return record;
 }
 
@@ -77,7 +77,7 @@ OrloSheet CopySheet(const OrloSheet* sheet) {
 
 SheetRecord::SheetRecord(const OrloSheet* record)
     : m_record(CopySheet(record)), m_framework(FrameworkScope::OfThread(FillControlOfThread)), m_owner(m_record.owner) {
-    if (!::PropPageInit()) Refuse(kOrloOutOfMemory, "out of memory while the library was initialized");
+    if (!::PropPageInit()) ThrowError(kOrloOutOfMemory, "out of memory while the library was initialized");
     SheetsOfThread().push_back(this);
 }
 
@@ -98,7 +98,7 @@ bool SheetRecord::HasGraphics() const {
 std::unique_ptr<CGraphicPropertySheet> SheetRecord::NewSheet() {
     std::unique_ptr<CGraphicPropertySheet> sheet(::InitGraphicPropertySheet(
         Owner(), m_record.regenMethods, m_record.drawing, m_record.selection, m_record.filter));
-    if (!sheet) Refuse(kOrloOutOfMemory, "out of memory while the sheet was created");
+    if (!sheet) ThrowError(kOrloOutOfMemory, "out of memory while the sheet was created");
     for (GraphicStruct* graphic : host::Members(m_record.selection, m_record.filter))
         ::AddGraphicPropertyPage(m_record.regenMethods, graphic, sheet.get());
     AddPages(m_record, *sheet);

@@ -10,7 +10,7 @@
 
 namespace {
 
-using orlo::Refuse;
+using orlo::ThrowError;
 
 class WindowRecord final : public orlo::SheetRecord {
 public:
@@ -36,7 +36,7 @@ public:
 
     // Throws Refusal if a field is not valid.
     void RequireApplied() {
-        if (!Apply()) Refuse(kOrloInvalidInput, "a field of the sheet is not valid");
+        if (!Apply()) ThrowError(kOrloInvalidInput, "a field of the sheet is not valid");
     }
 
     void Show(GraphicStruct* selection) {
@@ -105,7 +105,8 @@ Windows& WindowsOfThread() {
 
 Windows::iterator Find(OrloSheetHandle handle) {
     const auto found = WindowsOfThread().find(reinterpret_cast<uintptr_t>(handle));
-    if (found == WindowsOfThread().end()) Refuse(kOrloBadHandle, "the handle is not that of a sheet of this thread");
+    if (found == WindowsOfThread().end())
+        ThrowError(kOrloBadHandle, "the handle is not that of a sheet of this thread");
     return found;
 }
 

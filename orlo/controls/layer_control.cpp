@@ -18,7 +18,7 @@ namespace {
 
 constexpr unsigned int kKind = kControlLayers;
 
-constexpr int kLeastPicture = 16;
+constexpr int kMinPicture = 16;
 constexpr int kGap = 3;  // before a chip and before the name, in pixels at 96 dpi
 constexpr int kChip = 9; // side of the square that shows a layer's color if the name is not drawn in it
 
@@ -29,7 +29,7 @@ int ColumnWidth() {
 
 // Draws the icon, whose image fills its top left quarter, scaled down if the field is lower than a row.
 void DrawPicture(HDC dc, int x, const RECT& row, HICON icon) {
-    const int size = std::max(std::min(ColumnWidth(), static_cast<int>(row.bottom - row.top)), kLeastPicture);
+    const int size = std::max(std::min(ColumnWidth(), static_cast<int>(row.bottom - row.top)), kMinPicture);
     const int top = (row.top + row.bottom - size) / 2;
     ::DrawIconEx(dc, x, top, icon, 2 * size, 2 * size, 0, nullptr, DI_NORMAL);
 }

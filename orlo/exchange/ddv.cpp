@@ -11,8 +11,8 @@ constexpr double kLargest = 1e38;
 constexpr double kSmallestFontSize = 1e-7;
 
 // All limits are passed as long: no type here has more than 32 bits, and the format distinguishes signed from unsigned.
-template <class Whole>
-int CheckWhole(int bReport, CDataExchange* pDX, Whole value, Whole min, Whole max, const char* format) {
+template <class Integer>
+int CheckInteger(int bReport, CDataExchange* pDX, Integer value, Integer min, Integer max, const char* format) {
     if (value >= min && value <= max) return 1;
     return FailIntRange(bReport, pDX, static_cast<long>(min), static_cast<long>(max), format, AFX_IDP_PARSE_INT_RANGE);
 }
@@ -26,27 +26,27 @@ int CheckReal(int bReport, CDataExchange* pDX, Real value, Real min, Real max, i
 } // namespace
 
 int DDV_MinMaxByte(int bReport, CDataExchange* pDX, unsigned char value, unsigned char min, unsigned char max) {
-    return CheckWhole(bReport, pDX, value, min, max, "%u");
+    return CheckInteger(bReport, pDX, value, min, max, "%u");
 }
 
 int DDV_MinMaxInt(int bReport, CDataExchange* pDX, int value, int min, int max) {
-    return CheckWhole(bReport, pDX, value, min, max, "%ld");
+    return CheckInteger(bReport, pDX, value, min, max, "%ld");
 }
 
 int DDV_MinMaxUI2(int bReport, CDataExchange* pDX, unsigned short value, unsigned short min, unsigned short max) {
-    return CheckWhole(bReport, pDX, value, min, max, "%ld");
+    return CheckInteger(bReport, pDX, value, min, max, "%ld");
 }
 
 int DDV_MinMaxLong(int bReport, CDataExchange* pDX, long value, long min, long max) {
-    return CheckWhole(bReport, pDX, value, min, max, "%ld");
+    return CheckInteger(bReport, pDX, value, min, max, "%ld");
 }
 
 int DDV_MinMaxUInt(int bReport, CDataExchange* pDX, unsigned int value, unsigned int min, unsigned int max) {
-    return CheckWhole(bReport, pDX, value, min, max, "%lu");
+    return CheckInteger(bReport, pDX, value, min, max, "%lu");
 }
 
 int DDV_MinMaxDWord(int bReport, CDataExchange* pDX, unsigned long value, unsigned long min, unsigned long max) {
-    return CheckWhole(bReport, pDX, value, min, max, "%lu");
+    return CheckInteger(bReport, pDX, value, min, max, "%lu");
 }
 
 int DDV_MinMaxFloat(int bReport, CDataExchange* pDX, const float& value, float min, float max) {

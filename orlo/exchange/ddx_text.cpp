@@ -17,18 +17,18 @@ constexpr int kTextSize = 32;  // for a formatted number
 constexpr int kRealDigits = 6; // significant digits of a real number in a field
 
 // Formatting, parsing and failure message of an integer type.
-struct WholeFormat {
+struct IntegerFormat {
     const char* print;
     bool isUnsigned;
     UINT prompt;
 };
 
-constexpr WholeFormat kByte = {"%u", true, AFX_IDP_PARSE_BYTE};
-constexpr WholeFormat kSigned = {"%ld", false, AFX_IDP_PARSE_INT};
-constexpr WholeFormat kWord = {"%ld", false, AFX_IDP_PARSE_UINT};
-constexpr WholeFormat kUnsigned = {"%lu", true, AFX_IDP_PARSE_UINT};
+constexpr IntegerFormat kByte = {"%u", true, AFX_IDP_PARSE_BYTE};
+constexpr IntegerFormat kSigned = {"%ld", false, AFX_IDP_PARSE_INT};
+constexpr IntegerFormat kWord = {"%ld", false, AFX_IDP_PARSE_UINT};
+constexpr IntegerFormat kUnsigned = {"%lu", true, AFX_IDP_PARSE_UINT};
 
-int ExchangeFormattedText(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& format, long& value) {
+int ExchangeFormattedText(int bReport, CDataExchange* pDX, int nIDC, const IntegerFormat& format, long& value) {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
         return ScanTextValue(WindowText(control), format.isUnsigned, value)
@@ -40,11 +40,11 @@ int ExchangeFormattedText(int bReport, CDataExchange* pDX, int nIDC, const Whole
     return 1;
 }
 
-template <class Whole>
-int ExchangeWhole(int bReport, CDataExchange* pDX, int nIDC, const WholeFormat& format, Whole& value) {
+template <class Integer>
+int ExchangeInteger(int bReport, CDataExchange* pDX, int nIDC, const IntegerFormat& format, Integer& value) {
     long local = static_cast<long>(value);
     const int result = ExchangeFormattedText(bReport, pDX, nIDC, format, local);
-    if (result && pDX->m_bSaveAndValidate) value = static_cast<Whole>(local);
+    if (result && pDX->m_bSaveAndValidate) value = static_cast<Integer>(local);
     return result;
 }
 
@@ -88,23 +88,23 @@ int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value) {
 }
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, int& value) {
-    return ExchangeWhole(bReport, pDX, nIDC, kSigned, value);
+    return ExchangeInteger(bReport, pDX, nIDC, kSigned, value);
 }
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value) {
-    return ExchangeWhole(bReport, pDX, nIDC, kWord, value);
+    return ExchangeInteger(bReport, pDX, nIDC, kWord, value);
 }
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned int& value) {
-    return ExchangeWhole(bReport, pDX, nIDC, kUnsigned, value);
+    return ExchangeInteger(bReport, pDX, nIDC, kUnsigned, value);
 }
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, long& value) {
-    return ExchangeWhole(bReport, pDX, nIDC, kSigned, value);
+    return ExchangeInteger(bReport, pDX, nIDC, kSigned, value);
 }
 
 int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned long& value) {
-    return ExchangeWhole(bReport, pDX, nIDC, kUnsigned, value);
+    return ExchangeInteger(bReport, pDX, nIDC, kUnsigned, value);
 }
 
 int DDX_Text(int, CDataExchange* pDX, int nIDC, CString& value) {

@@ -42,7 +42,7 @@ int WholeVariable(TableStruct* pTable, unsigned long nID, int missing) {
 
 // Exchanges an integer through a function for int. Always returns 1.
 template <class Exchange>
-int ExchangeWhole(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, int missing, Exchange exchange) {
+int ExchangeInteger(CDataExchange* pDX, TableStruct* pTable, unsigned long nID, int missing, Exchange exchange) {
     int value = pDX->m_bSaveAndValidate ? missing : WholeVariable(pTable, nID, missing);
     exchange(value);
     if (pDX->m_bSaveAndValidate) ::TableSetIntVar(pTable, Key(nID), value);
@@ -131,13 +131,13 @@ int DDX_TextVarDeviceInches(int bReport, CDataExchange* pDX, unsigned int nIDC, 
 }
 
 int DDX_CheckVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID) {
-    return ExchangeWhole(pDX, pTable, nID, 0,
-                         [&](int& value) { DDX_Check(bReport, pDX, static_cast<int>(nIDC), value); });
+    return ExchangeInteger(pDX, pTable, nID, 0,
+                           [&](int& value) { DDX_Check(bReport, pDX, static_cast<int>(nIDC), value); });
 }
 
 int DDX_RadioVarInt(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID) {
-    return ExchangeWhole(pDX, pTable, nID, -1,
-                         [&](int& value) { DDX_Radio(bReport, pDX, static_cast<int>(nIDC), value); });
+    return ExchangeInteger(pDX, pTable, nID, -1,
+                           [&](int& value) { DDX_Radio(bReport, pDX, static_cast<int>(nIDC), value); });
 }
 
 int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID,
@@ -151,7 +151,7 @@ int DDX_RadioVarIntMap(int bReport, CDataExchange* pDX, unsigned int nIDC, Table
 
 int DDX_CBVarIndex(int bReport, CDataExchange* pDX, unsigned int nIDC, TableStruct* pTable, unsigned long nID,
                    int nBase, int nMax, int nDefault) {
-    return ExchangeWhole(pDX, pTable, nID, 0, [&](int& value) {
+    return ExchangeInteger(pDX, pTable, nID, 0, [&](int& value) {
         int index = value - nBase;
         DDX_CBIndex(bReport, pDX, static_cast<int>(nIDC), index);
         value = index + nBase;

@@ -33,12 +33,12 @@ ORLO_CONSTANT char kPropTextFormat[] = "TextFormat";       // kTextLeft, kTextCe
 #include <string_view>
 
 // The type of a value, as its variant type number.
-enum class PropertyType : int { Int = 3, Real = 5, Text = 8, Switch = 11, Word = 18, Whole = 19 };
+enum class PropertyType : int { Int32 = 3, Double = 5, Text = 8, Bool = 11, UInt16 = 18, UInt32 = 19 };
 
 // The meaning of a value.
 enum class PropertyMeaning {
     Number,
-    Switch, // 0 or 1
+    Flag, // 0 or 1
     Text,
     Color,
     LineStyle, // an entry of the table or a marker; also the following ones
@@ -72,33 +72,33 @@ struct PropertyInfo {
     double high = 0x1.fffffffffffffp1023;
 
     constexpr bool IsText() const { return type == PropertyType::Text; }
-    constexpr bool IsReal() const { return type == PropertyType::Real; }
+    constexpr bool IsReal() const { return type == PropertyType::Double; }
 };
 
 // All properties, sorted by name.
 //
 //   for (const PropertyInfo& property : kPropertyList) ...
 constexpr PropertyInfo kPropertyList[] = {
-    {kPropBrushAngle, PropertyType::Real, PropertyMeaning::Angle, PropertyPart::Brush, kOfShapes, true,
+    {kPropBrushAngle, PropertyType::Double, PropertyMeaning::Angle, PropertyPart::Brush, kOfShapes, true,
      -0x1.fffffffffffffp1023},
-    {kPropBrushColor, PropertyType::Whole, PropertyMeaning::Color, PropertyPart::Brush, kOfShapes, true},
-    {kPropBrushDrawMode, PropertyType::Int, PropertyMeaning::DrawMode, PropertyPart::Brush, kOfShapes, true, 0, 1},
-    {kPropBrushScale, PropertyType::Real, PropertyMeaning::Number, PropertyPart::Brush, kOfShapes, true},
-    {kPropBrushStyle, PropertyType::Whole, PropertyMeaning::BrushStyle, PropertyPart::Brush, kOfShapes, true},
-    {kPropHatchCross, PropertyType::Switch, PropertyMeaning::Switch, PropertyPart::Brush, kOfShapes, true, 0, 1},
+    {kPropBrushColor, PropertyType::UInt32, PropertyMeaning::Color, PropertyPart::Brush, kOfShapes, true},
+    {kPropBrushDrawMode, PropertyType::Int32, PropertyMeaning::DrawMode, PropertyPart::Brush, kOfShapes, true, 0, 1},
+    {kPropBrushScale, PropertyType::Double, PropertyMeaning::Number, PropertyPart::Brush, kOfShapes, true},
+    {kPropBrushStyle, PropertyType::UInt32, PropertyMeaning::BrushStyle, PropertyPart::Brush, kOfShapes, true},
+    {kPropHatchCross, PropertyType::Bool, PropertyMeaning::Flag, PropertyPart::Brush, kOfShapes, true, 0, 1},
     {kPropInfo, PropertyType::Text, PropertyMeaning::Text, PropertyPart::General, kOfAll, false},
-    {kPropLayer, PropertyType::Whole, PropertyMeaning::Layer, PropertyPart::General, kOfAll, true},
-    {kPropPenAlignment, PropertyType::Switch, PropertyMeaning::Switch, PropertyPart::Pen, kOfShapes, true, 0, 1},
-    {kPropPenColor, PropertyType::Whole, PropertyMeaning::Color, PropertyPart::Pen, kOfAll, true},
-    {kPropPenScale, PropertyType::Real, PropertyMeaning::Number, PropertyPart::Pen, kOfShapes, true},
-    {kPropPenStyle, PropertyType::Whole, PropertyMeaning::LineStyle, PropertyPart::Pen, kOfShapes | kOfInserts, true},
-    {kPropPenWidth, PropertyType::Real, PropertyMeaning::Width, PropertyPart::Pen, kOfShapes, true},
-    {kPropScaleSystem, PropertyType::Word, PropertyMeaning::ScaleSystem, PropertyPart::Pen, kOfShapes, true},
-    {kPropStyleTree, PropertyType::Whole, PropertyMeaning::Block, PropertyPart::General, kOfAll, false},
+    {kPropLayer, PropertyType::UInt32, PropertyMeaning::Layer, PropertyPart::General, kOfAll, true},
+    {kPropPenAlignment, PropertyType::Bool, PropertyMeaning::Flag, PropertyPart::Pen, kOfShapes, true, 0, 1},
+    {kPropPenColor, PropertyType::UInt32, PropertyMeaning::Color, PropertyPart::Pen, kOfAll, true},
+    {kPropPenScale, PropertyType::Double, PropertyMeaning::Number, PropertyPart::Pen, kOfShapes, true},
+    {kPropPenStyle, PropertyType::UInt32, PropertyMeaning::LineStyle, PropertyPart::Pen, kOfShapes | kOfInserts, true},
+    {kPropPenWidth, PropertyType::Double, PropertyMeaning::Width, PropertyPart::Pen, kOfShapes, true},
+    {kPropScaleSystem, PropertyType::UInt16, PropertyMeaning::ScaleSystem, PropertyPart::Pen, kOfShapes, true},
+    {kPropStyleTree, PropertyType::UInt32, PropertyMeaning::Block, PropertyPart::General, kOfAll, false},
     {kPropTextFont, PropertyType::Text, PropertyMeaning::Text, PropertyPart::Text, kOfTexts, true},
-    {kPropTextFormat, PropertyType::Word, PropertyMeaning::TextFormat, PropertyPart::Text, kOfTexts, true, 0, 2},
-    {kPropTextSize, PropertyType::Real, PropertyMeaning::Length, PropertyPart::Text, kOfTexts, true, 0x1p-1074},
-    {kPropTextStyle, PropertyType::Word, PropertyMeaning::TextStyle, PropertyPart::Text, kOfTexts, true, 0, 0xFFFF},
+    {kPropTextFormat, PropertyType::UInt16, PropertyMeaning::TextFormat, PropertyPart::Text, kOfTexts, true, 0, 2},
+    {kPropTextSize, PropertyType::Double, PropertyMeaning::Length, PropertyPart::Text, kOfTexts, true, 0x1p-1074},
+    {kPropTextStyle, PropertyType::UInt16, PropertyMeaning::TextStyle, PropertyPart::Text, kOfTexts, true, 0, 0xFFFF},
 };
 
 // Returns the description of a property; null if there is no such property.

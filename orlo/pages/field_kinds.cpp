@@ -273,7 +273,7 @@ void EnableField(HWND page, const Field& field, bool enable) {
 void ClearField(HWND page, const Field& field) {
     const HWND control = ::GetDlgItem(page, field.id);
     if (::SendMessageA(control, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON)
-        for (int i = 0; i < static_cast<int>(kMostRadioButtons); ++i)
+        for (int i = 0; i < static_cast<int>(kMaxRadioButtons); ++i)
             ::SendDlgItemMessageA(page, field.id + i, BM_SETCHECK, BST_UNCHECKED, 0);
     else
         ShowBlank(control);
@@ -347,8 +347,8 @@ constexpr DWORD kDrawnCombo = kCombo | WS_BORDER | CBS_OWNERDRAWVARIABLE | CBS_H
 constexpr DWORD kDrawnList = kDrawnCombo | CBS_DROPDOWNLIST;
 constexpr short kLine = 13, kBox = 11, kSeveral = 44, kList = 87, kButton = 14, kNone = 0;
 
-constexpr double kLeastScale = 1e-7, kMostScale = 1e7;
-constexpr double kLeastHeight = 1e-7, kMostHeight = 1e38;
+constexpr double kMinScale = 1e-7, kMaxScale = 1e7;
+constexpr double kMinHeight = 1e-7, kMaxHeight = 1e38;
 
 using Text = Value<CString, TransferText>;
 using Integer = Value<int, TransferInteger>;
@@ -383,7 +383,7 @@ const KindTraits kKinds[] = {
     OfEdit<Number>(VT_R8, NumberText),
     OfEdit<Length>(VT_R8, LengthText),
     OfEdit<Angle>(VT_R8, AngleText),
-    OfEdit<Scale>(VT_R8, NumberText, kLeastScale, kMostScale),
+    OfEdit<Scale>(VT_R8, NumberText, kMinScale, kMaxScale),
     {VT_BOOL, "BUTTON", kStop | BS_AUTOCHECKBOX | BS_MULTILINE | BS_NOTIFY, kBox, kNone, false, nullptr,
      Check::Exchange, Check::Preview, nullptr, 0, 0},
     {VT_I4, "COMBOBOX", kCombo | CBS_DROPDOWNLIST, kLine, kList, true, nullptr, List::Exchange, List::Preview, nullptr,
@@ -395,7 +395,7 @@ const KindTraits kKinds[] = {
     OfCombo<Entry, CBrushStyleControlC>(VT_UI4),
     OfCombo<Face, CFontFaceControl>(VT_BSTR, kDrawnList | CBS_SORT),
     {VT_R8, "COMBOBOX", kDrawnCombo | CBS_DROPDOWN | CBS_AUTOHSCROLL, kLine, kNone, true, Make<CFontSizeControl>,
-     FontHeight::Exchange, FontHeight::Preview, LengthText, kLeastHeight, kMostHeight},
+     FontHeight::Exchange, FontHeight::Preview, LengthText, kMinHeight, kMaxHeight},
     {VT_EMPTY, "BUTTON", kStop | BS_PUSHBUTTON | BS_NOTIFY, kButton, kNone, false, nullptr, nullptr, nullptr, nullptr,
      0, 0},
     {VT_EMPTY, "STATIC", WS_GROUP | SS_NOPREFIX, kNone, kNone, false, nullptr, nullptr, nullptr, nullptr, 0, 0},
@@ -418,7 +418,7 @@ const KindTraits kRadioKind = {VT_I4,
 } // namespace
 
 bool IsRadioChoice(const FieldRow& row) {
-    return row.kind == FieldKind::Choice && row.choices.size() <= kMostRadioButtons;
+    return row.kind == FieldKind::Choice && row.choices.size() <= kMaxRadioButtons;
 }
 
 const KindTraits& TraitsOf(const FieldRow& row) {

@@ -53,6 +53,6 @@ struct KindTraits {
 // Returns the traits of the row's kind, which must be valid.
 const KindTraits& TraitsOf(const FieldRow& row);
 
-constexpr size_t kMostRadioButtons = 3;
+constexpr size_t kMaxRadioButtons = 3;
 // Returns whether the row is shown as radio buttons.
 bool IsRadioChoice(const FieldRow& row);

@@ -65,8 +65,8 @@ constexpr RowRule kRowRules[] = {
 
 const FieldTable& RequireValid(unsigned int page, const FieldTable& table) {
     if (page < 1 || page > kLastPage) throw std::invalid_argument("the page number is not from 1 to 28999");
-    if (table.rows.empty() || table.rows.size() > CFieldPage::kMostRows)
-        throw std::invalid_argument("the table does not have 1 to " + std::to_string(CFieldPage::kMostRows) + " rows");
+    if (table.rows.empty() || table.rows.size() > CFieldPage::kMaxRows)
+        throw std::invalid_argument("the table does not have 1 to " + std::to_string(CFieldPage::kMaxRows) + " rows");
     std::set<std::string> properties;
     for (size_t i = 0; i < table.rows.size(); ++i) {
         const FieldRow& row = table.rows[i];

@@ -25,13 +25,13 @@ class ORLO_API CFieldPage : public CGraphicPropertyPage {
 
 public:
     // nPage identifies the page in its sheet like the number of a dialog template: 1 to 28999. Throws
-    // std::invalid_argument with a message that names the row if the table is invalid: no rows or more than kMostRows,
+    // std::invalid_argument with a message that names the row if the table is invalid: no rows or more than kMaxRows,
     // an unknown kind, a label or a property that is missing or not allowed, two rows with the same property, reversed
     // limits, a choice without texts, `set` without `get`, a button without `press`.
     CFieldPage(unsigned int nPage, FieldTable table);
     ~CFieldPage() override;
 
-    static constexpr size_t kMostRows = 1000;
+    static constexpr size_t kMaxRows = 1000;
 
     // Returns the control identifier of the row with that index in the table: of its field, or of the first of its
     // radio buttons.

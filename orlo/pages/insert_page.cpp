@@ -27,7 +27,7 @@ IMPLEMENT_DYNAMIC(CInsertPage, CGraphicPropertyPage)
 
 namespace {
 
-constexpr double kMostScale = 1000.0;
+constexpr double kMaxScale = 1000.0;
 constexpr double kFarthest = 1e38;
 
 // Calls visit for each insertion of the set until it returns false. visit can clear withRotationZ for the following
@@ -71,9 +71,9 @@ struct CInsertPage::Field {
 
 // In the order of the exchange.
 const CInsertPage::Field CInsertPage::kFields[9] = {
-    {IDC_SCALE_X, &CInsertPage::m_dScaleX, &InsertParts::scale, 0, kMostScale},
-    {IDC_SCALE_Y, &CInsertPage::m_dScaleY, &InsertParts::scale, 1, kMostScale},
-    {IDC_SCALE_Z, &CInsertPage::m_dScaleZ, &InsertParts::scale, 2, kMostScale},
+    {IDC_SCALE_X, &CInsertPage::m_dScaleX, &InsertParts::scale, 0, kMaxScale},
+    {IDC_SCALE_Y, &CInsertPage::m_dScaleY, &InsertParts::scale, 1, kMaxScale},
+    {IDC_SCALE_Z, &CInsertPage::m_dScaleZ, &InsertParts::scale, 2, kMaxScale},
     {IDC_POSITION_X, &CInsertPage::m_dPositionX, &InsertParts::position, 0, kFarthest},
     {IDC_POSITION_Y, &CInsertPage::m_dPositionY, &InsertParts::position, 1, kFarthest},
     {IDC_POSITION_Z, &CInsertPage::m_dPositionZ, &InsertParts::position, 2, kFarthest},

@@ -22,8 +22,8 @@ IMPLEMENT_DYNAMIC(CLinePage, CGraphicPropertyPage)
 namespace {
 
 constexpr double kWidest = 1e38;
-constexpr double kLeastScale = 1e-7;
-constexpr double kMostScale = 1e7;
+constexpr double kMinScale = 1e-7;
+constexpr double kMaxScale = 1e7;
 
 } // namespace
 
@@ -72,7 +72,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
     if (IsEdited(IDC_PEN_SCALE) && !IsNearlyIndeterminate(m_dScale))
-        DDV_MinMaxDouble(1, pDX, m_dScale, kLeastScale, kMostScale);
+        DDV_MinMaxDouble(1, pDX, m_dScale, kMinScale, kMaxScale);
 
     DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, kPropPenStyle);
     DDX_ConvertLStyle(1, pDX, m_nStyle);
@@ -155,7 +155,7 @@ const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
      [](CLinePage& page, CDataExchange* pDX, int) {
          double scale = 0.0;
          if (DDX_Text(0, pDX, IDC_PEN_SCALE, scale) && !IsNearlyIndeterminate(scale) &&
-             DDV_MinMaxDouble(0, pDX, scale, kLeastScale, kMostScale))
+             DDV_MinMaxDouble(0, pDX, scale, kMinScale, kMaxScale))
              page.SetPropText(kPropPenScale, scale, 1);
      }},
     {{IDC_LINE_STYLE_LIST},

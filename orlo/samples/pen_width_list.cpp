@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int kEntrySize = 256;
-constexpr int kMostAliases = 100; // limit that ends circular aliases
+constexpr int kMaxAliases = 100; // limit that ends circular aliases
 constexpr char kAlias = '*';
 constexpr int kNumberSize = 32; // buffer size for DoubleToString
 constexpr int kDigits = 15;
@@ -50,7 +50,7 @@ const char* CPenWidthList::First(AppStruct* application, TableStruct* units, con
 
 // Follows aliases to a list and sets m_szUnit to the key of the list.
 bool CPenWidthList::ReadEntry(const char* path, const char* section) {
-    for (int step = 0; step < kMostAliases; ++step) {
+    for (int step = 0; step < kMaxAliases; ++step) {
         char* text = m_strBuffer.GetBuffer(kEntrySize);
         const DWORD length = ::GetPrivateProfileStringA(section, m_szUnit, "", text, kEntrySize, path);
         m_strBuffer.ReleaseBuffer(static_cast<int>(length));

@@ -17,10 +17,10 @@ constexpr uint32_t kInfoHeader = 40;
 constexpr uint32_t kLaterHeaders[] = {52, 56, 108, 124};
 
 constexpr size_t kMaskBytes = 12;
-constexpr uint32_t kMostColors = 256;
+constexpr uint32_t kMaxColors = 256;
 // Limit needed because a few bytes of run-length data can describe any number of pixels, and the system allocates
 // memory for each.
-constexpr uint64_t kMostRunLengthPixels = 1u << 24;
+constexpr uint64_t kMaxRunLengthPixels = 1u << 24;
 
 struct Header {
     DibLayout layout;
@@ -83,7 +83,7 @@ bool CompressionFits(const DibLayout& layout) {
 // Returns the number of bytes between header and pixels, or nothing if the table is larger than any picture needs.
 std::optional<size_t> TableBytes(const Header& header, DibColors colors) {
     const DibLayout& layout = header.layout;
-    const uint32_t nameable = layout.bitsPerPixel <= 8 ? 1u << layout.bitsPerPixel : kMostColors;
+    const uint32_t nameable = layout.bitsPerPixel <= 8 ? 1u << layout.bitsPerPixel : kMaxColors;
     if (header.colorsUsed > nameable) return std::nullopt;
     uint32_t count = header.colorsUsed;
     if (count == 0 && layout.bitsPerPixel <= 8) count = nameable;
@@ -97,7 +97,7 @@ bool RunLengthPasses(const uint8_t* pixels, size_t left, uint32_t imageBytes, co
     if (imageBytes == 0 || imageBytes > left) return false;
     const uint64_t area = static_cast<uint64_t>(layout.width) * static_cast<uint64_t>(layout.height);
     const auto skip = [](const RunOfPixels&) {};
-    return area <= kMostRunLengthPixels && WalkRunLength(pixels, imageBytes, layout, skip);
+    return area <= kMaxRunLengthPixels && WalkRunLength(pixels, imageBytes, layout, skip);
 }
 
 } // namespace

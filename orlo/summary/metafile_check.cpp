@@ -348,11 +348,11 @@ private:
 
     // A few bytes of run-length data can create a large pattern, and all patterns may exist at the same time.
     bool PatternFits(const Parameters& p) {
-        constexpr uint64_t kMostPixels = 1u << 24;
+        constexpr uint64_t kMaxPixels = 1u << 24;
         const auto layout = TaggedBitmapIn(p, 1, 2);
         if (!layout) return false;
         const uint64_t pixels = uint64_t(layout->width) * uint64_t(layout->height);
-        if (pixels > kMostPixels - patternPixels_) return false;
+        if (pixels > kMaxPixels - patternPixels_) return false;
         patternPixels_ += pixels;
         return true;
     }

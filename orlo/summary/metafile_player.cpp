@@ -14,7 +14,7 @@ namespace {
 // lines before clipping, with an entry per line of pixels, and fails for distant coordinates.
 constexpr double kFarthest = 1 << 15;
 // Limit for the total pixels covered by the glyphs of a picture, since each is cached as a bitmap.
-constexpr double kMostGlyphPixels = 1 << 26;
+constexpr double kMaxGlyphPixels = 1 << 26;
 
 // Scale and offset of one axis from logical units to device pixels, without the sign.
 struct Axis {
@@ -150,7 +150,7 @@ private:
         return true;
     }
 
-    double glyphPixels_ = kMostGlyphPixels;
+    double glyphPixels_ = kMaxGlyphPixels;
 };
 
 int CALLBACK PlayRecord(HDC dc, HANDLETABLE* objects, METARECORD* record, int count, LPARAM player) {

@@ -8,7 +8,7 @@
 namespace orlo {
 namespace {
 
-constexpr size_t kMost = size_t{256} << 20;
+constexpr size_t kMax = size_t{256} << 20;
 
 bool CanBeRead(const MEMORY_BASIC_INFORMATION& pages) {
     constexpr DWORD kReadable = PAGE_READONLY | PAGE_READWRITE | PAGE_WRITECOPY | PAGE_EXECUTE_READ |
@@ -22,13 +22,13 @@ Readable ReadableFrom(const void* address) {
     const auto start = reinterpret_cast<uintptr_t>(address);
     uintptr_t end = start;
     MEMORY_BASIC_INFORMATION pages;
-    while (end - start < kMost && ::VirtualQuery(reinterpret_cast<void*>(end), &pages, sizeof pages) == sizeof pages &&
+    while (end - start < kMax && ::VirtualQuery(reinterpret_cast<void*>(end), &pages, sizeof pages) == sizeof pages &&
            CanBeRead(pages)) {
         const uintptr_t next = reinterpret_cast<uintptr_t>(pages.BaseAddress) + pages.RegionSize;
         if (next <= end) break;
         end = next;
     }
-    return {static_cast<const uint8_t*>(address), std::min<size_t>(end - start, kMost)};
+    return {static_cast<const uint8_t*>(address), std::min<size_t>(end - start, kMax)};
 }
 
 } // namespace orlo

@@ -398,7 +398,7 @@ TEST_F(Saving, MissingRecentFilesAreRemoved) {
     }
     const std::vector<std::string> files = RecentFiles::List();
     ASSERT_GE(files.size(), 2u);
-    EXPECT_LE(files.size(), RecentFiles::kMost);
+    EXPECT_LE(files.size(), RecentFiles::kMax);
     EXPECT_EQ(files[1], gone);
     MessageBoxWatcher boxes;
     ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST + 1, 0);

@@ -55,7 +55,7 @@ public:
 
     std::vector<Difference::Value> Compare(const dxf::EntityRef& one, const dxf::EntityRef& other) const {
         std::vector<Difference::Value> values;
-        if (!before_.IsLike(one, after_, other)) AddValues(one, other, Compared::properties, values);
+        if (!before_.HasSameProperties(one, after_, other)) AddValues(one, other, Compared::properties, values);
         if (compared_ == Compared::properties || before_.IsStoredLike(one, after_, other)) return values;
         const size_t properties = values.size();
         AddValues(one, other, Compared::all, values);
@@ -75,8 +75,8 @@ private:
         for (const std::string& name : dxf::DocumentReader::PropertyNames()) {
             isOfSheet = isOfSheet && name != "Tag";
             if (isOfSheet != (part == Compared::properties) || !dxf::DocumentReader::Has(one, name)) continue;
-            const std::string was = before_.GetWithVariety(one, name);
-            const std::string is = dxf::DocumentReader::Has(other, name) ? after_.GetWithVariety(other, name) : "";
+            const std::string was = before_.GetForDisplay(one, name);
+            const std::string is = dxf::DocumentReader::Has(other, name) ? after_.GetForDisplay(other, name) : "";
             if (was != is) values.push_back({name, was, is});
         }
     }
@@ -97,12 +97,12 @@ private:
     // Groups that differ: "10 1.500000".
     void AddShape(const dxf::EntityRef& one, const dxf::EntityRef& other, const std::set<std::string>& reported,
                   std::vector<Difference::Value>& values) const {
-        constexpr size_t kMost = 8;
+        constexpr size_t kMax = 8;
         const std::vector<std::string> was = RestOf(before_.ShapeOf(one), reported);
         const std::vector<std::string> is = RestOf(after_.ShapeOf(other), reported);
         std::string before, after;
         size_t count = 0;
-        for (size_t i = 0; i < std::max(was.size(), is.size()) && count < kMost; ++i) {
+        for (size_t i = 0; i < std::max(was.size(), is.size()) && count < kMax; ++i) {
             const std::string first = i < was.size() ? was[i] : "", second = i < is.size() ? is[i] : "";
             if (first == second) continue;
             ++count;
@@ -264,7 +264,7 @@ SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& 
     for (const std::string& wanted : layers) {
         size_t count = 0;
         for (const std::string& name : existing)
-            if (IsLike(name, wanted) && ++count > 0) chosen.insert(name);
+            if (MatchesWildcards(name, wanted) && ++count > 0) chosen.insert(name);
         if (count == 0 && !cli::HasWildcard(wanted) && isNew && chosen.insert(wanted).second) ++count;
         if (count == 0 && !cli::HasWildcard(wanted)) throw dxf::SaveError("layer '" + wanted + "' does not exist");
     }

@@ -103,7 +103,7 @@ bool IsInOrder(Comparison comparison, double a, double b) {
 
 } // namespace
 
-bool IsLike(const std::string& text, const std::string& pattern) {
+bool MatchesWildcards(const std::string& text, const std::string& pattern) {
     const std::u32string folded = FoldedUnits(text), wanted = FoldedUnits(pattern);
     return cli::MatchesWildcard<char32_t>(wanted, folded, std::equal_to<char32_t>());
 }
@@ -136,7 +136,7 @@ const std::string& ConditionTest::Normalized(const dxf::EntityRef& entity, const
 
 bool ConditionTest::Fits(const dxf::EntityRef& entity, const Condition& condition, const std::string& text,
                          const std::string& wanted) {
-    if (condition.comparison == Comparison::like) return IsLike(text, wanted);
+    if (condition.comparison == Comparison::like) return MatchesWildcards(text, wanted);
     if (IsOrdering(condition.comparison)) {
         const auto is = drawing_.NumberOf(entity, condition.name, text);
         const auto limit = drawing_.NumberOf(entity, condition.name, wanted);

@@ -47,7 +47,7 @@ private:
 };
 
 // Returns whether the text meets a name with wildcards, whatever its case.
-bool IsLike(const std::string& text, const std::string& pattern);
+bool MatchesWildcards(const std::string& text, const std::string& pattern);
 
 // Returns the name of a property or, if allowed, of a condition as it is written. Throws std::invalid_argument.
 std::string RequireName(const std::string& name, bool allowConditions);

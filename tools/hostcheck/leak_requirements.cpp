@@ -5,8 +5,8 @@
 namespace {
 
 constexpr int kCalls = 1000;
-constexpr ULONGLONG kMostTime = 5000; // milliseconds, within the time limit of a check
-constexpr int kMostBytes = 24;        // for each call: a table can keep a pointer for each identifier that was in use
+constexpr ULONGLONG kMaxTime = 5000; // milliseconds, within the time limit of a check
+constexpr int kMaxBytes = 24;        // for each call: a table can keep a pointer for each identifier that was in use
 
 // Returns the bytes of all blocks on all heaps of the process.
 size_t HeapBytes() {
@@ -38,14 +38,14 @@ void RequireNothingLeft(Action action) {
         action();
     const size_t bytes = HeapBytes();
     const int objects = GdiObjects();
-    const ULONGLONG end = ::GetTickCount64() + kMostTime;
+    const ULONGLONG end = ::GetTickCount64() + kMaxTime;
     int calls = 0;
     for (; calls < kCalls && ::GetTickCount64() < end; ++calls)
         action();
     const int leftObjects = GdiObjects() - objects;
     const auto leftBytes = static_cast<ptrdiff_t>(HeapBytes() - bytes);
     Require(leftObjects * 2 < calls, "%d calls leave %d GDI objects behind", calls, leftObjects);
-    Require(leftBytes < calls * kMostBytes, "%d calls leave %td bytes behind", calls, leftBytes);
+    Require(leftBytes < calls * kMaxBytes, "%d calls leave %td bytes behind", calls, leftBytes);
 }
 
 void FreesStrings(const Subject& s) {

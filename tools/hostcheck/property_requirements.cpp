@@ -159,9 +159,17 @@ void DistinguishesCase(const Subject& s) {
     });
 }
 
+bool IsLineStyleMarker(uint64_t value) {
+    return value == kLineStyleNone || value == kLineStyleByLayer || value == kLineStyleByBlock;
+}
+
 bool IsEntry(const Subject& s, const char* table, uint64_t value) {
     const auto entries = s.Entries(s.Table(table));
     return std::find(entries.begin(), entries.end(), value) != entries.end();
+}
+
+bool IsColor(uint64_t value) {
+    return value <= 0xFFFFFF || value == kColorByLayer || value == kColorByBlock;
 }
 
 // Returns whether a value is one that the page of the property can show.
@@ -170,15 +178,13 @@ bool IsMeaningful(const Subject& s, const PropertyInfo& info, uint64_t value) {
     case PropertyMeaning::Layer:
         return IsEntry(s, kTableLayers, value);
     case PropertyMeaning::LineStyle:
-        return value == kLineStyleNone || value == kLineStyleByLayer || value == kLineStyleByBlock ||
-               IsEntry(s, kTableLineStyles, value);
+        return IsLineStyleMarker(value) || IsEntry(s, kTableLineStyles, value);
     case PropertyMeaning::BrushStyle:
         return value == kBrushStyleNone || IsEntry(s, kTableBrushStyles, value);
     case PropertyMeaning::Block:
         return value == 0 || IsEntry(s, kTableBlocks, value);
     case PropertyMeaning::Color:
-        return value <= 0xFFFFFF || value == kColorByLayer || value == kColorByBlock ||
-               (value == kColorOfPen && info.part == PropertyPart::Brush);
+        return IsColor(value) || (value == kColorOfPen && info.part == PropertyPart::Brush);
     case PropertyMeaning::ScaleSystem:
         return value == kScaleWorld || value == kScalePaper;
     default:

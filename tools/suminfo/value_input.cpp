@@ -31,7 +31,7 @@ constexpr std::array kTypeWords = {
 }
 
 template <typename Number>
-Number Whole(const std::string& text, const char* kind) {
+Number ParseInteger(const std::string& text, const char* kind) {
     Number number = 0;
     const char* end = text.data() + text.size();
     const auto [stopped, error] = std::from_chars(text.data(), end, number);
@@ -66,7 +66,7 @@ uint64_t Now() {
 constexpr struct {
     uint32_t type;
     const char* kind;
-} kFormatted[] = {
+} kFormats[] = {
     {VT_FILETIME, "date (2001-02-03 or 2001-02-03T04:05:06Z)"},
     {VT_DATE, "date (2001-02-03 or 2001-02-03 04:05:06)"},
     {VT_I8, "whole number"},
@@ -74,10 +74,10 @@ constexpr struct {
     {VT_CLSID, "class ID"},
 };
 
-orlo::Value ParseFormatted(uint32_t type, const std::string& text) {
-    const auto* form = std::find_if(std::begin(kFormatted), std::end(kFormatted),
-                                    [type](const auto& one) { return one.type == type; });
-    if (form == std::end(kFormatted))
+orlo::Value ParseByFormat(uint32_t type, const std::string& text) {
+    const auto* form =
+        std::find_if(std::begin(kFormats), std::end(kFormats), [type](const auto& one) { return one.type == type; });
+    if (form == std::end(kFormats))
         throw Failure("values of type " + orlo::TypeName(type) + " cannot be entered as text");
     uint8_t element[16];
     orlo::Value value;
@@ -99,18 +99,18 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
         value.data = text;
         return value;
     case VT_I2:
-        value.data = int64_t{Whole<int16_t>(text, "16-bit integer")};
+        value.data = int64_t{ParseInteger<int16_t>(text, "16-bit integer")};
         return value;
     case VT_I4:
     case VT_INT:
-        value.data = int64_t{Whole<int32_t>(text, "whole number")};
+        value.data = int64_t{ParseInteger<int32_t>(text, "whole number")};
         return value;
     case VT_UI2:
-        value.data = uint64_t{Whole<uint16_t>(text, "non-negative 16-bit integer")};
+        value.data = uint64_t{ParseInteger<uint16_t>(text, "non-negative 16-bit integer")};
         return value;
     case VT_UI4:
     case VT_UINT:
-        value.data = uint64_t{Whole<uint32_t>(text, "non-negative integer")};
+        value.data = uint64_t{ParseInteger<uint32_t>(text, "non-negative integer")};
         return value;
     case VT_R4:
     case VT_R8:
@@ -120,7 +120,7 @@ orlo::Value ParseValue(uint32_t type, const std::string& text) {
         value.data = Truth(text);
         return value;
     default:
-        if (type != VT_FILETIME || !orlo::IsSameName(text, "now")) return ParseFormatted(type, text);
+        if (type != VT_FILETIME || !orlo::IsSameName(text, "now")) return ParseByFormat(type, text);
         value.data = Now();
         return value;
     }
@@ -133,7 +133,7 @@ orlo::Value ParseSpan(const std::string& text) {
     while (begin <= text.size()) {
         if (count == parts.size()) Refuse(text, kKind);
         const size_t end = std::min(text.find(':', begin), text.size());
-        parts[count++] = Whole<uint32_t>(text.substr(begin, end - begin), kKind);
+        parts[count++] = ParseInteger<uint32_t>(text.substr(begin, end - begin), kKind);
         begin = end + 1;
     }
     if (count < 2 || parts[1] > 59 || parts[2] > 59) Refuse(text, kKind);

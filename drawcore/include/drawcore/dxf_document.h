@@ -152,10 +152,10 @@ public:
     // Returns the number that the text represents as a value of the entity, or nullopt if it is not a number.
     std::optional<double> NumberOf(const EntityRef& entity, std::string_view name, const std::string& text) const;
     // Returns the value, followed by " (varies)" if parts of a text have other values.
-    std::string GetWithVariety(const EntityRef& entity, std::string_view name) const;
+    std::string GetForDisplay(const EntityRef& entity, std::string_view name) const;
     // Returns whether two entities of two documents have the same properties of the sheet. Numbers may differ by
     // rounding.
-    bool IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
+    bool HasSameProperties(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
     // Returns the coordinates, lengths and texts of the entity as stored, for comparison: two entities with the same
     // shape have equal ones.
     std::vector<std::string> ShapeOf(const EntityRef& entity) const;

@@ -171,13 +171,14 @@ std::optional<double> DocumentReader::NumberOf(const EntityRef& entity, std::str
     return PropertyTexts::NumberOf(name, appearance);
 }
 
-std::string DocumentReader::GetWithVariety(const EntityRef& entity, std::string_view name) const {
+std::string DocumentReader::GetForDisplay(const EntityRef& entity, std::string_view name) const {
     if (EntityTexts::IsName(name)) return entityTexts_->Get(name, *entity.entity_);
     const bool varies = AppearanceOf(*document_, *entity.entity_).varied & VariedBit(name);
     return Get(entity, name) + (varies ? " (varies)" : "");
 }
 
-bool DocumentReader::IsLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const {
+bool DocumentReader::HasSameProperties(const EntityRef& entity, const DocumentReader& other,
+                                       const EntityRef& otherEntity) const {
     return SameAppearance(*document_, AppearanceOf(*document_, *entity.entity_), *other.document_,
                           AppearanceOf(*other.document_, *otherEntity.entity_));
 }

@@ -29,7 +29,7 @@ const Words kTextStyles = {
 
 const std::vector<PropertyWord>& WordsOf(PropertyMeaning meaning) {
     switch (meaning) {
-    case PropertyMeaning::Switch:
+    case PropertyMeaning::Flag:
         return kSwitches;
     case PropertyMeaning::Color:
         return kColors;

@@ -10,7 +10,7 @@ namespace orlo {
 
 class Report {
 public:
-    explicit Report(std::vector<Finding>& findings) : findings_(findings), most_(findings.size() + kMost) {}
+    explicit Report(std::vector<Finding>& findings) : findings_(findings), most_(findings.size() + kMax) {}
 
     // Adds a finding whose text is the concatenation of the parts. The offset is relative to the start of the stream.
     template <class... Parts>
@@ -31,7 +31,7 @@ public:
     }
 
 private:
-    static constexpr size_t kMost = 1000; // a malicious stream could cause ten findings per eight bytes
+    static constexpr size_t kMax = 1000; // a malicious stream could cause ten findings per eight bytes
 
     std::vector<Finding>& findings_;
     size_t most_;
