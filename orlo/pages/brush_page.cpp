@@ -20,6 +20,7 @@
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/preview_rows.h"
+#include "orlo/pages/scale_limits.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
@@ -32,8 +33,6 @@ namespace {
 
 constexpr unsigned int kSolid = 1;
 
-constexpr double kMinScale = 1e-7;
-constexpr double kMaxScale = 1e7;
 constexpr double kLinesAcrossPreview = 20.0;
 
 // Draw mode per radio button: none, winding, alternate.
@@ -103,7 +102,7 @@ void CBrushPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_BRUSH_SCALE, m_dScale, kPropBrushScale);
     DDX_TextScale(1, pDX, IDC_BRUSH_SCALE, m_dScale);
     if (IsEdited(IDC_BRUSH_SCALE) && !IsNearlyIndeterminate(m_dScale))
-        DDV_MinMaxDouble(1, pDX, m_dScale, kMinScale, kMaxScale);
+        DDV_MinMaxDouble(1, pDX, m_dScale, orlo::kMinScale, orlo::kMaxScale);
 
     DDP_Text(pDX, IDC_BRUSH_STYLE_LIST, m_nStyle, kPropBrushStyle);
     DDX_ConvertStyle(1, pDX, m_nStyle);

@@ -26,6 +26,7 @@
 #include "orlo/host/units.h"
 #include "orlo/pages/angle_text.h"
 #include "orlo/pages/current_drawing.h"
+#include "orlo/pages/scale_limits.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/win/encoded_text.h"
@@ -347,7 +348,6 @@ constexpr DWORD kDrawnCombo = kCombo | WS_BORDER | CBS_OWNERDRAWVARIABLE | CBS_H
 constexpr DWORD kDrawnList = kDrawnCombo | CBS_DROPDOWNLIST;
 constexpr short kLine = 13, kBox = 11, kSeveral = 44, kList = 87, kButton = 14, kNone = 0;
 
-constexpr double kMinScale = 1e-7, kMaxScale = 1e7;
 constexpr double kMinHeight = 1e-7, kMaxHeight = 1e38;
 
 using Text = Value<CString, TransferText>;
@@ -383,7 +383,7 @@ const KindTraits kKinds[] = {
     OfEdit<Number>(VT_R8, NumberText),
     OfEdit<Length>(VT_R8, LengthText),
     OfEdit<Angle>(VT_R8, AngleText),
-    OfEdit<Scale>(VT_R8, NumberText, kMinScale, kMaxScale),
+    OfEdit<Scale>(VT_R8, NumberText, orlo::kMinScale, orlo::kMaxScale),
     {VT_BOOL, "BUTTON", kStop | BS_AUTOCHECKBOX | BS_MULTILINE | BS_NOTIFY, kBox, kNone, false, nullptr,
      Check::Exchange, Check::Preview, nullptr, 0, 0},
     {VT_I4, "COMBOBOX", kCombo | CBS_DROPDOWNLIST, kLine, kList, true, nullptr, List::Exchange, List::Preview, nullptr,

@@ -13,6 +13,7 @@
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/pen_width.h"
 #include "orlo/pages/preview_rows.h"
+#include "orlo/pages/scale_limits.h"
 #include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/vertex_list.h"
@@ -22,8 +23,6 @@ IMPLEMENT_DYNAMIC(CLinePage, CGraphicPropertyPage)
 namespace {
 
 constexpr double kWidest = 1e38;
-constexpr double kMinScale = 1e-7;
-constexpr double kMaxScale = 1e7;
 
 } // namespace
 
@@ -72,7 +71,7 @@ void CLinePage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_PEN_SCALE, m_dScale, kPropPenScale);
     DDX_TextScale(1, pDX, IDC_PEN_SCALE, m_dScale);
     if (IsEdited(IDC_PEN_SCALE) && !IsNearlyIndeterminate(m_dScale))
-        DDV_MinMaxDouble(1, pDX, m_dScale, kMinScale, kMaxScale);
+        DDV_MinMaxDouble(1, pDX, m_dScale, orlo::kMinScale, orlo::kMaxScale);
 
     DDP_Text(pDX, IDC_LINE_STYLE_LIST, m_nStyle, kPropPenStyle);
     DDX_ConvertLStyle(1, pDX, m_nStyle);
@@ -155,7 +154,7 @@ const PreviewRow<CLinePage> CLinePage::Preview::kRows[] = {
      [](CLinePage& page, CDataExchange* pDX, int) {
          double scale = 0.0;
          if (DDX_Text(0, pDX, IDC_PEN_SCALE, scale) && !IsNearlyIndeterminate(scale) &&
-             DDV_MinMaxDouble(0, pDX, scale, kMinScale, kMaxScale))
+             DDV_MinMaxDouble(0, pDX, scale, orlo::kMinScale, orlo::kMaxScale))
              page.SetPropText(kPropPenScale, scale, 1);
      }},
     {{IDC_LINE_STYLE_LIST},
