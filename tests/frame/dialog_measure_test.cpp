@@ -43,6 +43,10 @@ struct Font {
     std::wstring face;
 };
 
+INT_PTR CALLBACK HandlesNothing(HWND, UINT, WPARAM, LPARAM) {
+    return FALSE;
+}
+
 // Returns the size that the system gives to a dialog with that font in bold, in which pages are measured.
 CSize SizeOfDialog(const Font& font, int width, int height) {
     Template dialog;
@@ -52,9 +56,8 @@ CSize SizeOfDialog(const Font& font, int width, int height) {
     dialog.AddLong(DS_SETFONT | WS_POPUP);
     dialog.Add({0, 0, 0, 0, 0, 0, 0, 0, font.points, FW_BOLD, DEFAULT_CHARSET << 8});
     dialog.AddText(font.face);
-    const HWND window = ::CreateDialogIndirectParamA(
-        nullptr, static_cast<const DLGTEMPLATE*>(dialog.Data()), nullptr,
-        [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+    const HWND window = ::CreateDialogIndirectParamA(nullptr, static_cast<const DLGTEMPLATE*>(dialog.Data()), nullptr,
+                                                     HandlesNothing, 0);
     CRect rect(0, 0, width, height);
     ::MapDialogRect(window, rect);
     ::DestroyWindow(window);
