@@ -32,6 +32,7 @@ compare() { # ARGUMENTS...
         if [ -e native.$part ] || [ -e windows.$part ]; then
             if differ windows.$part native.$part; then
                 diff -a windows.$part native.$part | cut -c -300 | head -n 6 || true
+                head -c 300 windows.stderr native.stderr # a status does not say why
                 fail "$*: $part differs"
             fi
         fi
