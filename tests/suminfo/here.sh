@@ -106,6 +106,8 @@ expect "a damaged document" "$(head -c 5000 one.doc | ended suminfo set - title=
     $'1\nsuminfo: -: was not changed: the compound file is damaged'
 expect "two documents" "$(ended suminfo set one.doc two.doc title=x -o both.doc; cat err)" \
     $'2\nsuminfo: -o: only one document can be edited to another file'
+expect "one pipe for two documents" "$(ended suminfo copy - - <one.doc; cat err)" \
+    $'2\nsuminfo: TO: standard input can be read only once'
 expect "a full disk" "$(suminfo set - title=x <one.doc 2>&1 >/dev/full || echo $?)" \
     $'suminfo: -: the output cannot be written: the disk is full\n1'
 expect "a missing folder" "$(ended suminfo set one.doc title=x -o nowhere/new.doc; cat err)" \

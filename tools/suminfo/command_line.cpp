@@ -207,6 +207,8 @@ private:
     void CompleteOutput() {
         const auto& files = line_.files;
         const bool hasInput = std::find(files.begin(), files.end(), kStandardStream) != files.end();
+        if (hasInput && line_.source == kStandardStream)
+            throw CLI::ValidationError("TO", "standard input can be read only once");
         if (hasInput && line_.output.empty()) line_.output = kStandardStream;
         if (line_.output.empty()) return;
         if (files.size() > 1 || line_.recursive)
