@@ -128,6 +128,17 @@ void UserInput::Type(const std::string& text) {
     Wait(m_pause);
 }
 
+HWND UserInput::MoveFocus(HWND window) {
+    m_focus = window;
+    ::SetFocus(window);
+    return Focus();
+}
+
+void UserInput::Replace(HWND field, const std::string& text) {
+    ::SendMessageA(MoveFocus(field), EM_SETSEL, 0, -1);
+    Type(text);
+}
+
 void UserInput::Press(HWND window, CPoint point, unsigned modifiers) {
     ::PostMessageA(window, WM_MOUSEMOVE, MouseFlags(modifiers), At(point));
     ::PostMessageA(window, WM_LBUTTONDOWN, MK_LBUTTON | MouseFlags(modifiers), At(point));

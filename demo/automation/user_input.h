@@ -29,6 +29,12 @@ public:
     void Type(const std::string& text);
     void Mnemonic(char letter); // Alt and the letter
 
+    // Moves the focus, and returns the window that has it then: in a combo box its edit field. If another program takes
+    // the focus before the next key, that key restores it.
+    HWND MoveFocus(HWND window);
+    // Moves the focus to the field and types over its text.
+    void Replace(HWND field, const std::string& text);
+
     // Points are in pixels of the window's client area.
     void Click(HWND window, CPoint point, unsigned modifiers = kNone);
     void Click(HWND window); // in the center

@@ -17,15 +17,14 @@ int Send(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return static_cast<int>(::SendMessageA(window, message, wParam, lParam));
 }
 
-HWND FocusOn(HWND page, int id) {
+HWND FocusOn(UserInput& user, HWND page, int id) {
     const HWND control = ::GetDlgItem(page, id);
-    ::SetFocus(control);
+    user.MoveFocus(control);
     return control;
 }
 
 void TypeOver(UserInput& user, HWND page, int id, const std::string& text) {
-    Send(FocusOn(page, id), EM_SETSEL, 0, -1);
-    user.Type(text);
+    user.Replace(::GetDlgItem(page, id), text);
 }
 
 // Selects the next item, or the previous one at the end; without a selection, the item with that index.
@@ -55,12 +54,12 @@ constexpr PageEdit kEdits[] = {
     {"General", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
     {"Pen",
      [](UserInput& user, HWND page) {
-         const HWND colors = FocusOn(page, IDC_COLOR);
+         const HWND colors = FocusOn(user, page, IDC_COLOR);
          Move(user, colors, CB_GETCURSEL, IndexOfColor(colors, kOrange));
      }},
     {"Brush",
      [](UserInput& user, HWND page) {
-         MoveTo(user, FocusOn(page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDiagonalLines);
+         MoveTo(user, FocusOn(user, page, IDC_BRUSH_STYLE_LIST), LB_GETCURSEL, kDiagonalLines);
          TypeOver(user, page, IDC_BRUSH_SCALE, kWideSpacing);
      }},
     {"Text", [](UserInput& user, HWND page) { user.Click(::GetDlgItem(page, IDC_UNDERLINE)); }},

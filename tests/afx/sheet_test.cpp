@@ -223,7 +223,7 @@ TEST_F(Sheet, TabKeyGoesFromThePageToTheButtonsToTheTabs) {
         ::EnableWindow(::GetDlgItem(sheet.m_hWnd, ID_APPLY_NOW), TRUE);
         user.Focus(IDC_PRESS);
         std::vector<int> order;
-        ::SetFocus(user.Control(IDC_FIELD));
+        user.Focus(IDC_FIELD);
         for (int i = 0; i < 2; ++i)
             user.Key(VK_TAB);
         ::SetFocus(user.Control(IDC_PRESS)); // the multiline edit control handles the key itself

@@ -115,10 +115,7 @@ protected:
     // The host's page is the last one.
     void ShowRoom(HWND window) { ASSERT_TRUE(ClickTab(user, window, static_cast<int>(PageTitles(window).size()) - 1)); }
     void Type(HWND window, int id, const char* text) {
-        const HWND field = ::GetDlgItem(ActivePageOf(window), id);
-        ::SetFocus(field);
-        ::SendMessageA(field, EM_SETSEL, 0, -1);
-        user.Type(text);
+        user.Replace(::GetDlgItem(ActivePageOf(window), id), text);
     }
     std::string Shown(HWND window, int id) { return WindowText(::GetDlgItem(ActivePageOf(window), id)); }
 

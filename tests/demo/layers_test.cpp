@@ -158,7 +158,7 @@ TEST_F(Layers, AreHiddenForSeveralRowsAndRestoredByCancel) {
         InDialog([&](HWND dialog) {
             user.Click(::GetDlgItem(dialog, state)); // in the first row
             EXPECT_NE(ViewPixels(), seen);
-            ::SetFocus(::GetDlgItem(dialog, IDC_LAYER_LIST));
+            user.MoveFocus(::GetDlgItem(dialog, IDC_LAYER_LIST));
             user.Key(VK_DOWN, UserInput::kShift); // both rows
             EXPECT_EQ(Box(dialog, state), BST_INDETERMINATE);
             user.Click(::GetDlgItem(dialog, state));

@@ -31,11 +31,7 @@ protected:
             user.Key(VK_TAB);
         ASSERT_EQ(focused(), id);
     }
-    void TypeScale(const std::string& text) {
-        ::SetFocus(control(IDC_PEN_SCALE));
-        ::SendMessageA(control(IDC_PEN_SCALE), EM_SETSEL, 0, -1);
-        user.Type(text);
-    }
+    void TypeScale(const std::string& text) { user.Replace(control(IDC_PEN_SCALE), text); }
     double ScaleOf(size_t graphic) {
         return *orlo::host::ReadProperty<double>(document().Selectable()[graphic], kPropPenScale);
     }
@@ -155,7 +151,7 @@ TEST_F(Pane, CommitsItsStepBeforeTheModalSheet) {
     for (const UINT end : {VK_ESCAPE, VK_RETURN}) {
         user.InDialog(
             [&] {
-                ::SetFocus(view());
+                user.MoveFocus(view());
                 user.Key(VK_RETURN, UserInput::kAlt);
             },
             [&](HWND modal) {
@@ -163,9 +159,7 @@ TEST_F(Pane, CommitsItsStepBeforeTheModalSheet) {
                 ASSERT_TRUE(ClickTab(user, modal, 1));
                 const HWND scale = ::GetDlgItem(ActivePageOf(modal), IDC_PEN_SCALE);
                 EXPECT_EQ(WindowText(scale), "2");
-                ::SetFocus(scale);
-                ::SendMessageA(scale, EM_SETSEL, 0, -1);
-                user.Type("5");
+                user.Replace(scale, "5");
                 user.Key(end);
             });
         EXPECT_EQ(ScaleOf(0), end == VK_RETURN ? 5 : 2);
@@ -211,7 +205,7 @@ TEST_F(Pane, ShowsTheValuesThatDiffer) {
     };
     user.Key(VK_F6);
     user.Key(VK_TAB, UserInput::kControl);
-    ::SetFocus(control(IDC_PEN_WIDTH)); // its edit field
+    user.MoveFocus(control(IDC_PEN_WIDTH)); // its edit field
     user.Key(VK_END);
     EXPECT_EQ(message(), " Width: 2 x 0 mm, 1 x 10 mm");
     EXPECT_EQ(tip(control(IDC_COLOR)), "Color: 1 x Red, 1 x Green, 1 x Yellow and 1 more");
@@ -226,9 +220,7 @@ TEST_F(Pane, ShowsTheValuesThatDiffer) {
     EXPECT_EQ(tip(control(IDC_UNDERLINE)), "Underline: 1 x Off");
     EXPECT_EQ(tip(control(IDC_JUSTIFY_CENTER)), "Justification: 1 x Left");
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 4");
-    ::SetFocus(control(IDC_FONT_SIZE));
-    ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
-    user.Type("5");
+    user.Replace(control(IDC_FONT_SIZE), "5");
     user.Key(VK_RETURN);
     EXPECT_EQ(tip(control(IDC_FONT_SIZE)), "Height: 1 x 5") << "the pointer has not moved since";
 }
@@ -254,7 +246,7 @@ TEST_F(Pane, PreviewUsesTheColorOfTheLayer) {
     user.Wait(0);
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
     EXPECT_GT(green(), 10);
-    ::SetFocus(view());
+    user.MoveFocus(view());
     user.Key('A', UserInput::kControl); // on two layers
     user.Wait(0);
     ASSERT_TRUE(ClickTab(user, sheet(), 3));
@@ -264,7 +256,7 @@ TEST_F(Pane, PreviewUsesTheColorOfTheLayer) {
 TEST_F(Pane, FiftySelectionsLeakNothing) {
     const auto walk = [&](int count) {
         for (int i = 0; i < count; ++i) {
-            ::SetFocus(view());
+            user.MoveFocus(view());
             user.Key(VK_TAB);
             ClickTab(user, sheet(), i % 2);
         }

@@ -35,10 +35,7 @@ std::string ValueOf(const std::string& page) {
 
 // Edits the page that the viewer makes from a table; the library's pages are edited by page_edits.h.
 void MoveFirstPoints(UserInput& user, HWND page) {
-    const HWND x = ::GetDlgItem(page, CFieldPage::FieldID(3));
-    ::SetFocus(x);
-    ::SendMessageA(x, EM_SETSEL, 0, -1);
-    user.Type("1");
+    user.Replace(::GetDlgItem(page, CFieldPage::FieldID(3)), "1");
 }
 
 } // namespace
@@ -63,7 +60,7 @@ bool RoundTrip::Check(const std::vector<std::string>& drawings) {
 
 bool RoundTrip::CheckOne(const std::string& drawing) {
     m_frame.Show(Document::Open(drawing, [](int) { return true; }));
-    m_frame.View().SetFocus();
+    m_user.MoveFocus(m_frame.View().m_hWnd);
     Document& document = *m_frame.GetDocument();
     const DrawingState before(document.Drawing());
     m_user.Key('A', UserInput::kControl);

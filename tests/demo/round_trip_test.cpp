@@ -1,5 +1,6 @@
 // Edits real drawings on all pages and undoes the edits; also tests that the comparison detects differences.
 
+#include "demo/automation/control_text.h"
 #include "demo/round_trip.h"
 #include "demo/viewer.h"
 #include "drawcore/table.h"
@@ -21,6 +22,16 @@ TEST_F(Viewer, KeysReachOnlyTheWindowThatHadTheFocus) {
     user.Key('A', UserInput::kControl);
     EXPECT_EQ(selection().Count(), 4);
     EXPECT_EQ(::GetFocus(), view());
+
+    const HWND field =
+        ::CreateWindowExA(0, "EDIT", "", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, view(), nullptr, nullptr, nullptr);
+    user.MoveFocus(field);
+    ::SetFocus(nullptr);
+    user.Wait(0);
+    user.Type("x");
+    EXPECT_EQ(WindowText(field), "x");
+    ::DestroyWindow(field);
+    user.MoveFocus(view());
 
     UserInput homeless(0); // had no focus window to restore
     ::SetFocus(nullptr);

@@ -31,7 +31,7 @@ protected:
         AfxGetThread()->m_pMainWnd = frame;
         frame->ShowFirst(SW_SHOWNORMAL);
         frame->Open(file.Path());
-        frame->View().SetFocus();
+        user.MoveFocus(frame->View().m_hWnd);
         user.Wait(0);
         EXPECT_EQ(Place(frame->m_hWnd), place);
     }
@@ -143,9 +143,7 @@ TEST_F(SavedSettings, DecimalMarkIsTheSystemsOrTheUsers) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
-    ::SetFocus(::GetDlgItem(ActivePageOf(sheet()), IDC_PEN_SCALE));
-    ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
-    user.Type("2.5");
+    user.Replace(::GetDlgItem(ActivePageOf(sheet()), IDC_PEN_SCALE), "2.5");
     Do(ID_VIEW_MARK_COMMA);
     EXPECT_EQ(mark(), ",");
     EXPECT_EQ(WindowText(::GetDlgItem(ActivePageOf(sheet()), IDC_PEN_SCALE)), "2,5")
@@ -167,17 +165,14 @@ TEST_F(SavedSettings, WindowShortcutsWorkInThePane) {
     user.Key(VK_TAB);
     Do(ID_VIEW_PROPERTIES);
     ASSERT_TRUE(ClickTab(user, sheet(), 1));
-    const auto focusScale = [&] { ::SetFocus(::GetDlgItem(ActivePageOf(sheet()), IDC_PEN_SCALE)); };
-    focusScale();
+    const auto scale = [&] { return ::GetDlgItem(ActivePageOf(sheet()), IDC_PEN_SCALE); };
+    user.MoveFocus(scale());
     user.Key('W', UserInput::kControl);
     EXPECT_FALSE(frame->View().ShowsLineWeights());
-    ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
-    user.Type("3");
+    user.Replace(scale(), "3");
     user.Key('Z', UserInput::kControl);
     EXPECT_EQ(document().UndoSteps(), 0) << "the field's own";
-    focusScale();
-    ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
-    user.Type("3");
+    user.Replace(scale(), "3");
     user.Key(VK_RETURN);
     ASSERT_EQ(document().UndoSteps(), 1);
     ::SendMessageA(::GetFocus(), EM_EMPTYUNDOBUFFER, 0, 0);
@@ -229,9 +224,7 @@ TEST_F(SavedSettings, StatusBarReportsTextThatIsNotALength) {
     user.Key(VK_TAB);
     const auto play = [&](HWND over) {
         ASSERT_TRUE(ClickTab(user, over, 1));
-        ::SetFocus(::GetDlgItem(ActivePageOf(over), IDC_PEN_WIDTH));
-        ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
-        user.Type("1;5");
+        user.Replace(::GetDlgItem(ActivePageOf(over), IDC_PEN_WIDTH), "1;5");
         user.Key(VK_END);
         EXPECT_EQ(StatusText(frame->m_hWnd, 0), " Width: \"1;5\" is not a length");
         ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);

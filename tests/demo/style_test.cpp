@@ -41,10 +41,7 @@ protected:
         user.InDialogs([&] { user.Key(VK_RETURN, UserInput::kControl); }, scripts);
     }
     void TypeStyle(HWND sheet, const std::string& name) {
-        const HWND combo = OnPage(sheet, IDC_STYLE_NAME);
-        ::SetFocus(combo);
-        ::SendMessageA(combo, CB_SETEDITSEL, 0, MAKELPARAM(0, -1));
-        user.Type(name);
+        user.Replace(OnPage(sheet, IDC_STYLE_NAME), name);
     }
     void Close(HWND sheet) { user.Click(::GetDlgItem(sheet, IDCANCEL)); }
 };
@@ -146,7 +143,7 @@ TEST_F(Styles, AreEditedInTheSheetAndApplied) {
         user.Key(VK_TAB, UserInput::kControl); // the Pen page
         const HWND colors = OnPage(sheet, IDC_COLOR);
         ASSERT_NE(colors, nullptr);
-        ::SetFocus(colors);
+        user.MoveFocus(colors);
         user.Keys(VK_DOWN, 3);
         user.Click(::GetDlgItem(sheet, IDOK));
     }});
@@ -165,7 +162,7 @@ TEST_F(Styles, CancelUndoesWrittenPages) {
     for (const UINT last : {VK_ESCAPE, VK_RETURN}) {
         InStyleSheets({[&](HWND sheet) {
             user.Key(VK_TAB, UserInput::kControl);
-            ::SetFocus(OnPage(sheet, IDC_COLOR));
+            user.MoveFocus(OnPage(sheet, IDC_COLOR));
             user.Keys(VK_DOWN, 3);
             user.Key(VK_TAB, UserInput::kControl);
             user.Key(last);

@@ -127,9 +127,7 @@ TEST_F(History, StyleEditIsOneStepUnlessCanceled) {
         user.InDialog([&] { user.Key(VK_RETURN, UserInput::kControl); },
                       [&](HWND sheet) {
                           ASSERT_TRUE(ClickTab(user, sheet, 1));
-                          ::SetFocus(::GetDlgItem(ActivePageOf(sheet), IDC_PEN_SCALE));
-                          ::SendMessageA(::GetFocus(), EM_SETSEL, 0, -1);
-                          user.Type(text);
+                          user.Replace(::GetDlgItem(ActivePageOf(sheet), IDC_PEN_SCALE), text);
                           user.Key(end);
                       });
     };

@@ -54,7 +54,7 @@ Viewer::Viewer() : frame(new CMainFrame), file(kDrawing) {
     AfxGetThread()->m_pMainWnd = frame;
     frame->ShowWindow(SW_SHOW);
     frame->Open(file.Path());
-    frame->View().SetFocus();
+    user.MoveFocus(frame->View().m_hWnd);
     user.Wait(0);
 }
 

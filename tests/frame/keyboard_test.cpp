@@ -46,7 +46,7 @@ TEST_F(Keyboard, TabsShowTheActivePageAfterAFailedValidation) {
         MessageBoxWatcher boxes;
         sheet.Run([&](SheetDriver& user) {
             user.Type(kEdit, "bad");
-            ::SetFocus(Tabs());
+            user.Focus(Tabs());
             user.Key(key);
             EXPECT_EQ(boxes.Boxes().size(), 1u);
             EXPECT_EQ(user.ActivePage(), 1);

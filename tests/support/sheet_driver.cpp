@@ -32,17 +32,14 @@ void SheetDriver::ClickSheetButton(int id) {
     Pump();
 }
 
-void SheetDriver::Focus(int id) {
-    ::SetFocus(Control(id));
+void SheetDriver::Focus(HWND window) {
+    m_user.MoveFocus(window);
     Pump();
 }
 
 void SheetDriver::Type(int id, const std::string& text) {
-    Focus(id);
-    const HWND field = ::GetFocus(); // the edit field inside a combo box, or the edit control itself
-    ::SendMessageA(field, EM_SETSEL, 0, -1);
-    if (text.empty()) ::SendMessageA(field, WM_CLEAR, 0, 0);
-    m_user.Type(text);
+    m_user.Replace(Control(id), text);
+    if (text.empty()) ::SendMessageA(::GetFocus(), WM_CLEAR, 0, 0);
 }
 
 void SheetDriver::SelectItem(int id, int index) {

@@ -37,7 +37,8 @@ public:
     void Ok() { ClickSheetButton(IDOK); }
     void Cancel() { ClickSheetButton(IDCANCEL); }
 
-    void Focus(int id);
+    void Focus(int id) { Focus(Control(id)); }
+    void Focus(HWND window);
     void Type(int id, const std::string& text); // replaces the text
     void SelectItem(int id, int index);         // in a combo box or list, with Home and Down
     void Key(UINT virtualKey, bool shift = false, bool control = false);

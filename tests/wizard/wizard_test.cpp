@@ -144,18 +144,18 @@ TEST_F(Wizard, CanBeUsedByKeyboard) {
                   user.Key(VK_SPACE);
                   EXPECT_EQ(State(user), "1 Back &Next >");
                   EXPECT_EQ(user.Control(kField), ::GetFocus()) << "the first field of the new page";
-                  ::SetFocus(::GetDlgItem(user.Sheet(), kBack));
+                  user.Focus(::GetDlgItem(user.Sheet(), kBack));
                   user.Key(VK_SPACE); // disables the focused button
                   EXPECT_EQ(State(user), "0 - &Next >");
                   ASSERT_TRUE(::IsChild(user.Sheet(), ::GetFocus())) << "the button or the page";
                   for (int i = 0; i < 3 && ::GetDlgCtrlID(::GetFocus()) != kNext; ++i)
                       user.Key(VK_TAB);
                   for (const char* state : {"1 Back &Next >", "2 Back Finish"}) {
-                      ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
+                      user.Focus(::GetDlgItem(user.Sheet(), kNext));
                       user.Key(VK_RETURN); // of the button itself
                       EXPECT_EQ(state, State(user));
                   }
-                  ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
+                  user.Focus(::GetDlgItem(user.Sheet(), kNext));
                   user.Key(VK_RETURN);
               }));
     EXPECT_EQ(log, "1o 2o 3o 3o ");
@@ -360,7 +360,7 @@ TEST_F(Wizard, FramesTheButtonThatReturnPresses) {
     const auto wizard = Make({kWide, kNarrow});
     Run(*wizard, [&](SheetDriver& user) {
         EXPECT_EQ(FramedButton(user), kNext);
-        ::SetFocus(::GetDlgItem(user.Sheet(), kNext));
+        user.Focus(::GetDlgItem(user.Sheet(), kNext));
         user.Key(VK_TAB);
         EXPECT_EQ(FramedButton(user), IDCANCEL);
         user.Key(VK_TAB); // into the page
