@@ -227,9 +227,4 @@ double ShownPenWidth(const Graphic& graphic) {
     return layer ? layer->lineWidth : 0;
 }
 
-bool PassesFilter(const Graphic& graphic, uint32_t filter) {
-    const uint32_t kinds = filter & kFilterKinds;
-    return !kinds || (kinds & static_cast<uint32_t>(graphic.GetKind()));
-}
-
 } // namespace drawcore

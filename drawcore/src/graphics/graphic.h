@@ -11,6 +11,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "drawcore/include/drawcore/graphic.h"
 #include "drawcore/src/geometry/extents.h"
 #include "drawcore/src/graphics/attributes.h"
 #include "orlo/host/records.h"
@@ -162,6 +163,9 @@ private:
 double ShownPenWidth(const Graphic& graphic);
 
 // Returns whether the graphic passes the filter of an iteration (see drawcore/graphic.h).
-bool PassesFilter(const Graphic& graphic, uint32_t filter);
+inline bool PassesFilter(const Graphic& graphic, uint32_t filter) {
+    const uint32_t kinds = filter & kFilterKinds;
+    return !kinds || kinds == kFilterKinds || (kinds & static_cast<uint32_t>(graphic.GetKind()));
+}
 
 } // namespace drawcore

@@ -2,6 +2,7 @@
 #include "drawcore/src/graphics/properties.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstring>
 #include <iterator>
@@ -205,6 +206,15 @@ constexpr bool IsListSorted() {
 }
 static_assert(IsListSorted());
 
+// Inline, because the runtime's comparison is a call to another DLL.
+bool SameText(const char* a, const char* b) {
+    while (*a == *b && *a) {
+        ++a;
+        ++b;
+    }
+    return *a == *b;
+}
+
 // Types of integers. 32-bit types accept either interpretation of the top bit, because colors may be signed or
 // unsigned.
 bool StoreInteger(int vt, void* out, int64_t value) {
@@ -270,6 +280,7 @@ bool ReadReal(int vt, const void* in, double& value) {
 bool StoreText(int vt, void* out, const char* text) {
     if (vt != VT_BSTR) return false;
     char** variable = static_cast<char**>(out);
+    if (*variable && SameText(*variable, text)) return true; // as often when texts of many graphics are compared
     const size_t size = std::strlen(text) + 1;
     char* copy = static_cast<char*>(DrawCoreNew(size));
     if (!copy) return false;
@@ -296,12 +307,24 @@ const PropertyInfo* InfoAt(int32_t number, uint8_t owner) {
     return kPropertyList[number].owners & owner ? &kPropertyList[number] : nullptr;
 }
 
-int32_t NumberOf(const char* name, uint8_t owner) {
+int32_t Find(const char* name) {
     const auto* found =
         std::lower_bound(std::begin(kPropertyList), std::end(kPropertyList), name,
                          [](const PropertyInfo& info, const char* n) { return std::strcmp(info.name, n) < 0; });
-    const bool has = found != std::end(kPropertyList) && !std::strcmp(found->name, name) && (found->owners & owner);
-    return has ? static_cast<int32_t>(found - kPropertyList) : -1;
+    return found != std::end(kPropertyList) && SameText(found->name, name) ? static_cast<int32_t>(found - kPropertyList)
+                                                                           : -1;
+}
+
+// Programs look up the same name for one graphic after the other, so the last one is tried first.
+int32_t NumberOf(const char* name, uint8_t owner) {
+    static std::atomic<int32_t> last{0};
+    int32_t number = last.load(std::memory_order_relaxed);
+    if (!SameText(kPropertyList[number].name, name)) {
+        number = Find(name);
+        if (number < 0) return -1;
+        last.store(number, std::memory_order_relaxed);
+    }
+    return kPropertyList[number].owners & owner ? number : -1;
 }
 
 template <uint8_t owner>
