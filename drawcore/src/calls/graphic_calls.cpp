@@ -32,6 +32,15 @@ Graphic* NewOfType(int type) {
     }
 }
 
+// Loads the record of a member that an iteration will soon return: those of a large drawing are scattered over memory,
+// and waiting for them would take most of the time of a walk.
+void PrefetchMember(const Graphic& graphic, size_t index) {
+    constexpr size_t kCacheLine = 64;
+    const auto* record = reinterpret_cast<const char*>(graphic.MemberAt(index));
+    for (size_t offset = 0; offset < sizeof(GraphicStruct); offset += kCacheLine)
+        __builtin_prefetch(record + offset);
+}
+
 // Returns the first member at or after that index that passes the filter, and sets the position after it.
 GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t index, void* position, uint32_t filter) {
     if (!set || !position) return nullptr;
@@ -43,6 +52,8 @@ GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t index, void* position, ui
         if (PassesFilter(*member, filter)) found = member;
     }
     *static_cast<uint32_t*>(position) = index;
+    constexpr uint32_t kAhead = 6;
+    if (index + kAhead < count) PrefetchMember(graphic, index + kAhead);
     return found;
 }
 
