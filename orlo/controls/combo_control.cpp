@@ -172,7 +172,7 @@ void ComboState::WatchList() {
 }
 
 void ComboState::FitListWidth() {
-    const orlo::WindowDC dc(m_combo.m_hWnd);
+    const orlo::OwnedDC dc(::CreateCompatibleDC(nullptr));
     const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(m_combo.SendMessage(WM_GETFONT)));
     if (m_combo.MeasureNameWidth(dc.get(), "") == 0) return;
     int widest = 0;

@@ -2,6 +2,7 @@
 
 #include "orlo/controls/control_font.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "orlo/win/gdi.h"
@@ -10,14 +11,6 @@
 namespace {
 
 constexpr int kHeightWithoutDC = 16;
-
-// Measures in that font, or with null in the default font of the device context.
-int HeightInFont(HWND window, HFONT font) {
-    const orlo::WindowDC dc(window);
-    if (!dc.get()) return kHeightWithoutDC;
-    const orlo::SelectedObject selected(dc.get(), font);
-    return TextHeight(dc.get());
-}
 
 orlo::OwnedFont CreateSharedFont() {
     LOGFONTA font = {};
@@ -45,12 +38,16 @@ int TextWidth(HDC dc, const char* text) {
 }
 
 int GetOwnerDrawFixedTextHeight(HWND hWnd) {
-    return HeightInFont(hWnd, nullptr);
+    const orlo::WindowDC dc(hWnd);
+    return dc.get() ? TextHeight(dc.get()) : kHeightWithoutDC;
 }
 
-int ControlFontHeight(HWND window) {
-    const auto font = reinterpret_cast<HFONT>(::SendMessageA(window, WM_GETFONT, 0, 0));
-    return font ? HeightInFont(window, font) : 0;
+int ControlTextHeight(HWND window) {
+    const orlo::WindowDC dc(window);
+    if (!dc.get()) return kHeightWithoutDC;
+    const int inDefaultFont = TextHeight(dc.get());
+    const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(::SendMessageA(window, WM_GETFONT, 0, 0)));
+    return font ? std::max(inDefaultFont, TextHeight(dc.get())) : inDefaultFont;
 }
 
 HFONT SharedControlFont() {

@@ -16,8 +16,9 @@ int TextHeight(HDC dc);
 // Returns the width of the text in that font.
 int TextWidth(HDC dc, const char* text);
 
-// Returns the height of "M" in the font that the window was given by WM_SETFONT, or 0 without one.
-int ControlFontHeight(HWND window);
+// Returns GetOwnerDrawFixedTextHeight, or the height of "M" in the font of WM_SETFONT if that is larger, as it is at high
+// resolutions.
+int ControlTextHeight(HWND window);
 
 // Returns the shared font, creating it at the first call. Returns null if it cannot be created; the next call tries
 // again.

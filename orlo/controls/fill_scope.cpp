@@ -2,19 +2,12 @@
 
 #include "orlo/controls/fill_scope.h"
 
-#include <algorithm>
-
 #include "orlo/controls/control_font.h"
 
 namespace {
 
 // The innermost scope. Controls live on one thread, and filling one control may cause another to be filled.
 FillScope* g_current = nullptr;
-
-// Rows must fit the control's own font, which at high resolutions is larger than the device context's.
-int MeasureRow(HWND window) {
-    return std::max(GetOwnerDrawFixedTextHeight(window), ControlFontHeight(window));
-}
 
 } // namespace
 
@@ -37,11 +30,11 @@ FillScope* FillScope::Of(HWND window) {
 }
 
 int FillScope::TextHeight() {
-    if (!textHeight_) textHeight_ = MeasureRow(window_);
+    if (!textHeight_) textHeight_ = ControlTextHeight(window_);
     return textHeight_;
 }
 
 int RowTextHeight(HWND window) {
     FillScope* const fill = FillScope::Of(window);
-    return fill ? fill->TextHeight() : MeasureRow(window);
+    return fill ? fill->TextHeight() : ControlTextHeight(window);
 }

@@ -31,7 +31,7 @@ bool HasBoxAndLabel(HWND child) {
 int LabelWidth(HWND child) {
     char label[64];
     const int length = ::GetWindowTextA(child, label, sizeof label);
-    const orlo::WindowDC dc(child);
+    const orlo::OwnedDC dc(::CreateCompatibleDC(nullptr));
     const orlo::SelectedObject font(dc.get(), reinterpret_cast<HGDIOBJ>(::SendMessageA(child, WM_GETFONT, 0, 0)));
     SIZE size = {};
     ::GetTextExtentPoint32A(dc.get(), label, length, &size);

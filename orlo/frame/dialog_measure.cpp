@@ -96,9 +96,9 @@ DialogTemplate ReadTemplate(const void* resource) {
 
 // Returns the dialog base units of a font: average character width and height.
 CSize BaseUnits(const DialogFont& font) {
-    CClientDC screen(nullptr);
+    const orlo::OwnedDC screen(::CreateCompatibleDC(nullptr));
     LOGFONTA description = {};
-    description.lfHeight = -::MulDiv(font.points, ::GetDeviceCaps(screen.m_hDC, LOGPIXELSY), kPointsPerInch);
+    description.lfHeight = -::MulDiv(font.points, ::GetDeviceCaps(screen.get(), LOGPIXELSY), kPointsPerInch);
     description.lfWeight = FW_BOLD;
     description.lfCharSet = DEFAULT_CHARSET;
     lstrcpynA(description.lfFaceName, font.face, LF_FACESIZE);
@@ -107,14 +107,14 @@ CSize BaseUnits(const DialogFont& font) {
         const LONG units = ::GetDialogBaseUnits();
         return CSize(LOWORD(units), HIWORD(units));
     }
-    const orlo::SelectedObject selected(screen.m_hDC, created.m_hObject);
+    const orlo::SelectedObject selected(screen.get(), created.m_hObject);
     TEXTMETRICA metrics;
-    ::GetTextMetricsA(screen.m_hDC, &metrics);
+    ::GetTextMetricsA(screen.get(), &metrics);
     int width = metrics.tmAveCharWidth;
     if (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) { // the bit is set for fonts of variable pitch
         static const char letters[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
         SIZE extent;
-        ::GetTextExtentPointA(screen.m_hDC, letters, static_cast<int>(std::strlen(letters)), &extent);
+        ::GetTextExtentPointA(screen.get(), letters, static_cast<int>(std::strlen(letters)), &extent);
         width = (extent.cx / 26 + 1) / 2;
     }
     return CSize(width, metrics.tmHeight);

@@ -33,7 +33,7 @@ public:
     int Lines(const std::string& text, int width) const;
 
 private:
-    orlo::WindowDC m_screen;
+    orlo::OwnedDC m_screen;
     orlo::OwnedFont m_font;
     orlo::SelectedObject m_selected;
     int m_unitsWidth; // pixels of four horizontal dialog units

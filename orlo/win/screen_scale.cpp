@@ -5,6 +5,6 @@
 #include "orlo/win/gdi.h"
 
 int ScreenPixels(int at96) {
-    const orlo::WindowDC screen(nullptr);
-    return screen.get() ? ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96) : at96;
+    const orlo::OwnedDC screen(::CreateCompatibleDC(nullptr));
+    return screen ? ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96) : at96;
 }
