@@ -3,3 +3,4 @@
 
 void BenchSaving();
 void BenchMillion();
+void BenchLayers();

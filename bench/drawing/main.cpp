@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr Bench kBenches[] = {{"drawing", BenchSaving}, {"million", BenchMillion}};
+constexpr Bench kBenches[] = {{"drawing", BenchSaving}, {"layers", BenchLayers}, {"million", BenchMillion}};
 
 } // namespace
 
