@@ -3,6 +3,7 @@
 #include "orlo/c/pages.h"
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -22,6 +23,14 @@ static_assert(kOrloFieldText == static_cast<int>(FieldKind::Text) &&
 // The dialogs are in the code page of the system. Null is an empty text.
 std::string ToSystemText(const char* text) {
     return text != nullptr ? Narrow(Widen(text, CP_UTF8), CP_ACP) : "";
+}
+
+// Returns nothing if the code page cannot represent the text. A field that showed it anyway would store another text when
+// a part of it is edited.
+std::optional<std::string> ToExactSystemText(const char* text) {
+    std::string narrow = ToSystemText(text);
+    if (SystemTextToUtf8(narrow) != (text != nullptr ? text : "")) return std::nullopt;
+    return narrow;
 }
 
 // An array of records, each of the size that the first one has.
@@ -49,8 +58,9 @@ void SetAccess(FieldRow& row, const OrloPage& page, uint32_t index) {
     row.get = [page, index](GraphicStruct* graphic, FieldValue& value) {
         OrloValue record = {sizeof record, 0.0, nullptr};
         if (!page.get(page.context, graphic, index, &record)) return false;
-        value = {record.number, ToSystemText(record.text)};
-        return true;
+        std::optional<std::string> text = ToExactSystemText(record.text);
+        if (text) value = {record.number, std::move(*text)};
+        return text.has_value();
     };
     if (page.set == nullptr) return;
     row.set = [page, index](GraphicStruct* graphic, const FieldValue& value) {

@@ -185,7 +185,8 @@ typedef struct OrloValue {
 // of the sheet and must not throw.
 //
 // Get stores the value, Set changes it. They return 0 if the graphic has no such property, or does not accept the
-// value, and must not keep the graphic: it can be the copy in the preview.
+// value, and must not keep the graphic: it can be the copy in the preview. A graphic whose text the code page of the
+// system cannot represent is treated as if it had no such property, because an edit would damage the text.
 typedef int32_t(ORLO_CALL* OrloGetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
                                          OrloValue* value);
 typedef int32_t(ORLO_CALL* OrloSetField)(void* context, struct GraphicStruct* graphic, uint32_t field,

@@ -155,6 +155,28 @@ TEST_F(CPages, EditPropertiesAndTheHostsOwnData) {
     EXPECT_EQ(written, (std::vector<Counts>{{2, 1}})) << "both accepted a price, one no rating";
 }
 
+// A dialog can show "\xCE\xA9" (a Greek omega) only as another letter, which an edit would then store.
+TEST_F(CPages, TextsOutsideTheCodePageAreKept) {
+    static std::map<GraphicStruct*, std::string> rooms;
+    rooms = {{kit[0].graphic, "Saal \xCE\xA9"}, {kit[1].graphic, "K\xC3\xBC" "che"}};
+    fields[1].kind = kOrloFieldText;
+    page.check = nullptr;
+    page.get = [](void*, GraphicStruct* graphic, uint32_t, OrloValue* value) -> int32_t {
+        value->text = rooms.at(graphic).c_str();
+        return 1;
+    };
+    page.set = [](void*, GraphicStruct* graphic, uint32_t, const OrloValue* value) -> int32_t {
+        rooms.at(graphic) = value->text;
+        return 1;
+    };
+    RunOk([&](HWND window) {
+        EXPECT_EQ(Shown(window, kPrice), "K\xFC" "che");
+        Type(window, kPrice, "B\xFCro");
+    });
+    EXPECT_EQ(rooms[kit[0].graphic], "Saal \xCE\xA9");
+    EXPECT_EQ(rooms[kit[1].graphic], "B\xC3\xBCro");
+}
+
 TEST_F(CPages, HostButtonReloadsTheFields) {
     RunOk([&](HWND window) {
         user.Click(::GetDlgItem(ActivePageOf(window), kPick));
