@@ -84,8 +84,8 @@ const char* ORLO_CALL OrloGetResultName(OrloResult result) {
     constexpr const char* kNames[] = {
         "kOrloOk",          "kOrloBadArgument", "kOrloBadHandle", "kOrloBadThread",    "kOrloBufferTooSmall",
         "kOrloNotFound",    "kOrloWrongType",   "kOrloDamaged",   "kOrloNotEncodable", "kOrloSystemError",
-        "kOrloOutOfMemory", "kOrloFailed",      "kOrloChanged",   "kOrloInvalidInput"};
-    static_assert(std::size(kNames) == kOrloInvalidInput + 1);
+        "kOrloOutOfMemory", "kOrloFailed",      "kOrloChanged",   "kOrloInvalidInput", "kOrloBusy"};
+    static_assert(std::size(kNames) == kOrloBusy + 1);
     const auto number = static_cast<size_t>(result);
     return number < std::size(kNames) ? kNames[number] : "unknown result";
 }

@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "orlo/c/busy_scope.h"
 #include "orlo/c/guarded_call.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/field_page.h"
@@ -25,8 +26,8 @@ std::string ToSystemText(const char* text) {
     return text != nullptr ? Narrow(Widen(text, CP_UTF8), CP_ACP) : "";
 }
 
-// Returns nothing if the code page cannot represent the text. A field that showed it anyway would store another text when
-// a part of it is edited.
+// Returns nothing if the code page cannot represent the text. A field that showed it anyway would store another text
+// when a part of it is edited.
 std::optional<std::string> ToExactSystemText(const char* text) {
     std::string narrow = ToSystemText(text);
     if (SystemTextToUtf8(narrow) != (text != nullptr ? text : "")) return std::nullopt;
@@ -57,21 +58,21 @@ void SetAccess(FieldRow& row, const OrloPage& page, uint32_t index) {
     if (page.get == nullptr) ThrowError(kOrloBadArgument, "a field is read by a callback, but the page has none");
     row.get = [page, index](GraphicStruct* graphic, FieldValue& value) {
         OrloValue record = {sizeof record, 0.0, nullptr};
-        if (!page.get(page.context, graphic, index, &record)) return false;
+        if (!CallHost(page.get, page.context, graphic, index, &record)) return false;
         std::optional<std::string> text = ToExactSystemText(record.text);
         if (text) value = {record.number, std::move(*text)};
         return text.has_value();
     };
     if (page.set == nullptr) return;
     row.set = [page, index](GraphicStruct* graphic, const FieldValue& value) {
-        return page.set(page.context, graphic, index, ValueRecord(value).Get()) != 0;
+        return CallHost(page.set, page.context, graphic, index, ValueRecord(value).Get()) != 0;
     };
 }
 
 void SetCheck(FieldRow& row, const OrloPage& page, uint32_t index) {
     row.check = [page, index](const FieldValue& value) -> std::string {
         char message[512] = "";
-        if (page.check(page.context, index, ValueRecord(value).Get(), message, sizeof message)) return "";
+        if (CallHost(page.check, page.context, index, ValueRecord(value).Get(), message, sizeof message)) return "";
         message[sizeof message - 1] = '\0';
         return *message != '\0' ? ToSystemText(message) : "The value is not valid.";
     };
@@ -94,7 +95,7 @@ FieldRow RowOf(const OrloPage& page, const OrloField& field, uint32_t index) {
     if (field.flags & kOrloFieldByCallback) SetAccess(row, page, index);
     if (page.check != nullptr) SetCheck(row, page, index);
     if (page.press != nullptr && field.kind == kOrloFieldButton)
-        row.press = [page, index] { return page.press(page.context, index) != 0; };
+        row.press = [page, index] { return CallHost(page.press, page.context, index) != 0; };
     return row;
 }
 
@@ -109,10 +110,12 @@ FieldTable TableOf(const OrloPage& page) {
         table.accepts = [page](GraphicStruct* graphic) {
             const uint8_t* end = page.types + page.typeCount;
             const bool isOfType = page.types == nullptr || std::find(page.types, end, graphic->bType) != end;
-            return isOfType && (page.accepts == nullptr || page.accepts(page.context, graphic) != 0);
+            return isOfType && (page.accepts == nullptr || CallHost(page.accepts, page.context, graphic) != 0);
         };
     if (page.status != nullptr)
-        table.onStatus = [page](const std::string& help) { page.status(page.context, SystemTextToUtf8(help).c_str()); };
+        table.onStatus = [page](const std::string& help) {
+            CallHost(page.status, page.context, SystemTextToUtf8(help).c_str());
+        };
     return table;
 }
 

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <vector>
 
+#include "orlo/c/busy_scope.h"
 #include "orlo/c/guarded_call.h"
 #include "orlo/c/pages.h"
 #include "orlo/controls/control_fill.h"
@@ -52,7 +53,7 @@ void FillControl(const OrloSheet& sheet, unsigned kind, HWND control) {
     fill.tableName = table;
     fill.table = ::DrawingGetTable(sheet.drawing, table);
     fill.selected = kind == kControlColors ? kColorNone : 0; // because 0 is black
-    if (sheet.fill != nullptr) sheet.fill(sheet.context, &fill);
+    if (sheet.fill != nullptr) CallHost(sheet.fill, sheet.context, &fill);
     const ControlFillRecord record = ToFillRecord(fill);
     ::SendMessageA(control, kFillMessage, 0, reinterpret_cast<LPARAM>(&record));
 }
@@ -104,7 +105,8 @@ std::unique_ptr<CGraphicPropertySheet> SheetRecord::NewSheet() {
     AddPages(m_record, *sheet);
     if (m_record.written != nullptr)
         sheet->SetWritten([this](int changed, int rejected) {
-            m_record.written(m_record.context, static_cast<uint32_t>(changed), static_cast<uint32_t>(rejected));
+            CallHost(m_record.written, m_record.context, static_cast<uint32_t>(changed),
+                     static_cast<uint32_t>(rejected));
         });
     return sheet;
 }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <utility>
 
+#include "orlo/c/busy_scope.h"
 #include "orlo/c/guarded_call.h"
 #include "orlo/c/sheet_record.h"
 #include "orlo/frame/sheet_pane.h"
@@ -36,6 +37,7 @@ public:
 
     // Throws Refusal if a field is not valid.
     void RequireApplied() {
+        const orlo::BusyScope busy; // a message box has a message loop
         if (!Apply()) ThrowError(kOrloInvalidInput, "a field of the sheet is not valid");
     }
 
@@ -66,6 +68,7 @@ protected:
 
     // A window that is activated returns the focus to the field that had it.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if ((message == WM_COMMAND || message == WM_CLOSE) && orlo::BusyScope::IsBusy()) return 0;
         if (message == WM_ACTIVATE && LOWORD(wParam) == WA_INACTIVE) m_focus = HasFocus() ? ::GetFocus() : nullptr;
         if (message != WM_SETFOCUS) return CSheetPane::WindowProc(message, wParam, lParam);
         if (m_focus != nullptr && ::IsChild(m_hWnd, m_focus))
@@ -77,7 +80,7 @@ protected:
 
 private:
     void Call(OrloSheetCallback callback) {
-        if (callback != nullptr) callback(m_record.Get().context);
+        if (callback != nullptr) orlo::CallHost(callback, m_record.Get().context);
     }
 
     // As large as the sheet, over the owner.
@@ -112,7 +115,10 @@ Windows::iterator Find(OrloSheetHandle handle) {
 
 template <class Work>
 OrloResult CallWindow(OrloSheetHandle handle, Work work) {
-    return orlo::GuardedCall([&] { work(*Find(handle)->second); });
+    return orlo::GuardedCall([&] {
+        orlo::RequireNotBusy();
+        work(*Find(handle)->second);
+    });
 }
 
 } // namespace
@@ -162,5 +168,8 @@ OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle) {
 }
 
 OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle) {
-    return orlo::GuardedCall([=] { WindowsOfThread().erase(Find(handle)); });
+    return orlo::GuardedCall([=] {
+        orlo::RequireNotBusy();
+        WindowsOfThread().erase(Find(handle));
+    });
 }

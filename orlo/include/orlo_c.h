@@ -76,7 +76,8 @@ typedef enum OrloResult {
     kOrloOutOfMemory = 10,
     kOrloFailed = 11,      // any other failure
     kOrloChanged = 12,     // the stream in the file has changed since the set was read
-    kOrloInvalidInput = 13 // a field of the sheet is not valid; the user has been told, and the field has the focus
+    kOrloInvalidInput = 13, // a field of the sheet is not valid; the user has been told, and the field has the focus
+    kOrloBusy = 14          // called while a callback or a message box of a sheet is open
 } OrloResult;
 
 // Returns the name of a result, such as "kOrloBadHandle", or "unknown result". The text is static.
@@ -254,6 +255,8 @@ ORLO_C_API OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* co
 
 // A modeless sheet in a window of its own, which the owner owns: with the buttons Apply, Reset, Close and Help. A page
 // writes its values when the user leaves it, by Apply or for another page.
+// OrloSheetFollow, OrloSheetApply, OrloSheetReset and OrloSheetClose fail with kOrloBusy while a callback or a message
+// box of a sheet is open.
 typedef struct OrloSheetWindow__* OrloSheetHandle;
 struct tagMSG;
 
@@ -273,7 +276,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloSheetFollow(OrloSheetHandle handle, struct G
 ORLO_C_API OrloResult ORLO_CALL OrloSheetApply(OrloSheetHandle handle);
 // Discards what was typed and shows the values of the graphics.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle);
-// Closes the sheet without writing. Must not be called by a callback of the sheet.
+// Closes the sheet without writing.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle);
 
 // ---- The controls of the library in dialogs of the program

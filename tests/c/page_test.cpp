@@ -7,8 +7,10 @@
 
 #include <cstddef>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "demo/automation/control_text.h"
@@ -71,8 +73,12 @@ protected:
         sheet.pageCount = 1;
         sheet.written = [](void* self, uint32_t changed, uint32_t rejected) {
             Self(self).written.push_back({changed, rejected});
+            Self(self).CallBack();
         };
-        sheet.closed = [](void* self) { ++Self(self).closed; };
+        sheet.closed = [](void* self) {
+            ++Self(self).closed;
+            Self(self).CallBack();
+        };
         sheet.reset = [](void* self) { ++Self(self).resets; };
     }
 
@@ -97,9 +103,16 @@ protected:
         EXPECT_EQ(field, 2u);
         for (auto& [graphic, price] : Self(context).prices)
             price = 42;
+        Self(context).CallBack();
         return 1;
     }
     static void ORLO_CALL Status(void* context, const char* help) { Self(context).help = help; }
+
+    void CallBack() {
+        if (!callback) return;
+        ++callbacks;
+        callback();
+    }
 
     // Opens the sheet on the host's page and closes it by OK.
     void RunOk(const std::function<void(HWND sheet)>& script) {
@@ -130,6 +143,8 @@ protected:
     OrloSheet sheet = {};
     std::vector<Counts> written;
     int closed = 0, resets = 0;
+    std::function<void()> callback; // called by press, written and closed
+    int callbacks = 0;
     std::string help;
     UserInput user{0};
 };
@@ -359,6 +374,49 @@ TEST_F(CSheetWindow, CloseInvalidatesTheHandle) {
     EXPECT_EQ(OrloSheetApply(handle), kOrloBadHandle);
     EXPECT_EQ(OrloSheetClose(handle), kOrloBadHandle);
     handle = nullptr;
+}
+
+// A callback runs within a page, which the sheet must not delete then.
+TEST_F(CSheetWindow, StaysAsItIsWhileACallbackRuns) {
+    callback = [this] {
+        EXPECT_EQ(OrloSheetClose(handle), kOrloBusy);
+        EXPECT_EQ(ErrorText(), "a callback or a message box of a sheet has not returned yet");
+        EXPECT_EQ(OrloSheetFollow(handle, nullptr), kOrloBusy);
+        EXPECT_EQ(OrloSheetApply(handle), kOrloBusy);
+        EXPECT_EQ(OrloSheetReset(handle), kOrloBusy);
+        ::SendMessageA(window, WM_CLOSE, 0, 0); // as from a message loop of the callback
+        user.Click(::GetDlgItem(window, kPaneReset));
+        EXPECT_TRUE(::IsWindowVisible(window));
+    };
+    ShowRoom();
+    user.Click(Field(kPick));
+    EXPECT_EQ(std::exchange(callbacks, 0), 1) << "press";
+    Edit(kRating, '5');
+    EXPECT_EQ(OrloSheetApply(handle), kOrloOk);
+    EXPECT_EQ(std::exchange(callbacks, 0), 1) << "written";
+    EXPECT_EQ(kit[1].Number("Rating"), 5);
+    EXPECT_EQ(closed + resets, 0);
+    callback = [this] { EXPECT_EQ(OrloSheetClose(handle), kOrloBusy); };
+    ::SendMessageA(window, WM_CLOSE, 0, 0);
+    EXPECT_EQ(callbacks, 1) << "closed";
+    EXPECT_EQ(closed, 1);
+}
+
+// The message box belongs to the active window, so it leaves the sheet enabled.
+TEST_F(CSheetWindow, StaysOpenWhileItTellsOfInvalidInput) {
+    ShowRoom();
+    Edit(kRating, 'x');
+    ::SetActiveWindow(owner);
+    user.InDialog([&] { EXPECT_EQ(OrloSheetFollow(handle, nullptr), kOrloInvalidInput); },
+                  [&](HWND box) {
+                      EXPECT_TRUE(::IsWindowEnabled(window));
+                      user.Click(::GetDlgItem(window, kPaneReset));
+                      user.Click(::GetDlgItem(window, kPaneClose));
+                      user.Click(::GetDlgItem(box, IDOK));
+                  });
+    EXPECT_TRUE(::IsWindowVisible(window));
+    EXPECT_EQ(::GetFocus(), Field(kRating));
+    EXPECT_EQ(closed + resets, 0);
 }
 
 TEST_F(CSheetWindow, TwoWindowsAndAModalSheetCoexist) {

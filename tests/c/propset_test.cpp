@@ -314,7 +314,7 @@ TEST(CPropset, WalksTheNamesOfASection) {
 TEST(CPropset, ResultsHaveNames) {
     EXPECT_STREQ(OrloGetResultName(kOrloOk), "kOrloOk");
     EXPECT_STREQ(OrloGetResultName(kOrloChanged), "kOrloChanged");
-    EXPECT_STREQ(OrloGetResultName(static_cast<OrloResult>(kOrloInvalidInput + 1)), "unknown result");
+    EXPECT_STREQ(OrloGetResultName(static_cast<OrloResult>(kOrloBusy + 1)), "unknown result");
     EXPECT_STREQ(OrloGetResultName(static_cast<OrloResult>(-1)), "unknown result");
 }
 
