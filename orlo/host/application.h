@@ -4,14 +4,15 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Returns the application of this process. It belongs to the host. Never null while a drawing is open.
+// Returns the application object of this process, which the host owns. Must not return null while a drawing is open.
 // Called: by pages, and when colors and previews are drawn.
-// Failure: null: lists of tables are empty, and previews are black.
+// Failure: null: lists are empty, and previews are black.
 DRAWCORE_API AppStruct* AppGetCurrentApp(void);
 
-// Copies the path of the host's configuration file, at most size bytes including the NUL. Returns 0 if there is none.
-// Called: when the Pen and the Text page fill their lists.
-// Stub: return 0. Lost: the lists of common widths and heights; the user types the values.
+// Copies the full path of the host's configuration file, at most size bytes including the NUL. Returns 0 if the host
+// has no such file.
+// Called: when the Pen and Text pages fill their lists.
+// Stub: return 0. Lost: the lists of common widths and heights; users must type the values.
 // Failure: 0: the list is empty.
 DRAWCORE_API int AppGetINIFileName(AppStruct* application, char* buffer, int size);
 

@@ -1,4 +1,4 @@
-// PaletteSize of picture.h for those that implement it. Header only.
+// An implementation of PaletteSize (picture.h) that databases can use. Header only.
 #pragma once
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace orlo::host {
 
 namespace dib {
 
-// The published header, as it lies in memory.
+// The documented header (BITMAPINFOHEADER) in its memory layout.
 struct InfoHeader {
     uint32_t size;
     int32_t width, height;
@@ -33,7 +33,7 @@ inline uint64_t Colors(const InfoHeader& header) {
 
 } // namespace dib
 
-// The result of PaletteSize.
+// Returns the result of PaletteSize.
 inline uint16_t PaletteSizeOf(const void* bitmap) {
     using namespace dib;
     uint32_t size;

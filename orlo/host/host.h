@@ -24,8 +24,8 @@
 // All of them are plain C, for any compiler. For C++ there are also the header-only owners.h, owned_string.h, walk.h
 // and property.h.
 //
-// Unless stated otherwise: lengths are in drawing units, angles in radians. A result of type int is non-zero on
-// success. All functions are called on the user-interface thread. Pointers to objects are not null.
+// Unless stated otherwise, lengths are in drawing units and angles in radians, a result of type int is non-zero on
+// success, all functions are called on the user-interface thread, and pointers to objects are not null.
 #pragma once
 
 #include "orlo/host/application.h"

@@ -18,7 +18,7 @@ public:
 
     const char* Get() const { return text_; }
     const char* OrEmpty() const { return text_ ? text_ : ""; }
-    // Returns the variable to pass to PropGet, which frees a previous string before it stores a new one.
+    // Returns the variable to pass to PropGet, which frees the previous string, if any, before it stores a new one.
     char** Variable() { return &text_; }
 
 private:

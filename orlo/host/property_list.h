@@ -58,7 +58,7 @@ enum class PropertyMeaning {
 // color.
 enum class PropertyPart { General, Pen, Brush, Text };
 
-// The graphics that have a property: bits.
+// The types of graphics that have a property, as bits.
 enum : uint8_t { kOfShapes = 1, kOfTexts = 2, kOfInserts = 4, kOfAll = 7 };
 
 struct PropertyInfo {

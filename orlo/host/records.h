@@ -1,7 +1,7 @@
 // Records that library and host share byte for byte, for 32-bit and 64-bit programs.
 //
-// Members named host... belong to the host, which can use them freely. A host derives its own records from these,
-// or declares records with the same layout.
+// The host can use members named host... freely. It derives its own records from these, or declares records with the
+// same layout.
 #pragma once
 
 #include <stddef.h>
@@ -35,8 +35,8 @@ struct GraphicStruct {
     uint8_t bType; // kGraphic...
     uint8_t host21;
     uint16_t wRegenMethod; // number of the regen method, 0 for none
-    // Set to 1 by the library on samples and previews of brushes: the brush then fills the whole vertex list as one
-    // outline, including undrawn segments. Otherwise 0.
+    // 0, or 1 in samples and previews of brushes, where the library sets it: the brush then fills the whole vertex list
+    // as one outline, including undrawn segments.
     uint32_t dwOneOutline;
     uint8_t host28[0x34];
     GraphicStruct* pParent; // not valid if kFlagNoParent is set
@@ -102,12 +102,12 @@ static_assert(offsetof(VertexStruct, z) == 0x28);
 //                   which the caller frees with BStringNULL. PropSet receives the characters, which the host copies
 struct PropertyTable {
     void* slot0; // not used by the library
-    // Stores the number of the property named *ppszName, which is valid for this graphic only. Names differ by the case
-    // of their letters too. Returns 0 if the graphic has no such property. count is 1, reserved is 0.
+    // Stores the number of the property named *ppszName, which is valid for this graphic only. Names are
+    // case-sensitive. Returns 0 if the graphic has no such property. count is 1, reserved is 0.
     int (*PropLookup)(GraphicStruct*, const char* const* ppszName, int count, int reserved, int32_t* pNumber);
     // Stores the value in *pValue and returns non-zero. Pages set the variable to 0 beforehand and ignore the result.
     int (*PropGet)(GraphicStruct*, int32_t number, int vt, void* pValue);
-    // Sets the value from *pValue. Returns 0 if the graphic does not accept it; the user is then told how many graphics
-    // could not be changed.
+    // Sets the value to *pValue. Returns 0 if the graphic rejects it; the user is then told how many graphics could not
+    // be changed.
     int (*PropSet)(GraphicStruct*, int32_t number, int vt, const void* pValue);
 };

@@ -4,12 +4,12 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Sets the text and its position. The left end of the baseline is at `position`. height is the height of a capital
-// letter in drawing units; 0 or less leaves it unchanged. If width is above 0, the text is stretched to that length.
-// angle is in radians. Lines are separated by '\n'. Returns 0, and changes nothing, if the graphic is not a text or a
-// number is not finite. The text is copied.
+// Sets the text, which is copied, and its position: the left end of its baseline. height is the height of a capital
+// letter in drawing units; 0 or less leaves it unchanged. If width is above 0, the text is stretched to that length, in
+// drawing units. angle is in radians. Lines are separated by '\n'. Returns 0, and changes nothing, if the graphic is
+// not a text or a number is not finite.
 // Called: when the Text page opens, for its preview; width and angle are 0.
-// Stub: return 0. Lost: the preview of the Text page; nothing, if there are no texts.
+// Stub: return 0. Lost: the preview of the Text page; nothing, if the database has no texts.
 // Failure: the result is ignored; the preview is empty.
 DRAWCORE_API int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* position, double width, double height,
                                double angle, const char* text);

@@ -63,15 +63,15 @@ ORLO_CONSTANT uint32_t kAllGraphics = 0xFFFFFFFFu;                  // all graph
 ORLO_CONSTANT uint32_t kWithStylePart = 0xFFFFFFFFu - kNoStylePart; // all graphics, with the style part
 
 // Markers: colors that are not a COLORREF (0x00bbggrr). An indeterminate value (color, line style, brush style, scale
-// system) means that the graphics of a selection differ; it is never stored in a graphic.
+// system) means that the selected graphics have different values; it is never stored in a graphic.
 ORLO_CONSTANT uint32_t kColorIndeterminate = 0xFFFFFFFFu;
 ORLO_CONSTANT uint32_t kColorNone = 0xFFFFFFFEu;
 ORLO_CONSTANT uint32_t kColorByLayer = 0xFFFFFFFDu;
 ORLO_CONSTANT uint32_t kColorByBlock = 0xFFFFFFFCu;
 ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // brushes only: the color of the pen
 
-// Markers: pen widths other than lengths, which are not negative. PropSet can accept them; PropGet returns the width
-// that they stand for.
+// Markers: pen widths that are not lengths; lengths are never negative. PropSet may accept them. PropGet returns the
+// resolved width instead.
 ORLO_CONSTANT double kPenWidthByLayer = -0x1p126;
 ORLO_CONSTANT double kPenWidthByBlock = -0x1p127;
 
@@ -128,8 +128,8 @@ enum {
     kStringSampleText = 0x705C  // the preview of the Text page; at most 63 characters
 };
 
-// Strings that name the host's predefined styles, which users cannot delete. In the order in which the library
-// compares.
+// Identifiers of the strings that name the host's predefined styles, which users cannot delete, in the order in which
+// the library compares them.
 ORLO_CONSTANT unsigned int kStringsReservedStyles[] = {0x704A, 0x704B, 0x704C, 0x704D, 0x704E, 0x7050, 0x704F, 0x7051};
 
 // Kinds of the library's controls (OrloFill::kind, and the low word of wParam in a notification). A kind is not the
@@ -146,9 +146,9 @@ typedef enum ControlKind {
     kControlBrushStyleList = 0x7D18
 } ControlKind;
 
-// Codes with which the General page ends a sheet over a style. The sheet is then closed, and the drawing is unchanged
-// except for a style that was added; the host does the rest. With identifiers of 1000 and more a code can be read in
-// two ways: the host checks which one names a style.
+// Codes with which the General page closes a sheet for a style. The library has changed nothing in the drawing, except
+// that a style may have been added; the host carries out the action. If identifiers reach 1000, a code has two
+// interpretations, and the host must check which of them is a style.
 typedef enum StyleEndCode {
     kStyleAdded = 1000,     // a style was added to the table: a copy of the sheet's graphics
     kStyleChosen = 1000,    // + identifier: the user selected a style and moved to another control

@@ -142,7 +142,8 @@ def reference(functions, notes):
         stub = function.tags.get("Stub", "The function is required.")
         yield wrapped("Stub: " + code(stub) if "Stub" in function.tags else stub, "* ")
         if "Failure" in function.tags:
-            yield wrapped("Failure: " + code(function.tags["Failure"]), "* ")
+            failure = re.sub("^Failure: (null|0): ", r"Failure (\1): ", "Failure: " + function.tags["Failure"])
+            yield wrapped(code(failure), "* ")
 
 
 def main():
