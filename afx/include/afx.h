@@ -75,7 +75,7 @@ struct AFX_API CRuntimeClass {
 
     // Returns a new object of the class, owned by the caller, or null if the class does not support it.
     CObject* CreateObject();
-    // Returns true if the class is pBaseClass or derived from it.
+    // Returns true if the class is pBaseClass or is derived from it.
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
 };
 
@@ -154,7 +154,7 @@ public:
     int Compare(LPCSTR lpsz) const;
     int CompareNoCase(LPCSTR lpsz) const;
 
-    // Return a part of the string. Ranges that exceed the string are limited to it.
+    // Return a part of the string. A range that exceeds the string is clipped.
     CString Mid(int nFirst) const;
     CString Mid(int nFirst, int nCount) const;
     CString Left(int nCount) const;
@@ -173,10 +173,10 @@ public:
     void Format(LPCSTR lpszFormat, ...) __attribute__((format(AFX_PRINTF, 2, 3)));
     void FormatV(LPCSTR lpszFormat, va_list args);
 
-    // Return a buffer for at least that many characters and the NUL. It contains the present string.
+    // Return a buffer for at least the given number of characters and the NUL. It contains the current string.
     LPSTR GetBuffer(int nMinBufLength);
     LPSTR GetBufferSetLength(int nNewLength);
-    // Sets the length after the buffer was changed. -1: the string ends at its first NUL.
+    // Sets the length after the buffer was changed. If it is -1, the string ends at the first NUL.
     void ReleaseBuffer(int nNewLength = -1);
 
 #if defined(AFX_HAS_WINDOWS)
@@ -235,8 +235,8 @@ public:
     // Copies the message, at most nMaxError bytes including the NUL. Returns false, and stores an empty string, if the
     // exception has no message.
     virtual BOOL GetErrorMessage(LPSTR lpszError, UINT nMaxError, UINT* pnHelpContext = nullptr);
-    // Shows the message in a message box. An exception without a message shows the string nMessageID (0: the
-    // framework's "internal error"). Returns the identifier of the button.
+    // Shows the message in a message box. If the exception has no message, shows the string nMessageID (0: the
+    // framework's "internal error"). Returns the identifier of the button that was pressed.
     int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 #endif
 
@@ -292,7 +292,7 @@ public:
 
     explicit CFileException(int cause = none, LONG lOsError = 0, LPCSTR lpszFileName = nullptr);
     ~CFileException() override;
-    // Returns the cause for a value of errno.
+    // Returns the cause that corresponds to a value of errno.
     static int ErrnoToException(int nErrno);
 
     int m_cause;
@@ -312,7 +312,7 @@ public:
 // ---- Buffered files
 
 // A buffered file of the C library, in text mode unless typeBinary is given. Functions that read, write or seek throw a
-// CFileException on failure. The destructor closes the file and ignores failures.
+// CFileException if they fail. The destructor closes the file and ignores failures.
 class AFX_API CStdioFile : public CObject {
     DECLARE_DYNAMIC(CStdioFile)
 public:

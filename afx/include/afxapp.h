@@ -21,12 +21,12 @@ public:
     virtual BOOL OnIdle(LONG lCount);
     // Called before a message is dispatched. Return TRUE if it was handled.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    // Waits for a message and dispatches it. Returns false for WM_QUIT.
+    // Waits for a message and dispatches it. Returns false if the message is WM_QUIT.
     BOOL PumpMessage();
 
     // Called for an exception that a message handler has thrown; returns the result of the message. Shows the
-    // exception's message unless it is a CUserException. Exceptions that a window throws while it is painted are shown
-    // once.
+    // exception's message unless it is a CUserException. If a window throws exceptions while it is painted, the message
+    // is shown only once.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
 
 private:
@@ -35,7 +35,7 @@ private:
     int m_nExitCode; // wParam of WM_QUIT
 };
 
-// The only application object of a program, which AfxGetApp and AfxGetThread return.
+// The application object, of which a program has only one. AfxGetApp and AfxGetThread return it.
 class AFX_API CWinApp : public CWinThread {
     DECLARE_DYNAMIC(CWinApp)
 public:
@@ -81,7 +81,7 @@ protected:
     void PostNcDestroy() override;
 };
 
-// Return null if there is no such object; AfxGetThread returns null on other threads than the application's.
+// Return null if there is no such object. AfxGetThread also returns null on threads other than the application's.
 AFX_API CWinThread* AfxGetThread();
 AFX_API CWinApp* AfxGetApp();
 AFX_API CWnd* AfxGetMainWnd();
@@ -93,7 +93,8 @@ AFX_API LPCSTR AfxGetAppName();
 AFX_API int AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPSTR lpCmdLine, int nCmdShow);
 
 // ---- Resources
-// They are searched for in the program, in the extension modules from the latest to the first, and in the framework.
+// They are searched for in the program, then in the extension modules, starting with the one added last, then in the
+// framework.
 
 // Returns the module that contains the resource, or the program if no module does.
 AFX_API HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType);
@@ -102,7 +103,8 @@ AFX_API int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf = 256);
 
 // ---- Messages to the user
 
-// Show a message box and return the identifier of the button. If nType has no icon, the exclamation mark is used.
+// Show a message box and return the identifier of the button that was pressed. If nType specifies no icon, the
+// exclamation mark is shown.
 AFX_API int AfxMessageBox(LPCSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
 AFX_API int AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = static_cast<UINT>(-1));
 // Load the string nIDS and replace %1 and %2 in it.

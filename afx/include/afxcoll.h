@@ -1,4 +1,4 @@
-// Collections: a list of objects, maps with numbers or strings as keys, an array of words. They do not own their
+// Collections: a list of objects, maps with numbers or strings as keys, and an array of words. They do not own their
 // elements. Maps are iterated in the order in which the keys were inserted.
 #pragma once
 
@@ -92,8 +92,8 @@ inline std::size_t AfxHashKey(WORD key) {
 }
 AFX_API std::size_t AfxHashKey(LPCSTR key);
 
-// Base class of the maps: a hash table that grows with its contents, so that inserting n keys takes O(n). ARG_KEY is
-// the type of key parameters.
+// Base class of the maps: a hash table that grows with its contents, so that inserting n keys takes O(n) time. ARG_KEY
+// is the type of key parameters.
 template <class KEY, class ARG_KEY, class VALUE>
 class AfxMap : public CObject {
 public:
@@ -108,7 +108,7 @@ public:
         return TRUE;
     }
     void SetAt(ARG_KEY key, VALUE newValue) { (*this)[key] = newValue; }
-    // Returns the value of the key, which is inserted with a null value if it does not exist.
+    // Returns the value of the key. If the key does not exist, inserts it with a null value.
     VALUE& operator[](ARG_KEY key) {
         const std::size_t hash = AfxHashKey(key);
         if (Node* node = FindNode(key, hash)) return node->m_value;

@@ -1,6 +1,6 @@
-// The system's controls as CWnd classes. Owner-draw list boxes and combo boxes receive the messages for their items as
-// calls of virtual functions, once the object has its window. Before that, the messages get the system's default
-// handling.
+// The system's controls as CWnd classes. For owner-draw list boxes and combo boxes, the messages for items become calls
+// of virtual functions as soon as the object is attached to its window. Before that, the system's default handling
+// applies.
 #pragma once
 
 #include <afxwnd.h>
@@ -111,7 +111,7 @@ public:
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
-    // Passes the message of the combo box's list to the parent, which passes it to this object.
+    // Passes the message of the combo box's list to the parent, which passes it back to this object.
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     DECLARE_MESSAGE_MAP()
 

@@ -5,8 +5,9 @@
 //       DDX_Check(pDX, IDC_BOLD, m_bBold);
 //   }
 //
-// When the window of a dialog has been created, WM_INITIALUPDATE is sent to all its descendants. Then OnInitDialog does
-// the first exchange. A control that fills itself at that message is therefore filled before its value is set.
+// After the window of a dialog has been created, WM_INITIALUPDATE is sent to all of its descendants. Then OnInitDialog
+// performs the first exchange. A control that fills itself in response to that message is therefore filled before its
+// value is set.
 #pragma once
 
 #include <afxwnd.h>
@@ -24,13 +25,14 @@ public:
     BOOL m_bSaveAndValidate; // TRUE: from controls to variables; FALSE: from variables to controls
     CWnd* m_pDlgWnd;
 
-    // Return the window of a control, which will get the focus if Fail is called; after PrepareEditCtrl its text is
-    // selected then. Throw a CNotSupportedException if there is no such control.
+    // Return the window of a control. If Fail is called, this control gets the focus and, after PrepareEditCtrl, its
+    // text is selected. Throw a CNotSupportedException if there is no such control.
     HWND PrepareCtrl(int nIDC);
     HWND PrepareEditCtrl(int nIDC);
     // Takes ownership of an object until the exchange ends.
     void Keep(std::unique_ptr<CObject> pObject);
-    // Throws a CUserException and sets the focus to the control that was prepared last. Inform the user before.
+    // Sets the focus to the control that was prepared last and throws a CUserException. The caller must have informed
+    // the user.
     [[noreturn]] void Fail();
 
 private:
@@ -76,7 +78,7 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-    // Saves, and ends the dialog with IDOK if all values are valid.
+    // Saves the values and, if all of them are valid, ends the dialog with IDOK.
     virtual void OnOK();
     // Ends the dialog with IDCANCEL.
     virtual void OnCancel();

@@ -23,7 +23,7 @@ class CPropertySheet;
 class AFX_API CPropertyPage : public CDialog {
     DECLARE_DYNAMIC(CPropertyPage)
 public:
-    // nIDCaption is the string for the tab; 0: the caption of the template.
+    // nIDCaption is the string for the tab; if it is 0, the caption of the template is used.
     explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0);
     explicit CPropertyPage(LPCSTR lpszTemplateName, UINT nIDCaption = 0);
     ~CPropertyPage() override;
@@ -31,11 +31,11 @@ public:
     // Marks the page as modified. The Apply button of the sheet is enabled while a page is modified.
     void SetModified(BOOL bChanged = TRUE);
 
-    // Called when the page is activated. Creates its window if it does not exist. Returns false if that fails or if the
-    // first exchange fails, of which the user has then been informed. If the page
-    // throws here or in OnKillActive, it is not activated or left, as if it had returned FALSE.
+    // Called when the page is activated. Creates its window if it does not exist. Returns false if this or the first
+    // exchange fails; the user has then been informed. An exception here or in OnKillActive has the same effect as
+    // returning FALSE: the page is not activated, or not left.
     virtual BOOL OnSetActive();
-    // Called before the page is left. Saves, and returns false if a value is invalid.
+    // Called before the page is left. Saves the values. Returns false if a value is invalid.
     virtual BOOL OnKillActive();
     void OnOK() override;
     void OnCancel() override;
@@ -45,7 +45,8 @@ public:
 protected:
     BOOL m_bChanged;
     HINSTANCE m_hTemplateModule; // module of the template; null: searched for in the list of modules
-    // A template in memory, in place of a resource, if not empty. m_lpszTemplateName is then only the page's identity.
+    // If not empty, a template in memory that is used instead of a resource. m_lpszTemplateName then only identifies
+    // the page.
     std::vector<BYTE> m_dialogTemplate;
     // TRUE: edit fields of combo boxes scroll, even without CBS_AUTOHSCROLL in the template. Without scrolling, text is
     // limited to the width of the field.
@@ -110,7 +111,7 @@ public:
     CPropertyPage* GetActivePage() const; // null if none is active
     // Activate a page. Return false, and change nothing, if the active page cannot be left or the new one cannot be
     // created. The active page then remains active and visible. An exception of either page is reported like one of a
-    // message handler, whether the user clicks, presses a key, or the program calls this.
+    // message handler, whether the user or the program activates the page.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage);
     CTabCtrl* GetTabControl() const { return const_cast<CTabRow*>(&m_tabRow); }
@@ -126,18 +127,18 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
-    // For derived classes that replace OnCreate; they return false on failure. BeginCreate does the default handling of
-    // the message, sets the caption, and makes sure that m_nCurPage is one of the pages.
+    // For derived classes that replace OnCreate; these functions return false on failure. BeginCreate performs the
+    // default handling of the message, sets the caption, and ensures that m_nCurPage is one of the pages.
     bool BeginCreate();
     // Creates the tab control with a tab for each page, in m_font and with the width of `place`.
     bool CreateTabRow(DWORD dwStyle, const RECT& place, UINT nID);
-    // Sets the focus to the first control of the active page; without one to the tabs or the default button.
+    // Sets the focus to the first control of the active page or, if there is none, to the tabs or the default button.
     void FocusActivePage();
-    // Returns the place of a page that is shown, in client coordinates. The default is `before`, the place of the
-    // previous page; an empty rectangle leaves the page where it is.
+    // Returns the position and size at which a page is shown, in client coordinates. The default is `before`, those of
+    // the previous page; an empty rectangle leaves the page where it is.
     virtual CRect GetPagePlace(const CPropertyPage& page, const CRect& before) const;
 
-    // Pixels. Set when the window of the first page is created: 50 x 14, 4 x 4 and 4 of its dialog units.
+    // In pixels. Set to 50 x 14, 4 x 4 and 4 dialog units of the first page when its window is created.
     CSize m_sizeButton;
     CSize m_sizeTabMargin;
     int m_cxButtonGap;

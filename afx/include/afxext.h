@@ -14,7 +14,7 @@ struct AFX_EXTENSION_MODULE {
     HMODULE hResource;
 };
 
-// Initializes the module. Returns true, also when called again.
+// Initializes the module. Returns true, even if the module is already initialized.
 AFX_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
 // Removes the module from the list of modules.
 AFX_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state);

@@ -1,8 +1,8 @@
 // Points, sizes and rectangles; device contexts and drawing objects. Coordinates are logical coordinates of the device
 // context.
 //
-// FromHandle returns a temporary object for a handle. It is valid until the current message has been handled and never
-// frees the handle.
+// FromHandle returns a temporary object for a handle, which is valid until the current message has been handled and
+// does not free the handle.
 #pragma once
 
 #include <afx.h>

@@ -6,8 +6,8 @@
 //   ON_MESSAGE(WM_APP, &CMyDialog::OnData)            LRESULT OnData(WPARAM wParam, LPARAM lParam)
 //   END_MESSAGE_MAP()
 //
-// A class with a message map has DECLARE_MESSAGE_MAP() at its end. The first entry for a message is used; messages
-// without an entry are passed to the map of the base class. A handler with a wrong signature does not compile.
+// A class with a message map has DECLARE_MESSAGE_MAP() at its end. The first entry that matches a message is used;
+// other messages are passed to the map of the base class. A handler with a wrong signature does not compile.
 #pragma once
 
 #include <afx.h>

@@ -6,9 +6,9 @@
 //
 // Exceptions never leave a window procedure: they are passed to CWinThread::ProcessWndProcException.
 //
-// Strings and structures are the 8-bit ones (LPCREATESTRUCTA), also in a program that defines UNICODE. Members whose
-// names are macros of windows.h (GetWindowText) have other names in such a program; they are inline, so that the linker
-// does not look for them.
+// Strings and structures are the 8-bit ones (LPCREATESTRUCTA), even in a program that defines UNICODE. Members whose
+// names are macros in windows.h (GetWindowText) have different names in such a program. They are inline, so that the
+// linker does not look for them.
 #pragma once
 
 #include <afxgdi.h>
@@ -20,7 +20,7 @@ class CDataExchange;
 class CFrameWnd;
 struct CCreateContext;
 
-// A virtual function must have one name, which the macro of windows.h would change in programs that define UNICODE.
+// The macro in windows.h would give this virtual function a different name in programs that define UNICODE.
 #undef DefWindowProc
 static inline LRESULT CALLBACK DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
 #ifdef UNICODE
@@ -42,7 +42,7 @@ public:
     ~CCmdTarget() override;
     static const AFX_MSGMAP messageMap;
 
-    // Called when the last user has released the object. Deletes it.
+    // Called when the last reference to the object has been released. Deletes the object.
     virtual void OnFinalRelease();
 
     // Calls the handler of a command (nCode is CN_COMMAND) or notification or, if pHandlerInfo is not null, stores it
@@ -61,23 +61,23 @@ class AFX_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
     CWnd();
-    // Destroys the window if it still exists. The derived class does not receive messages for that.
+    // Destroys the window if it still exists. The derived class receives no messages about that.
     ~CWnd() override;
 
     HWND m_hWnd;
     HWND GetSafeHwnd() const { return m_hWnd; }
 
     // ---- Objects and windows
-    // Return the object of a window. Without one, FromHandle creates a temporary object and FromHandlePermanent returns
-    // null.
+    // Return the object of a window. If the window has none, FromHandle creates a temporary object, and
+    // FromHandlePermanent returns null.
     static CWnd* FromHandle(HWND hWnd);
     static CWnd* FromHandlePermanent(HWND hWnd);
     // Attach and detach a window without subclassing it. Attach returns false if hWndNew is null; Detach returns the
     // window.
     BOOL Attach(HWND hWndNew);
     HWND Detach();
-    // Attach a window and receive its messages. Return false if the window does not exist or the object has one
-    // already.
+    // Attach a window and receive its messages. Return false if the window does not exist or the object already has
+    // one.
     BOOL SubclassWindow(HWND hWnd);
     BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
     // Restores the window's procedure, detaches the window and returns it.
@@ -154,7 +154,8 @@ public:
     void ClientToScreen(LPRECT lpRect) const;
     void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(LPRECT lpRect) const;
-    // Centers the window over pAlternateOwner or, if it is null, its owner. It is kept completely on the monitor.
+    // Centers the window over pAlternateOwner or, if that is null, over its owner, keeping it completely on the
+    // monitor.
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
@@ -187,14 +188,15 @@ public:
         return ShowMessage(lpszText, lpszCaption, nType);
     }
 
-    // Destroys the window, which ends with PostNcDestroy; without a window calls PostNcDestroy.
+    // Destroys the window, which ends with a call of PostNcDestroy. If there is no window, calls PostNcDestroy
+    // directly.
     void OnFinalRelease() override;
     // Shows help: sends WM_COMMANDHELP to this window and its parents until one returns non-zero.
     afx_msg void OnHelp();
 
 protected:
-    // Returns the address of the variable with the window's original procedure. If that is null, it is the system's
-    // default.
+    // Returns the address of the variable that contains the window's original procedure. If the variable is null, the
+    // system's default procedure is used.
     virtual WNDPROC* GetSuperWndProcAddr();
     // Called before the window is created; can change cs. Return FALSE to cancel.
     virtual BOOL PreCreateWindow(CREATESTRUCTA& cs);
@@ -235,7 +237,7 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
 
-    // Pass owner-draw messages to the permanent object of the control; without one they call Default.
+    // Pass owner-draw messages to the permanent object of the control, or call Default if there is no such object.
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
     afx_msg int OnCompareItem(int nIDCtl, LPCOMPAREITEMSTRUCT lpCompareItemStruct);
@@ -268,15 +270,16 @@ private:
 };
 
 // Returns the window procedure of all windows that have an object. Messages for a window without an object are passed
-// to the procedure that AfxRegisterSuperWndProc has registered for its class, else to that of the class.
+// to the procedure that AfxRegisterSuperWndProc has registered for the window's class or, if there is none, to the
+// procedure of the class.
 AFX_API WNDPROC AfxGetAfxWndProc();
 
 // Registers the procedure for windows of a class that have the procedure AfxGetAfxWndProc() but no object. For window
-// classes that create an object for some of their windows only.
+// classes that create an object for only some of their windows.
 AFX_API void AfxRegisterSuperWndProc(ATOM atomClass, WNDPROC pfnSuper);
 
-// AfxHookWindowCreate makes pWnd the object of the next window that is created on this thread, before its first
-// message. AfxUnhookWindowCreate ends that and returns true if a window was created.
+// AfxHookWindowCreate attaches pWnd to the next window that is created on this thread, before its first message.
+// AfxUnhookWindowCreate ends this and returns true if a window was created.
 AFX_API void AfxHookWindowCreate(CWnd* pWnd);
 AFX_API BOOL AfxUnhookWindowCreate();
 
