@@ -1,5 +1,5 @@
 // CCheckListBox: a list box with a check box in front of each item, for host programs. A click anywhere on an item
-// toggles it, and so does the space bar for the current item; a double click toggles twice. An unchecked box is drawn
+// toggles the item; a double click toggles it twice. The space bar toggles the current item. An unchecked box is drawn
 // sunken, like the bitmap of the check mark, so that it can be seen on the list's background.
 //
 //   CCheckListBox list;
@@ -7,9 +7,9 @@
 //   list.AddString("Walls", 1);
 //   if (list.IsItemChecked(0)) ...
 //
-// Screen readers get a check button for each item.
+// Screen readers find a check button for each item.
 //
-// The item data stores the check state and belongs to the class: 0 is unchecked, any other value checked.
+// The class uses the item data for the check state: 0 is unchecked, any other value is checked.
 #pragma once
 
 #include <afxwin.h>

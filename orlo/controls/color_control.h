@@ -8,8 +8,8 @@
 //   kColorOfPen                      second extra entry, named by the host
 //   kColorByBlock                    shown if a graphic has it; never listed
 //
-// Two nested frames mark the current row of the open list, so that one of them is visible on any color. A disabled
-// field shows the name in gray, with a frame in the color.
+// Two nested frames mark the current row of the open list, so that at least one of them is visible on any color. A
+// disabled field shows the name in gray, with a frame in the color.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

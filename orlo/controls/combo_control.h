@@ -1,23 +1,23 @@
-// CComboControl: a combo box that shows the entries of a host table; base of the library's combo boxes. It draws
-// nothing itself.
+// CComboControl: the base class of the library's combo boxes, which show the entries of a host table. It draws nothing
+// itself.
 //
-// In a dialog template the control is created by its window class and identifier (control_classes.h), and the object is
-// deleted with its window. Created from code, the object belongs to the program:
+// In a dialog template, the window class and the identifier create the control (control_classes.h), and the object is
+// deleted with its window. If the program creates the object, it also owns it:
 //
 //   CColorControl colors;                                        // or DDX_Control(1, pDX, IDC_COLOR, colors)
 //   colors.Create(WS_CHILD | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS, rect, this, IDC_COLOR);
 //   colors.SendMessage(kFillMessage, 0, reinterpret_cast<LPARAM>(&fill));
 //
-// The controls use the system's colors. A closed field shows the focus by the system's focus rectangle, and the
-// disabled state by gray text on the dialog's color.
+// The controls use the system's colors. A closed field shows the focus with the system's focus rectangle, and the
+// disabled state with gray text on the dialog's color.
 //
-// The control does not request its table. On WM_INITIALUPDATE it notifies the application with kControlReady and its
-// window handle; the host can send kFillMessage (control_fill.h) then and at any later time.
+// The control does not look up its table. On WM_INITIALUPDATE, it notifies the application with kControlReady and its
+// window handle. The host can send kFillMessage (control_fill.h) then and at any later time.
 //
 // An edit field scrolls horizontally even without CBS_AUTOHSCROLL in the style. A subclassed combo box keeps the edit
-// field it was created with: without CBS_AUTOHSCROLL it accepts only as much text as fits.
+// field that it was created with, which without CBS_AUTOHSCROLL accepts only as much text as fits.
 //
-// Screen readers get the names of the items without their keys, and "varied" for a field that shows none of its items.
+// Screen readers receive the names of items without their keys, and "varied" for a field that shows none of its items.
 //
 // Escape in the open list restores the selection from before it was opened and notifies the parent of the change.
 #pragma once
@@ -32,9 +32,9 @@
 #include "orlo/controls/control_kind.h"
 #include "orlo/export.h"
 
-// Codes of the WM_COMMAND that is sent to the top-level frame, else to the thread's main window; without either it is
-// not sent. The low word of wParam is the kind of the control (m_nControlID), the high word one of these codes, lParam
-// the control's window.
+// Codes of the WM_COMMAND that is sent to the top-level frame or, if there is none, to the thread's main window. If
+// neither exists, it is not sent. The low word of wParam is the kind of the control (m_nControlID), the high word one
+// of these codes, lParam the control's window.
 enum ControlNotification : unsigned { kControlReady = 0x21, kControlGone = 0x22 };
 
 class ComboState;
@@ -60,10 +60,10 @@ public:
     virtual unsigned long GetControlItem(int index, char* text);
     // Fills the control. lParam: const ControlFillRecord*; null is treated as a record without a table.
     virtual void FillControl(WPARAM wParam, LPARAM lParam);
-    // Adds an item with exactly that text. Returns its index, negative on failure.
+    // Adds an item with exactly the given text. Returns its index, or a negative number on failure.
     virtual int AddControlItem(const char* text);
-    // Returns the text of an item for screen readers; with -1, that of the closed field without a selection. By default
-    // the item's name, or "varied" without an item.
+    // Returns the text of an item for screen readers or, for the index -1, that of the closed field without a
+    // selection. By default, this is the item's name, or "varied" if there is no item.
     virtual CString DescribeItem(int index);
 
     unsigned int m_nControlID;

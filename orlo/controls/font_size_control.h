@@ -2,14 +2,14 @@
 //
 // The host fills it with any table of the drawing, the height in dwValue (the bits of a float) and any nSelected but
 // kEntryNone and kEntryIndeterminate. The list contains the heights of the drawing's current font (kUnitFontName in its
-// units table); a height that is missing is added. Return in the edit field is reported as selecting an item.
+// units table); a missing height is added. Pressing Return in the edit field is reported as selecting an item.
 #pragma once
 
 #include "orlo/controls/combo_control.h"
 
-// The edit field of a combo box of the library. Notifies the application when Return is pressed: the thread's main
-// window gets WM_COMMAND as if an item had been selected, CBN_SELENDOK with the kind of the combo box (its
-// m_nControlID) and its window. Then the main window gets the focus.
+// The edit field of a combo box of the library. When Return is pressed, it sends WM_COMMAND to the thread's main window
+// as if an item had been selected (CBN_SELENDOK with the kind of the combo box, its m_nControlID, and its window), and
+// then sets the focus to the main window.
 class ORLO_API CEnterEdit : public CWnd {
     DECLARE_DYNAMIC(CEnterEdit)
 public:

@@ -1,5 +1,5 @@
-// CListControl: a list box that shows the entries of a host table; base of the library's list boxes. Creation and
-// filling are described at its counterpart, CComboControl. It draws nothing itself.
+// CListControl: the base class of the library's list boxes, which show the entries of a host table. It draws nothing
+// itself. Its counterpart, CComboControl, describes how controls are created and filled.
 #pragma once
 
 #include <afxwin.h>

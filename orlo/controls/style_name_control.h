@@ -2,8 +2,8 @@
 // as plain names.
 //
 // The host fills it with a table of blocks and the identifier of one of them. Blocks belong to the same tree if the
-// pszStyleName of their graphics is equal; for a block without one the list is empty. If the control is owner-drawn, a
-// frame marks the current row of the open list.
+// pszStyleName of their graphics is equal. For a block without a style name, the list is empty. If the control is
+// owner-drawn, a frame marks the current row of the open list.
 #pragma once
 
 #include "orlo/controls/combo_control.h"

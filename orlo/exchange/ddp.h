@@ -59,6 +59,6 @@ ORLO_API void DDP_EndRadio(CDataExchange* pDX, int nID, unsigned short* pMember,
 ORLO_API void DDP_EndBits(CDataExchange* pDX, int nID, unsigned short* pMember, const char* pszPropName);
 
 // When saving, carries out the pending writes and sets the page's number on every selected graphic. An exception during
-// a write ends that write only; a CException is ignored. Finally one message box reports how many graphics rejected a
-// value (PropSet returned 0 or threw), and any other exception text.
+// a write ends that write only; a CException is ignored. Finally, one message box reports how many graphics rejected a
+// value (PropSet returned 0 or threw an exception), and the text of any other exception.
 ORLO_API void DDP_PostProcessing(CDataExchange* pDX);

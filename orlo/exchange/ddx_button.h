@@ -11,7 +11,7 @@ ORLO_API int DDX_Check(int bReport, CDataExchange* pDX, int nIDC, int& value);
 ORLO_API int DDX_Check(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value);
 
 // Exchange the index of the checked button among the radio buttons from nIDC to the next control that starts a group.
-// Without a checked button: -1, or 0xFFFF in the 16-bit form. If several are checked, the last one is used.
+// If no button is checked, the index is -1, or 0xFFFF in the 16-bit form. If several are checked, the last one is used.
 ORLO_API int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, int& value);
 ORLO_API int DDX_Radio(int bReport, CDataExchange* pDX, int nIDC, unsigned short& value);
 

@@ -13,7 +13,7 @@ ORLO_API int DDX_LBString(int bReport, CDataExchange* pDX, int nIDC, CString& va
 // selection if it is not in the list.
 ORLO_API int DDX_CBString(int bReport, CDataExchange* pDX, int nIDC, CString& value);
 
-// Save: same as the framework's functions without Exact. Load: text that is not in the list changes nothing.
+// Save: same as the functions without Exact. Load: text that is not in the list changes nothing.
 ORLO_API int DDX_LBStringExact(int bReport, CDataExchange* pDX, int nIDC, CString& value);
 ORLO_API int DDX_CBStringExact(int bReport, CDataExchange* pDX, int nIDC, CString& value);
 

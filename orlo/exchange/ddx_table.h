@@ -1,10 +1,9 @@
 // Data exchange of an entry of a host table: the item of a control that shows the table, and the entry's 16-bit
 // identifier. See ddx.h for the convention, controls/control_item.h for the text of an item.
 //
-//   m_nStyle = 0xFFFFFFFF;                                     // multiple values
-//   DDX_LBTableIndex(1, pDX, IDC_LINE_STYLE_LIST, m_nStyle);   // load: no item has this key, the selection is
-//   unchanged
-//                                                              // save: without a selection, m_nStyle is unchanged
+//   m_nStyle = 0xFFFFFFFF; // multiple values
+//   // Load: no item has this key, so the selection is unchanged. Save: without a selection, m_nStyle is unchanged.
+//   DDX_LBTableIndex(1, pDX, IDC_LINE_STYLE_LIST, m_nStyle);
 #pragma once
 
 #include <afxwin.h>

@@ -6,7 +6,7 @@
 #include "orlo/export.h"
 
 // Exchange integers. Only white space may surround the number, and the whole text is parsed regardless of its length.
-// Numbers beyond 32 bits become the limit. The 8-bit form rejects numbers above 255; the 16-bit form keeps the low 16
+// Numbers that exceed 32 bits are clamped. The 8-bit form rejects numbers above 255; the 16-bit form keeps the low 16
 // bits.
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, unsigned char& value);
 ORLO_API int DDX_Text(int bReport, CDataExchange* pDX, int nIDC, int& value);

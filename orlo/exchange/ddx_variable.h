@@ -1,7 +1,7 @@
 // Data exchange between a control and a variable of a host table. See ddx.h for the convention.
 //
-//   DDX_TextVarNumeric(1, pDX, 104, drawing->pUnits, 0x5100, 0.5, 20.0);   // validates the field, then writes the
-//   table
+//   // Validates the field, then writes the variable.
+//   DDX_TextVarNumeric(1, pDX, 104, drawing->pUnits, 0x5100, 0.5, 20.0);
 //
 // Rejected text leaves the table unchanged. A missing variable is displayed as 0 or empty. Only the low 16 bits of an
 // identifier are used.

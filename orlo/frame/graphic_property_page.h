@@ -1,9 +1,9 @@
 // The base of every page that edits the selected graphics: the library's own pages, and pages that a host derives.
 //
-// Graphics are not changed while the user edits. Notifications set a dirty flag per control, and when the page is left,
-// the edited controls are written back, either all or none. A dirty control that displays the same as when it was
-// loaded is not edited: its member keeps the loaded value, which may have more digits than the text shows, and nothing
-// is written. Notifications are ignored while the page is being loaded.
+// Graphics do not change while the user is editing. Notifications set a dirty flag for each control. When the page is
+// left, the values of the edited controls are written back, either all or none. A dirty control that displays the same
+// as when it was loaded does not count as edited: its member keeps the loaded value, which may have more digits than
+// the text shows, and nothing is written. Notifications are ignored while the page is being loaded.
 //
 // A derived page supplies a dialog template and DoDataExchange; with a preview also CreatePreviewGraphic and
 // SetPreviewProperties:
@@ -39,7 +39,7 @@ class ORLO_API CGraphicPropertyPage : public COrloPropertyPage {
     DECLARE_DYNAMIC(CGraphicPropertyPage)
 
 public:
-    // Uses the low 16 bits of nIDTemplate. With caption 0 the title is that of the template.
+    // Uses the low 16 bits of nIDTemplate. If nIDCaption is 0, the title is the caption of the template.
     CGraphicPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption);
     ~CGraphicPropertyPage() override;
 
@@ -50,10 +50,10 @@ public:
     // Draws this page's preview graphic, if any, into rect (device pixels) of a CGraphicPreview's viewport.
     virtual void DrawPreview(CDC* pDC, void* pViewport, CRect& rect);
     virtual void SetModifiedFlag(int bModified);
-    // Creates a graphic that is in no group and that the page will own; null for no preview.
+    // Returns a new graphic without an owner, which the page then owns, or null for no preview.
     virtual void* CreatePreviewGraphic();
-    // Transfers the values of all controls, or with bAll 0 of dirty ones, to the preview graphics without reporting
-    // errors, and ends with UpdatePreview(1).
+    // Transfers the values of all controls, or only of dirty ones if bAll is 0, to the preview graphics without
+    // reporting errors, and then calls UpdatePreview(1).
     virtual void SetPreviewProperties(int bAll);
     virtual void OnObjectsChanged();
     virtual int OnEditProperty(long dispid);

@@ -43,13 +43,13 @@ public:
     // Returns the preview graphic of the active page, or null.
     GraphicStruct* GetPreviewGraphic();
 
-    // Invalidates the preview; with bNow also repaints it before returning.
+    // Invalidates the preview. If bNow is set, also repaints it before returning.
     ORLO_API void UpdatePreview(int bNow);
     ORLO_API void UpdateDesc(int);
     // Draws the active page's preview graphic into rect (device pixels).
     ORLO_API void DrawPreview(CDC* pDC, void* pViewport, CRect& rect);
 
-    // Makes OK end the dialog with this code, without a data exchange if it is called before OK.
+    // Makes OK end the dialog with this code. If it is called before OK, there is no data exchange.
     void EndWithCode(int nEndCode);
 
     // Called by a page when something has changed. Bit 0: a control became dirty; bit 1: an edit of a dirty control
@@ -58,7 +58,8 @@ public:
     // Sizes the sheet to the active page.
     virtual void RecalcLayout();
 
-    // Called after a page has written: with the numbers of graphics that accepted a value, and that rejected one.
+    // Called after a page has written, with the number of graphics that accepted a value and the number that rejected
+    // one.
     using Written = std::function<void(int changed, int rejected)>;
     void SetWritten(Written written) { m_written = std::move(written); }
     bool WantsWritten() const { return m_written != nullptr; }

@@ -1,5 +1,5 @@
-// The base of all pages of the library: closes drop-down lists when the page moves, sizes the
-// lists of the library's combo boxes, and takes the focus from a control before the page's data is exchanged.
+// The base class of all pages of the library. Closes drop-down lists when the page moves, sizes the lists of the
+// library's combo boxes, and moves the focus away from a control before the page's data is exchanged.
 #pragma once
 
 #include <afxdlgs.h>
@@ -14,13 +14,13 @@ class ORLO_API COrloPropertyPage : public CPropertyPage {
     DECLARE_DYNAMIC(COrloPropertyPage)
 
 public:
-    // The template is a number or a name. With caption 0 the title is that of the template.
+    // The template is a number or a name. If nIDCaption is 0, the title is the caption of the template.
     COrloPropertyPage(unsigned int nIDTemplate, unsigned int nIDCaption);
     COrloPropertyPage(const char* lpszTemplateName, unsigned int nIDCaption);
     ~COrloPropertyPage() override;
 
-    // Returns 1 if the page can be left. The page has the focus during the exchange; if validation fails, the control
-    // gets it again.
+    // Returns 1 if the page can be left. The page has the focus during the exchange; if validation fails, the focus
+    // returns to the control.
     BOOL OnKillActive() override;
 
     // Returns the framework's modified flag.

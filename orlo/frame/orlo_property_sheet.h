@@ -1,5 +1,5 @@
-// The base of the library's sheets: finds a page by its dialog template, closes drop-down lists when the dialog moves,
-// and forwards help requests to the active page.
+// The base class of the library's sheets. Finds a page by its dialog template, closes drop-down lists when the dialog
+// moves, and forwards help requests to the active page.
 #pragma once
 
 #include <afxdlgs.h>

@@ -1,5 +1,5 @@
-// A window that shows a modeless sheet for the current selection: a pane beside the drawing, or a separate window. It
-// has the buttons Apply, Reset, Close and Help.
+// A window that shows a modeless sheet for the current selection, either a pane beside the drawing or a separate
+// window. It has the buttons Apply, Reset, Close and Help.
 //
 //   class CMyPane : public CSheetPane {
 //       CGraphicPropertySheet* NewSheet() override { ... }     // for the current selection
@@ -10,7 +10,7 @@
 //   pane.Open();
 //   if (pane.Apply()) { ...; pane.Follow(); }                   // before and after another selection
 //
-// A page writes its values when it is left: by Apply, or when the user selects another page.
+// A page writes its values when the user presses Apply or selects another page.
 #pragma once
 
 #include <afxwin.h>
@@ -40,7 +40,7 @@ public:
     // Hides the window and deletes the sheet. Typed values that were not applied are discarded.
     void Close();
 
-    // Replace the sheet by one for the current selection: Follow after the current message, Renew immediately.
+    // Replace the sheet with one for the current selection: Follow after the current message, Renew immediately.
     void Follow();
     void Renew();
     // Writes typed values. Returns false if a page rejects one; the user has then been informed, and the field has the
@@ -49,7 +49,7 @@ public:
     // Discards typed values and calls OnReset.
     void Reset();
 
-    // Returns the width in pixels at which a pane of that height shows the whole sheet.
+    // Returns the width in pixels at which a pane of the given height shows the whole sheet.
     int FittingWidth(int height) const;
     // Scrolls to the control with the focus if it has just received it. Must be called for each message of the pane.
     void RevealFocus();
@@ -68,8 +68,8 @@ protected:
     virtual void OnClose();       // before the sheet is deleted
     virtual void OnApplied();     // after a successful Apply
     virtual void OnReset();       // undo what was written since the last Apply
-    virtual void OnCloseButton(); // here: Close
-    virtual void OnEscape();      // here: Reset
+    virtual void OnCloseButton(); // default: Close
+    virtual void OnEscape();      // default: Reset
 
     CGraphicPropertySheet* Sheet() const { return m_sheet; }
     // Returns the size of the whole sheet in pixels.
@@ -80,7 +80,7 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
 private:
-    CGraphicPropertySheet* m_sheet = nullptr; // the derived class's
+    CGraphicPropertySheet* m_sheet = nullptr; // owned by the derived class
     CWnd m_nothing;                           // the text shown if nothing is selected
     std::unique_ptr<ScrollArea> m_scroll;
     CSize m_sheetSize;

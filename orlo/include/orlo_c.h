@@ -1,4 +1,4 @@
-// The C interface of the library, for programs in C and in every language and compiler that can call C.
+// The C interface of the library, for programs in C and in any language that can call C functions.
 //
 //   if (OrloGetVersion() < ORLO_VERSION) ...             the library is older than this header
 //   OrloSheet sheet = ORLO_INIT(OrloSheet);
@@ -14,11 +14,11 @@
 // library treats missing members as 0, and an earlier library rejects a record of an unknown size. The C++ classes in
 // the other headers are not covered: they require the same compiler and the same version.
 //
-// Errors: every function of type OrloResult returns kOrloOk or the reason why it failed; OrloGetErrorText returns a
-// message. If a function fails, nothing has changed, and its output parameters are 0, except for a required buffer
-// size. Exceptions never leave a function. Invalid arguments that can be detected are rejected.
+// Errors: functions of type OrloResult return kOrloOk or an error code; OrloGetErrorText returns a message. A function
+// that fails changes nothing, and sets its output parameters to 0, except for a required buffer size. Exceptions never
+// leave a function. Invalid arguments that can be detected are rejected.
 //
-// Strings are UTF-8, file names UTF-16. Output parameters other than buffers must not be null.
+// Strings are UTF-8, file names are UTF-16. Output parameters other than buffers must not be null.
 #pragma once
 
 #include <stddef.h>
@@ -83,8 +83,8 @@ typedef enum OrloResult {
 // Returns the name of a result, such as "kOrloBadHandle", or "unknown result". The text is static.
 ORLO_C_API const char* ORLO_CALL OrloGetResultName(OrloResult result);
 
-// Copies the message for the last function that failed on this thread: at most size bytes, including the NUL. Returns
-// the buffer size for the whole message, including the NUL. buffer may be null.
+// Copies the error message of the function that failed last on this thread, at most size bytes including the NUL.
+// Returns the buffer size that the whole message requires, including the NUL. buffer may be null.
 ORLO_C_API size_t ORLO_CALL OrloGetErrorText(char* buffer, size_t size);
 
 // ---- The sheet
@@ -96,7 +96,8 @@ struct DrawingStruct; // defined by the host; see orlo/host
 struct GraphicStruct;
 struct TableStruct;
 
-// Which members of the selection a sheet edits (OrloSheet::filter). The other bits are the host's; see GraphicFirst.
+// Selects the members of the selection that a sheet edits (OrloSheet::filter). The other bits are defined by the host;
+// see GraphicFirst.
 ORLO_CONSTANT uint32_t kOrloAllGraphics = 0xFFFFFFFFu;   // all graphics, without the style part of the General page
 ORLO_CONSTANT uint32_t kOrloWithStylePart = 0xFFFFFFFBu; // all graphics, with the style part
 enum { kOrloNoStylePart = kNoStylePart };
@@ -125,10 +126,10 @@ typedef struct OrloFill {
     const char* face;          // kOrloControlFontFaces: if not null, a face to add; in the code page of the system
 } OrloFill;
 
-// Called on the thread of OrloRunSheet when a control was created. context is OrloSheet::context. Must not throw.
+// Called on the thread of OrloRunSheet when a control has been created. context is OrloSheet::context. Must not throw.
 typedef void(ORLO_CALL* OrloFillCallback)(void* context, OrloFill* fill);
 
-// ---- Pages of the host
+// ---- Custom pages
 
 // Kinds of fields. The value types are those of property tables (orlo/host/records.h); the third column is the
 // member of OrloValue.
@@ -149,8 +150,8 @@ typedef enum OrloFieldKind {
     kOrloFieldBrushStyle = 14, // VT_UI4   number  entry of kTableBrushStyles or kBrushStyleNone
     kOrloFieldFontFace = 15,   // VT_BSTR  text    name of a face
     kOrloFieldFontHeight = 16, // VT_R8    number  in drawing units
-    kOrloFieldButton = 17, // no value: a push button; with the label "..." it stands at the end of the previous field
-    kOrloFieldNote = 18    // no value: the label is shown as text
+    kOrloFieldButton = 17,     // no value: a push button; with the label "..." at the end of the previous field
+    kOrloFieldNote = 18        // no value: the label is shown as text
 } OrloFieldKind;
 
 // Flags of a field.
@@ -185,26 +186,26 @@ typedef struct OrloValue {
 // Callbacks of a page; context is OrloPage::context, field the index in OrloPage::fields. They are called on the thread
 // of the sheet and must not throw.
 //
-// Get stores the value, Set changes it. They return 0 if the graphic has no such property, or does not accept the
-// value, and must not keep the graphic: it can be the copy in the preview. A graphic whose text the code page of the
-// system cannot represent is treated as if it had no such property, because an edit would damage the text.
+// Get stores the value, Set changes it. They return 0 if the graphic has no such property or rejects the value. They
+// must not keep the pointer to the graphic, which can be the copy in the preview. A graphic whose text the system's code
+// page cannot represent is treated as if it had no such property, because an edit would damage the text.
 typedef int32_t(ORLO_CALL* OrloGetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
                                          OrloValue* value);
 typedef int32_t(ORLO_CALL* OrloSetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
                                          const OrloValue* value);
-// Called with an edited value within the limits. Returns 0 if it is not valid and stores a message (UTF-8, at most size
-// bytes with the NUL), which the user is shown.
+// Called with an edited value that is within the limits. If the value is not valid, returns 0 and stores a message for
+// the user (UTF-8, at most size bytes including the NUL).
 typedef int32_t(ORLO_CALL* OrloCheckField)(void* context, uint32_t field, const OrloValue* value, char* message,
                                            size_t size);
-// Called when a button is pressed. Returns non-zero if it has changed graphics: fields that are not edited are then
-// read again.
+// Called when a button is pressed. Returns non-zero if it has changed graphics; fields that are not edited are then
+// reloaded.
 typedef int32_t(ORLO_CALL* OrloPressField)(void* context, uint32_t field);
 // Called with the help text of the field that gets the focus; empty if it has none.
 typedef void(ORLO_CALL* OrloFieldStatus)(void* context, const char* help);
-// Returns whether the page is for a graphic. The values of others are neither shown nor changed.
+// Returns whether the page applies to a graphic. The values of other graphics are neither shown nor changed.
 typedef int32_t(ORLO_CALL* OrloAcceptGraphic)(void* context, struct GraphicStruct* graphic);
 
-// A page of the host, laid out by the library. The sheet gets it if it is for one of the selected graphics.
+// A page of the host, laid out by the library. It is added to the sheet if it applies to one of the selected graphics.
 typedef struct OrloPage {
     uint32_t size;   // sizeof(OrloPage)
     uint32_t number; // identifies the page in its sheet: 1 to 28999
@@ -222,9 +223,10 @@ typedef struct OrloPage {
     void* context;             // passed to the callbacks
 } OrloPage;
 
-// Called after a page has written: with the numbers of graphics that accepted a value, and that rejected one.
+// Called after a page has written. changed is the number of graphics that accepted a value, rejected that of graphics
+// that rejected one.
 typedef void(ORLO_CALL* OrloWrittenCallback)(void* context, uint32_t changed, uint32_t rejected);
-// Called when the user has closed a modeless sheet, or asked to undo what was written since the last Apply.
+// Called when the user has closed a modeless sheet, or wants to undo what was written since the last Apply.
 typedef void(ORLO_CALL* OrloSheetCallback)(void* context);
 
 typedef struct OrloSheet {
@@ -243,34 +245,33 @@ typedef struct OrloSheet {
 } OrloSheet;
 
 // Opens the sheet and returns when the user has closed it. *code is 1 after OK, 2 after Cancel, a StyleEndCode, or -1
-// if the program ended meanwhile. A page writes its values when the user leaves it, so values may have been written
-// whatever the code is.
+// if the program ended in the meantime. A page writes its values when the user leaves it, so values may have been
+// written regardless of the code.
 //
 // Must be called on the thread of the owner and of the host's drawing. The program does not have to use the framework.
 // Fails with kOrloBadThread on another thread, and with kOrloBadArgument if owner is not a window or a page is not
-// valid: the message then names the page and the field.
+// valid; the message then names the page and the field.
 ORLO_C_API OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code);
 
-// ---- The sheet beside the drawing
+// ---- Modeless sheets
 
-// A modeless sheet in a window of its own, which the owner owns: with the buttons Apply, Reset, Close and Help. A page
-// writes its values when the user leaves it, by Apply or for another page.
-// OrloSheetFollow, OrloSheetApply, OrloSheetReset and OrloSheetClose fail with kOrloBusy while a callback or a message
-// box of a sheet is open.
+// A modeless sheet in its own window, owned by OrloSheet::owner, with the buttons Apply, Reset, Close and Help. A page
+// writes its values when the user presses Apply or selects another page. OrloSheetFollow, OrloSheetApply,
+// OrloSheetReset and OrloSheetClose fail with kOrloBusy while a callback or a message box of a sheet is open.
 typedef struct OrloSheetWindow__* OrloSheetHandle;
 struct tagMSG;
 
-// Opens a modeless sheet. The caller closes it with OrloSheetClose. drawing and selection must stay valid until then,
-// or until OrloSheetFollow passes another selection; the records of pages too. Fails like OrloRunSheet.
+// Opens a modeless sheet. The caller closes it with OrloSheetClose. The drawing and the records of pages must stay
+// valid until then, the selection until OrloSheetFollow has replaced it. Fails like OrloRunSheet.
 ORLO_C_API OrloResult ORLO_CALL OrloOpenSheet(const OrloSheet* sheet, OrloSheetHandle* handle);
-// Handles keys and other messages of the modeless sheets of this thread. Call it in the message loop, before
+// Handles keys and other messages of this thread's modeless sheets. Call it in the message loop, before
 // TranslateMessage. Returns 1 if the message was handled and must not be dispatched, else 0.
 ORLO_C_API int32_t ORLO_CALL OrloSheetTakesMessage(struct tagMSG* message);
-// Stores the window of the sheet, to move it for example.
+// Stores the window of the sheet, for example so that the program can move it.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetGetWindow(OrloSheetHandle handle, struct HWND__** window);
-// Applies what was typed, then shows the properties of another selection, or of changed graphics; null: nothing is
-// selected. Shows the window again if the user has closed it. Fails with kOrloInvalidInput if a field is not valid: the
-// sheet then stays over the previous selection, which must stay valid.
+// Applies what was typed, then shows the properties of another selection, or of the same one after its graphics have
+// changed; null means that nothing is selected. Shows the window again if the user has closed it. Fails with
+// kOrloInvalidInput if a field is not valid; the sheet then keeps the previous selection, which must stay valid.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetFollow(OrloSheetHandle handle, struct GraphicStruct* selection);
 // Writes what was typed. Fails with kOrloInvalidInput if a field is not valid.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetApply(OrloSheetHandle handle);
@@ -279,15 +280,15 @@ ORLO_C_API OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle);
 // Closes the sheet without writing.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle);
 
-// ---- The controls of the library in dialogs of the program
+// ---- Controls of the library in dialogs of the program
 
 // A window of the class "QXComboBox" or "QXListBox" in a dialog template shows a table of the drawing. Its identifier
-// determines which one; orlo/resources/control_ids.h, also for resource scripts, defines them.
+// determines which one; orlo/resources/control_ids.h, which resource scripts can also include, defines them.
 
 // Fills and draws the controls of the library in a dialog. Call it in WM_INITDIALOG, and again to show another drawing.
-// fill can be null; in it, `selected` is the entry or color to select. The dialog must be destroyed before the drawing
-// is deleted. Fails with kOrloBadArgument if dialog is not a window or drawing is not the current one, and with
-// kOrloBadThread on another thread than that of the dialog.
+// fill can be null; otherwise, it can set OrloFill::selected to the entry or color to select. The dialog must be
+// destroyed before the drawing is deleted. Fails with kOrloBadArgument if dialog is not a window or drawing is not the
+// current one, and with kOrloBadThread on a thread other than the dialog's.
 ORLO_C_API OrloResult ORLO_CALL OrloFillControls(struct HWND__* dialog, struct DrawingStruct* drawing,
                                                  OrloFillCallback fill, void* context);
 // Store and select what a control shows: an identifier of its table, a color, or a marker such as kColorByLayer. Fail
@@ -386,24 +387,25 @@ enum {
     kOrloTypeList = 0x1000   // VT_VECTOR: added to the type of the items, or to 12 (VT_VARIANT) if their types differ
 };
 
-// Creates an empty set. The caller closes it with OrloPropsetClose, like those of the following functions.
+// Creates an empty set. The caller closes it, like the sets of the following functions, with OrloPropsetClose.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set);
 // Reads a set from memory; the bytes are copied. Fails with kOrloDamaged if they are not a property set. A damaged set
 // is opened as far as it can be read; changing or saving it then fails with kOrloDamaged.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenMemory(const void* data, size_t size, OrloPropset* set);
-// Reads a set from the current position of the stream to its end. The stream remains the caller's.
+// Reads a set from the current position of the stream to its end. The caller keeps ownership of the stream.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenStream(struct IStream* stream, OrloPropset* set);
-// Reads a set from a stream of a compound file; the file is closed again. If streamName is null, the stream is
-// "\005SummaryInformation". The library's own reader is used, so a damaged file cannot make the system hang.
-// Other programs may have the file open for writing.
+// Reads a set from a stream of a compound file and closes the file. If streamName is null, the stream is
+// "\005SummaryInformation". The library uses its own reader, because the system's could hang on a damaged file. Other
+// programs may have the file open for writing.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName, OrloPropset* set);
 // Closes a set and frees it.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set);
 
-// Buffers: *size is the size of the buffer in bytes; on return it is the size of the data. If buffer is null, only that
-// size is stored and the function returns kOrloOk. Fails with kOrloBufferTooSmall if the data does not fit.
+// Saves the set to memory. For this and all other buffers: *size is the size of the buffer in bytes and, on return, the
+// size of the data. If buffer is null, only that size is stored, and the function returns kOrloOk. Fails with
+// kOrloBufferTooSmall if the data does not fit.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveMemory(OrloPropset set, void* buffer, size_t* size);
-// Replaces the whole contents of the stream.
+// Saves the set to a stream, replacing its whole contents.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSaveStream(OrloPropset set, struct IStream* stream);
 // Writes the set to a stream of a compound file (null: "\005SummaryInformation"), which is created if it does not
 // exist. The change is made in a copy that then replaces the file in one step. A file that is damaged or open elsewhere
@@ -449,13 +451,13 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t 
 
 // Stores the number of sections.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count);
-// Stores a section, and a property of a section, by index. Fails with kOrloNotFound if the index is out of range, so
-// that a loop can end there. The caller sets the record's size first.
+// Store a section, and a property of a section, by index. Fail with kOrloNotFound if the index is out of range, which
+// ends a loop. The caller sets the record's size first.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetProperty(OrloPropset set, uint32_t section, uint32_t index,
                                                        OrloProperty* property);
-// Stores the name of a property in the dictionary of the section, or the identifier for a name. Names are compared
-// without regard to the case of A to Z.
+// Store the name of a property in the dictionary of the section, or the identifier of the property with a name. Names
+// are compared ignoring the case of the letters A to Z. Fail with kOrloNotFound if there is no such name.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetName(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
                                                    size_t* size);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name,
@@ -481,8 +483,8 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGu
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, void* buffer,
                                                     size_t* size);
 
-// The same for an item of a list. Fail with kOrloWrongType if the property is not a list, and with kOrloNotFound if the
-// index is out of range.
+// Do the same for an item of a list. Fail with kOrloWrongType if the property is not a list, and with kOrloNotFound if
+// the index is out of range.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetCountItems(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       uint32_t* count);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetItemType(OrloPropset set, const OrloGuid* format, uint32_t id,
@@ -506,14 +508,15 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetText(OrloPropset set, const OrloGu
                                                    const char* value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetBytes(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                                     const void* data, size_t size);
-// The same for a list; type is that of its items, without kOrloTypeList. values can be null if count is 0.
+// Do the same for a list; type is the type of its items, without kOrloTypeList. values can be null if count is 0.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetIntegers(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                        uint32_t type, const int64_t* values, uint32_t count);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetReals(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                                     const double* values, uint32_t count);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetTexts(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,
                                                     const char* const* values, uint32_t count);
-// Names a property in the dictionary of its section, which must exist. Two properties cannot have the same name.
+// Sets the name of a property in the dictionary of its section, which must exist. Two properties cannot have the same
+// name.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                    const char* name);
 // Removes a property and its name. Fails with kOrloNotFound if it does not exist.
@@ -524,7 +527,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetRemove(OrloPropset set, const OrloGui
 enum { kOrloBgra = 0, kOrloRgba = 1 }; // byte order of a pixel
 
 // *width and *height are the size of the result in pixels, 1 to 8192 each. If both are 0, the size of the picture is
-// used and stored; a metafile then gets 256 pixels on its longer side.
+// used and stored; the longer side of a metafile is then 256 pixels.
 
 // Stores the pixels of the thumbnail: four bytes each (alpha is 255), row by row from the top. For the buffer see
 // OrloPropsetSaveMemory.

@@ -29,7 +29,7 @@ public:
 protected:
     // Handles the arrows beside the angle, which change it by one unit of the drawing's angular system; the host parses
     // and formats it. A step beyond a full turn wraps around, and an indeterminate angle starts at 0. Text that is not
-    // an angle is left alone, with a beep.
+    // an angle is not changed, and the page beeps.
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:

@@ -1,15 +1,15 @@
-// A page made from a table: a host describes its own properties, and the library lays out the dialog and reads, merges,
-// validates and writes the values as on its own pages.
+// A page defined by a table: a host describes its own properties, and the library lays out the dialog, and reads,
+// merges, validates and writes the values as on its own pages.
 //
 //   FieldTable table = ...;                                   // field_row.h
 //   AddFieldPage(sheet, 100, std::move(table));               // before DoModal or Create
 //
 // A field is disabled if no selected graphic has its property. Fields whose values differ show "*****", "Indeterminate"
 // (angles, scales), "<Indeterminate>" (texts), or no selection. A page writes only the fields that the user has edited,
-// and nothing at all if one of them is invalid: a message box then gives the reason, and the field gets the focus.
+// and nothing at all if one of them is invalid; a message box then states the reason, and the field receives the focus.
 //
-// The page opens in the size that its rows need, in two columns if one would be too tall, and scrolls if the sheet is
-// smaller. It is laid out from right to left if the owner of the sheet is.
+// The page opens at the size that its rows require, with two columns if one would be too tall, and scrolls if the sheet
+// is smaller. It is laid out from right to left if the owner's window is.
 #pragma once
 
 #include <memory>
@@ -24,7 +24,7 @@ class ORLO_API CFieldPage : public CGraphicPropertyPage {
     DECLARE_DYNAMIC(CFieldPage)
 
 public:
-    // nPage identifies the page in its sheet like the number of a dialog template: 1 to 28999. Throws
+    // nPage identifies the page in its sheet, like the number of a dialog template, and must be from 1 to 28999. Throws
     // std::invalid_argument with a message that names the row if the table is invalid: no rows or more than kMaxRows,
     // an unknown kind, a label or a property that is missing or not allowed, two rows with the same property, reversed
     // limits, a choice without texts, `set` without `get`, a button without `press`.

@@ -1,4 +1,4 @@
-// The table that a page is made from: its rows, what each row edits, and how the user sees it. See field_page.h.
+// The table that defines a page: its rows, the property that each row edits, and its appearance. See field_page.h.
 //
 //   FieldTable table;
 //   table.caption = "Room";
@@ -32,7 +32,7 @@ enum class FieldKind : uint32_t {
     BrushStyle, // VT_UI4   number  entry of kTableBrushStyles or kBrushStyleNone
     FontFace,   // VT_BSTR  text    name of a face
     FontHeight, // VT_R8    number  in drawing units
-    Button,     // no value: a push button; with the label "..." it stands at the end of the previous row
+    Button,     // no value: a push button; with the label "..." it is placed at the end of the previous row
     Note        // no value: the label is shown as text across the column
 };
 constexpr FieldKind kLastFieldKind = FieldKind::Note;
@@ -66,16 +66,16 @@ struct FieldRow {
     bool readOnly = false;
     bool inPreview = false; // the page shows a copy of the first graphic as its preview, with this property as edited
 
-    // Read and write the value in place of the property table, both or none; `set` can be empty for a read-only row.
-    // Return false if the graphic has no such property, or does not accept the value. They must not keep the graphic:
-    // it can be the copy in the preview.
+    // Read and write the value instead of the property table. Set both or neither; `set` can be empty for a read-only
+    // row. They return false if the graphic has no such property or rejects the value. They must not keep the pointer
+    // to the graphic, which can be the copy in the preview.
     std::function<bool(GraphicStruct* graphic, FieldValue& value)> get;
     std::function<bool(GraphicStruct* graphic, const FieldValue& value)> set;
     // Called with an edited value within the limits. Returns the message to show if it is not valid, else an empty
     // string.
     std::function<std::string(const FieldValue& value)> check;
-    // Called when a Button is pressed. Returns true if it has changed graphics: fields that are not edited are then
-    // read again.
+    // Called when a Button is pressed. Returns true if it has changed graphics; fields that are not edited are then
+    // reloaded.
     std::function<bool()> press;
 };
 

@@ -69,7 +69,7 @@ public:
     int WriteToStream(IStream* pStream);
     // Reads the section at the stream's position; liBase is the position of the start of the set. If a value cannot be
     // read, its property has no value; returns 0 only if the table itself is truncated. Names are added to existing
-    // ones. Reads at most four times the stream's size in total, so that reading overlapping values ends.
+    // ones. Reads at most four times the stream's size in total, so that reading terminates even if values overlap.
     int ReadFromStream(IStream* pStream, LARGE_INTEGER liBase);
     // Write and read the dictionary at the stream's position. Reading returns 0 if the dictionary is truncated or a
     // name is longer than 256 bytes; the names before it are kept. It accepts names in 16-bit characters, as others

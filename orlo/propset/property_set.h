@@ -5,8 +5,8 @@
 //   set.WriteToStream(stream);             // returns 1
 //   set.Set(other, 2, title);              // returns 0: there is no such section, and no type to create the property
 //
-// A set begins at position 0 of its stream. Byte order and format version are read but not checked; to check a stream
-// from elsewhere use ReadSetImage (set_image.h).
+// A set begins at position 0 of its stream. Byte order and format version are read but not checked; use ReadSetImage
+// (set_image.h) to check a stream from an untrusted source.
 #pragma once
 
 #include <afxcoll.h>

@@ -1,20 +1,14 @@
-// CRCFile: writes binary data as items of a raw-data block of a resource script. The caller writes the statement around
-// them.
+// CRCFile: writes binary data as items of a raw-data block of a resource script. The caller writes the statement that
+// contains them.
 //
 //   CRCFile rc("summary.rc", CStdioFile::modeCreate | CStdioFile::modeReadWrite);
-//   rc.Write("1 RCDATA
-// BEGIN", 14);
-//   section.WriteToRC(&rc);                // words as 0x0054, texts in quotes, separated by commas
-//   rc.WriteString("END")                  // wrong: writes another item, with a comma before it
-//   rc.CStdioFile::WriteString("
-// END
-// 2 RCDATA
-// BEGIN"); // right
-//   rc.StartBlock();                       // otherwise the next item would begin with a comma
+//   rc.Write("1 RCDATA\nBEGIN", 14);
+//   section.WriteToRC(&rc);                               // words as 0x0054, texts in quotes, separated by commas
+//   rc.WriteString("END")                                 // wrong: writes another item, with a comma before it
+//   rc.CStdioFile::WriteString("\nEND\n2 RCDATA\nBEGIN"); // right
+//   rc.StartBlock();                                      // otherwise the next item would begin with a comma
 //   other.WriteToRC(&rc);
-//   rc.CStdioFile::WriteString("
-// END
-// ");
+//   rc.CStdioFile::WriteString("\nEND\n");
 //
 // A text is written up to its first NUL, although its length may be greater, in which case the block is shorter than it
 // declares. Other programs create such texts, padded to a round length; after PrintWholeTexts they are written

@@ -43,10 +43,10 @@ ORLO_API HRESULT LoadSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // If the storage is open for writing only, the old summary cannot be read: its stream is created anew, and is lost if
 // there is not enough space for the new one.
 //
-// After a failure the file itself can be damaged. In direct mode the system writes step by step: if the program is
-// killed meanwhile, the stream contains a mixture of both summaries, and if the disk becomes full, the file may refer
-// to sectors that it does not have. In a transacted storage nothing is written before Commit; a Commit that fails on a
-// full disk can leave a damaged file. Use SaveFileSummaryInfo if the file must be either the old or the new one.
+// After a failure the file itself can be damaged. In direct mode, the system writes step by step: if the program is
+// killed in between, the stream contains a mixture of both summaries, and if the disk becomes full, the file may refer
+// to sectors that do not exist. In a transacted storage nothing is written before Commit; a Commit that fails on a full
+// disk can leave a damaged file. Use SaveFileSummaryInfo if the file must be either the old or the new one.
 ORLO_API HRESULT SaveSummaryInfo(IStorage* pStorage, CPropertySet* pSumInfo);
 // Writes the summary into an existing compound file, which must not be open. A copy with a new layout is written in the
 // same folder: all other streams, and classes, state bits and times of storages, are preserved byte for byte; sectors

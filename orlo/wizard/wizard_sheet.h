@@ -8,18 +8,18 @@
 //
 // A page can be left in either direction only if its OnKillActive returns TRUE. If it does not, or if the next page
 // cannot be created, the page and the buttons stay unchanged. Finish calls OnOK of all pages in order, and then
-// proceeds like OK in any sheet: it calls OnKillActive and again OnOK of the last page. Therefore, a host that should
-// act only after the last page has validated acts after DoModal, not in OnOK.
+// proceeds like OK in any sheet: it calls OnKillActive and again OnOK of the last page. Therefore, a host that must
+// wait for the validation of the last page uses the results after DoModal, not in OnOK.
 //
-// Next is the default button. Return presses it unless a field follows the focused one on the page; on the last page
-// Return finishes from any field. It does not press a button that the host has disabled. Holding the key down moves one
-// page. After Next, the first field of the new page has the focus. The default button's frame is drawn on the focused
-// push button, else on Next.
+// Next is the default button. Return presses it unless another field of the page follows the one with the focus; on the
+// last page, Return finishes from any field. It does not press a button that the host has disabled. Holding the key
+// down moves by only one page. After Next, the first field of the new page has the focus. The default button's frame is
+// drawn on the push button with the focus, if any, else on Next.
 //
 // The sheet has the size of the page that it opens on, and grows for larger pages: it uses the window rectangle of the
 // page after OnSetActive. The sheet is centered when it opens; if the user has moved it, it grows in place. The page's
-// caption is in place of the tabs. A sheet always opens with Back disabled and "Next >", whichever page it opens on,
-// until the user moves to another page. The buttons' texts are the library's strings 111 to 114, available after
+// caption is shown in place of the tabs. Until the user moves to another page, Back is disabled and the other button is
+// "Next >", whichever page the sheet opens on. The buttons' texts are the library's strings 111 to 114, available after
 // PropPageInit; strings of the host with these numbers are not used. A modeless sheet has no buttons; its owner sends
 // it the commands 100 (back) and 101 (next).
 #pragma once

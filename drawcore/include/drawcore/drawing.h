@@ -11,8 +11,8 @@
 // Creates a drawing with the tables of orlo/host/words.h. The caller frees it with DrawingDispose. Returns null if
 // memory runs out.
 DRAWCORE_API DrawingStruct* DrawingNew(void);
-// Frees the drawing and everything that it owns, and sets the pointer to null. Functions that are called with one of
-// its tables later behave as for an empty table.
+// Frees the drawing and everything that it owns, and sets the pointer to null. Functions that are later called with one
+// of its tables treat it as an empty table.
 DRAWCORE_API void DrawingDispose(DrawingStruct** drawing);
 
 // Returns the group of all graphics of the drawing, in drawing order. It belongs to the drawing.

@@ -15,13 +15,14 @@ typedef struct DxfListener {
     void* context;
     // permille increases from 0 to 1000. Return 0 to cancel.
     int (*progress)(void* context, int permille);
-    // Called for each omitted part. line is 0 if the warning does not refer to a single line.
+    // Called for each part that is omitted. line is 0 if the warning does not refer to a single line.
     void (*warning)(void* context, int line, const char* text);
 } DxfListener;
 
-// Creates a drawing from the model space of the file, without making it the current one. The caller frees it with
-// DrawingDispose. If the file cannot be opened completely, returns null and stores an error message (at most size
-// bytes, including the NUL); if the listener canceled, the message is "canceled". The listener may be null.
+// Creates a drawing from the model space of the file. It does not become the current drawing. The caller frees it with
+// DrawingDispose. If the file cannot be opened, or is damaged or truncated, returns null and stores an error message
+// (at most size bytes, including the NUL); if the listener canceled, the message is "canceled". The listener may be
+// null.
 DRAWCORE_API DrawingStruct* DrawingOpenDxf(const wchar_t* path, const DxfListener*, char* message, int size);
 
 // Results of DrawingSaveDxf.
@@ -48,12 +49,12 @@ enum {
 //                     state of an omitted entity, and does not contain an omitted new one; the drawing still counts
 //                     as modified
 //
-// When the file has been written, `warning` is also called with line 0 for each property that is stored in extended
+// After the file has been written, `warning` is also called, with line 0, for each property that is stored in extended
 // data, where other programs do not show it.
 //
-// The file then contains the properties of graphics, positions of insertions, moved vertices, added and removed
-// graphics, layers and blocks, the style trees of blocks, and the states, colors and line types of layers. Unchanged
-// values keep their form in the file. The listener may be null.
+// Saved are the properties of graphics, the positions of insertions, moved vertices, added and removed graphics, layers
+// and blocks, the style trees of blocks, and the states, colors and line types of layers. Unchanged values keep their
+// form in the file. The listener may be null.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*, char* message,
                                 int size);
 
@@ -62,8 +63,8 @@ DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t fl
 // from a file.
 DRAWCORE_API int DrawingIsModified(DrawingStruct*);
 
-// Stores the extended data (XDATA) of the record in the file that a graphic was read from, or was last saved to, as
-// text: a line "code value" for each group, separated by "\r\n", each application's data after its name (code 1001). At
-// most size bytes are stored, including the NUL. Returns the size of the whole text, including the NUL, or 0, with an
-// empty text, if the graphic has no extended data.
+// Stores the extended data (XDATA) of a graphic's record in its file as text: a line "code value" for each group,
+// separated by "\r\n". The data of each application follows its name (code 1001). At most size bytes are stored,
+// including the NUL. Returns the size of the whole text, including the NUL. If the graphic has no extended data,
+// returns 0 and stores an empty text.
 DRAWCORE_API int GraphicGetExtendedData(GraphicStruct*, char* buffer, int size);

@@ -124,44 +124,44 @@ public:
     const std::string& Bytes() const { return bytes_; }
     Contents GetContents() const;
 
-    // Returns the entities that have properties, in the order of the file: of model space, with the attributes of its
-    // insertions, then of the blocks.
+    // Returns the entities that have properties, in the order of the file: first those of model space, including the
+    // attributes of its insertions, then those of the blocks.
     std::vector<EntityRef> Entities() const;
-    // Returns the same for one block; "" is model space. Throws SaveError, with the names of all blocks, if there is no
-    // such block.
+    // Returns the entities of one block; "" is model space. If there is no such block, throws SaveError with the names
+    // of all blocks.
     std::vector<EntityRef> EntitiesOf(const std::string& block) const;
-    // Returns the same for paper space.
+    // Returns the entities of paper space.
     std::vector<EntityRef> PaperEntities() const;
     RecordName NameOf(const EntityRef& entity) const;
 
-    // Returns the names of all properties, in the order in which they are set: a width depends on its scale system.
-    // After those of the sheet: Tag, Text (as stored, with control and inline codes), BlockName, Position (in the
-    // world), Scale and Rotation (of insertions). Tag and BlockName cannot be set.
+    // Returns the names of all properties in the order in which they are set, since a width depends on its scale
+    // system. The properties of the sheet are followed by Tag, Text (as stored, with control and inline codes),
+    // BlockName, Position (in world coordinates), Scale and Rotation (of insertions). Tag and BlockName cannot be set.
     static std::vector<std::string> PropertyNames();
     // Returns the canonical spelling of the name, or nullopt if there is no such property.
     static std::optional<std::string> FindPropertyName(std::string_view name);
 
-    // Has returns whether the entity has the property with that canonical name, Get its value.
+    // Has returns whether the entity has the property with the given canonical name; Get returns its value.
     static bool Has(const EntityRef& entity, std::string_view name);
     std::string Get(const EntityRef& entity, std::string_view name) const;
     // Returns the values of the named properties that the entity has.
     std::vector<std::pair<std::string, std::string>> GetAll(const EntityRef& entity,
                                                             const std::vector<std::string>& names) const;
-    // Returns the text in the format of Get if it is a valid value for the entity, else unchanged.
+    // Returns the text in the format of Get if it is a valid value for the entity; otherwise, returns it unchanged.
     std::string Normalized(const EntityRef& entity, std::string_view name, const std::string& text) const;
     // Returns the number that the text represents as a value of the entity, or nullopt if it is not a number.
     std::optional<double> NumberOf(const EntityRef& entity, std::string_view name, const std::string& text) const;
-    // Returns the value, followed by " (varies)" if parts of a text have other values.
+    // Returns the value, followed by " (varies)" if parts of a text have different values.
     std::string GetForDisplay(const EntityRef& entity, std::string_view name) const;
-    // Returns whether two entities of two documents have the same properties of the sheet. Numbers may differ by
-    // rounding.
+    // Returns whether entities of two documents have the same values for the properties of the sheet. Numbers may
+    // differ by rounding errors.
     bool HasSameProperties(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
     // Returns the coordinates, lengths and texts of the entity as stored, for comparison: two entities with the same
     // shape have equal ones.
     std::vector<std::string> ShapeOf(const EntityRef& entity) const;
-    // Returns whether the entities are stored alike, byte for byte. Shape, texts and positions are the same then.
+    // Returns whether the entities are stored identically, byte for byte. Shape, texts and positions are then the same.
     bool IsStoredLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
-    // Returns left, bottom, right and top in its own space, or nullopt if nothing of it is visible.
+    // Returns left, bottom, right and top in the entity's own space, or nullopt if no part of it is visible.
     std::optional<std::array<double, 4>> BoxOf(const EntityRef& entity) const;
     // Returns the insertion that an attribute belongs to, or nullopt for other entities.
     static std::optional<EntityRef> InsertionOf(const EntityRef& entity);
@@ -196,24 +196,25 @@ class DocumentWriter {
 public:
     using Values = std::vector<std::pair<std::string, std::string>>; // by the names of properties
 
-    // `values` are those that Change sets. Throws SaveError if one is not valid, even if no entity has the property.
-    // The reader must outlive the writer.
+    // Change sets these values. Throws SaveError if one of them is not valid, even if no entity has the property. The
+    // reader must outlive the writer.
     DocumentWriter(const DocumentReader& reader, const Values& values);
     ~DocumentWriter();
 
     // Sets the values of the properties that the entity has. Returns whether it was changed. Must be called at most
     // once per entity. Throws SaveError, with the name of the entity, if the file cannot contain a value.
     bool Change(const EntityRef& entity);
-    // Does the same with these values in place of those of the constructor.
+    // Does the same with these values instead of those passed to the constructor.
     bool Change(const EntityRef& entity, const Values& values);
-    // Changes a layer of the document, or adds it if it does not exist. Returns whether anything changed. Call it once
-    // per layer, before changing entities; if a layer is renamed, no entity can be changed. Throws SaveError.
+    // Changes a layer of the document, or adds it if it does not exist. Returns whether anything was changed. Must be
+    // called at most once per layer, before entities are changed; after a layer has been renamed, entities cannot be
+    // changed. Throws SaveError.
     bool ChangeLayer(const std::string& name, const LayerValues& wanted);
     // Returns a message for users for each property that is now stored in extended data, where other programs do not
     // show it.
     std::vector<std::string> Notes() const;
-    // Returns the bytes of the changed file, after verifying them by reading: throws SaveError if an entity does not
-    // have the requested values. Nothing can be changed afterwards.
+    // Verifies the changed file by reading it and returns its bytes. Throws SaveError if an entity does not have the
+    // requested values. Must be the last call.
     std::string Finish();
 
 private:

@@ -4,8 +4,8 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Kinds of graphics, one bit each. A filter of GraphicFirst and GraphicNext passes the kinds whose bits are set, or all
-// kinds if none is set. The bit kNoStylePart is not a kind; it is used by the library.
+// Kinds of graphics, one bit each. A filter of GraphicFirst and GraphicNext selects the kinds whose bits are set, or
+// all kinds if none is set. The bit kNoStylePart is not a kind; the library uses it.
 enum : uint32_t {
     kKindVertices = 1,  // lines, polylines, outlines, points (kGraphicVertices)
     kKindCurve = 2,     // circles, arcs, ellipses, splines (kGraphicPenBrush)
@@ -18,13 +18,13 @@ enum : uint32_t {
 // Returns the kind of a graphic.
 DRAWCORE_API uint32_t GraphicGetKind(GraphicStruct*);
 
-// Replaces the property table of a graphic, for custom kinds of graphics. The table belongs to the caller and must
-// outlive the graphic. Null: the graphic has no properties.
+// Replaces the property table of a graphic, for custom kinds of graphics; with null, the graphic has no properties. The
+// caller owns the table, which must outlive the graphic.
 DRAWCORE_API void GraphicSetVtbl(GraphicStruct*, const PropertyTable*);
 
 // Returns non-zero if the graphic has changed since it was last drawn.
 DRAWCORE_API int GraphicIsDirty(GraphicStruct*);
 
 // Sets the name of the style tree that the contents of a block belong to (GraphicStruct::pszStyleName). The name is
-// copied; null or "" for none. Copies of the graphic belong to the same style tree.
+// copied; null or "" means none. Copies of the graphic belong to the same style tree.
 DRAWCORE_API void GraphicSetStyleName(GraphicStruct*, const char* name);

@@ -10,5 +10,6 @@ enum : uint32_t { kLayerOff = 1, kLayerFrozen = 2, kLayerLocked = 4 };
 DRAWCORE_API uint32_t LayerGetFlags(DrawingStruct*, uint16_t id);
 // Returns the line style, an entry of kTableLineStyles; 0 is solid.
 DRAWCORE_API uint16_t LayerGetLineStyle(DrawingStruct*, uint16_t id);
-// Sets the attributes of a layer. Returns 0, and changes nothing, if there is no such layer or the color is a marker.
+// Sets the attributes of a layer. Returns 0, and changes nothing, if there is no such layer or if the color is a
+// marker.
 DRAWCORE_API int LayerSet(DrawingStruct*, uint16_t id, uint32_t color, uint32_t flags, uint16_t lineStyle);

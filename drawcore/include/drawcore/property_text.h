@@ -9,6 +9,7 @@
 // units of its drawing. Returns 0, and stores an empty text, if the graphic has no such property.
 DRAWCORE_API int GraphicGetPropertyText(GraphicStruct*, const char* property, char* buffer, int size);
 
-// Stores the text of an integer as the value of a property: the name of a color, of a table entry or of a choice. An
-// entry that does not exist is "#12". Returns 0, and stores an empty text, if there is no such property.
+// Stores the text for an integer value of a property: the name of a color, of a table entry or of a choice. The text
+// for an entry that does not exist is its number, such as "#12". Returns 0, and stores an empty text, if there is no
+// such property.
 DRAWCORE_API int PropertyGetValueText(DrawingStruct*, const char* property, uint32_t value, char* buffer, int size);

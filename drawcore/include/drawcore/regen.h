@@ -1,4 +1,4 @@
-// Regen methods as callbacks: rules by which graphics are rebuilt, and which can add property pages.
+// Regen methods as callbacks, which rebuild graphics and can add property pages.
 //
 //   void* methods = RegenMethodsNew();
 //   RegenMethod gear = {&plan, RebuildGear, AddGearPage};
@@ -15,8 +15,8 @@ struct RegenMethod {
     int (*getPropPage)(void* context, GraphicStruct* graphic, void* sheet); // may be null
 };
 
-// Creates an empty table of methods. Returns null if memory runs out. RegenMethodsDispose frees it and sets the pointer
-// to null.
+// Creates an empty table of methods. The caller frees it with RegenMethodsDispose, which sets the pointer to null.
+// Returns null if memory runs out.
 DRAWCORE_API void* RegenMethodsNew(void);
 DRAWCORE_API void RegenMethodsDispose(void** methods);
 // Registers a copy of the method under a number other than 0, replacing a previous one. Returns non-zero on success.

@@ -13,8 +13,8 @@
 
 // Creates an empty selection. Returns null if memory runs out.
 DRAWCORE_API GraphicStruct* SelectionNew(void);
-// Add and remove a graphic. Return 0 if it was already (or, for SelectionRemove, was not) in the selection, or if the
-// first argument is not a selection.
+// Add or remove a graphic. Return 0 if the selection already contains the graphic (SelectionAdd) or does not contain it
+// (SelectionRemove), or if the first argument is not a selection.
 DRAWCORE_API int SelectionAdd(GraphicStruct* selection, GraphicStruct*);
 DRAWCORE_API int SelectionRemove(GraphicStruct* selection, GraphicStruct*);
 // Returns non-zero if the graphic is in the selection.

@@ -6,7 +6,7 @@
 //   DrawingUndo(drawing);           // all 12 have their previous values
 //   DrawingRedo(drawing);           // and the new ones again
 //
-// When the steps exceed their memory limit, the oldest ones are dropped; DrawingCountDroppedUndo returns their number.
+// If the steps exceed their memory limit, the oldest ones are dropped; DrawingCountDroppedUndo returns their number.
 //
 // Properties, attributes and vertices of the graphics that belong to the drawing are recorded; previews and samples are
 // not.
@@ -40,8 +40,8 @@ DRAWCORE_API int DrawingCountRedo(DrawingStruct*);
 // states have different numbers. If it differs from the number at the last save, the drawing has unsaved changes.
 DRAWCORE_API uint32_t DrawingGetUndoMark(DrawingStruct*);
 
-// A listener that is called before graphics change, within an open step or when a step is undone or redone. It is
-// called often and should only set a flag, for example that a view needs repainting.
+// A listener that is called before graphics change, in an open step or when a step is undone or redone. Because it is
+// called often, it should only set a flag, for example that a view needs repainting.
 struct ChangeListener {
     void* context;
     void (*changing)(void* context);

@@ -1,4 +1,4 @@
-// SetImage: a property-set stream as plain data, whatever program wrote it, with a list of its irregularities.
+// SetImage: a property-set stream from any program as plain data, with a list of its irregularities.
 //
 //   std::vector<Finding> findings;
 //   std::optional<SetImage> image = ReadSetImage(data, size, findings);
