@@ -253,7 +253,7 @@ void CMainFrame::SaveWindowPlace() const {
     Settings::SetNumber(kSettingPaneOpen, m_pane.IsOpen());
 }
 
-// Typed text in the pane has already been applied, with the previous decimal separator.
+// Typed text in the pane has already been applied, with the previous decimal mark.
 void CMainFrame::OnDecimalMark(UINT command) {
     Settings::SetNumber(kSettingDecimalMark, MarkOf(command));
     ShowDecimalMark();

@@ -93,7 +93,7 @@ bool CMainFrame::IsChosen(UINT command) const {
     }
 }
 
-// Returns the character of a command that selects the decimal separator, 0 for the system's.
+// Returns the character of a command that selects the decimal mark, 0 for the system's.
 int CMainFrame::MarkOf(UINT command) {
     return command == ID_VIEW_MARK_POINT ? '.' : command == ID_VIEW_MARK_COMMA ? ',' : 0;
 }

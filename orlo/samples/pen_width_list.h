@@ -1,7 +1,7 @@
 // The customary values in a section of the host's configuration file, as "number unit" texts.
 //
 //   [PenWidths]
-//   mm=0.18, 0.25, 0.35      numbers in the unit named by the key; the decimal separator is always a point
+//   mm=0.18, 0.25, 0.35      numbers in the unit named by the key; the decimal mark is always a point
 //   in=*mm                   an alias: uses the list and the unit of another key
 #pragma once
 

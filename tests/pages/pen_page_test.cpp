@@ -129,7 +129,7 @@ TEST_F(PenPage, OffersTheConfiguredWidths) {
     }
 }
 
-// The file uses decimal points, whatever the application's decimal separator; the list uses the separator.
+// The file uses decimal points, whatever the application's decimal mark; the list uses the mark.
 TEST_F(PenPage, OffersTheConfiguredWidthsWithTheDecimalMarkOfTheHost) {
     TableStruct* const settings = ::AppGetCurrentApp()->pVariables;
     AddEqual();

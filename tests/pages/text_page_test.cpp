@@ -256,7 +256,7 @@ TEST_F(TextPage, UneditedHeightsAreNotValidated) {
     });
 }
 
-// Decimal points in the file are the host's decimal separators in the list.
+// Decimal points in the file are the host's decimal marks in the list.
 TEST_F(TextPage, OffersTheConfiguredHeightsWithTheDecimalMarkOfTheHost) {
     TableStruct* const settings = ::AppGetCurrentApp()->pVariables;
     ::TableSetStringVar(settings, kVarDecimalMark, ",");

@@ -1,4 +1,4 @@
-// The decimal separator for parsing and formatting numbers. The program that links this library defines it; the
+// The decimal mark for parsing and formatting numbers. The program that links this library defines it; the
 // database uses a setting of the application.
 #pragma once
 

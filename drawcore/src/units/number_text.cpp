@@ -1,4 +1,4 @@
-// Rounding, decimal separator, and verification by parsing.
+// Rounding, decimal mark, and verification by parsing.
 #include "drawcore/src/units/number_text.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// Parses and formats plain numbers without digit grouping, with the application's decimal separator.
+// Parses and formats plain numbers without digit grouping, with the application's decimal mark.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@ namespace drawcore {
 // Longer texts are not numbers, lengths or angles.
 constexpr size_t kLongestText = 255;
 
-// Parses the unsigned number at the start of the text: digits with at most one decimal separator and an optional
+// Parses the unsigned number at the start of the text: digits with at most one decimal mark and an optional
 // exponent. Returns the number of characters, or 0 with value unchanged if there is no number or it overflows.
 size_t ScanUnsigned(std::string_view text, double& value);
 // Parses only digits.
