@@ -13,8 +13,8 @@ struct Row {
     const char* meaning;
 };
 constexpr Row kRows[] = {{"Click", "select; Ctrl adds or removes, Shift adds"},
-                         {"Drag to the right", "select what the rectangle contains"},
-                         {"Drag to the left", "select also what it touches"},
+                         {"Drag to the right", "select the graphics inside the rectangle"},
+                         {"Drag to the left", "also select graphics that it touches"},
                          {"Tab, Shift+Tab", "select the next, the previous"},
                          {"Ctrl+A, Esc", "select all; deselect"},
                          {"Ctrl+I", "select similar graphics"},

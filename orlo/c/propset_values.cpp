@@ -75,7 +75,7 @@ void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
 }
 
 void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t type, Bytes bytes) {
-    if (id <= kOrloCodePage) ThrowError(kOrloBadArgument, "dictionary and code page are not values");
+    if (id <= kOrloCodePage) ThrowError(kOrloBadArgument, "the dictionary and the code page cannot be set as values");
     const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
     const ImageSection* section = image.Find(wanted);
     const ImageProperty* property = section != nullptr ? section->Find(id) : nullptr;
@@ -111,7 +111,7 @@ Value IntegerValue(uint32_t type, int64_t number) {
 }
 
 Value RealValue(uint32_t type, double number) {
-    if (type != VT_R4 && type != VT_R8 && type != VT_DATE) ThrowError(kOrloWrongType, "not a type of real numbers");
+    if (type != VT_R4 && type != VT_R8 && type != VT_DATE) ThrowError(kOrloWrongType, "not a real number type");
     if (!std::isfinite(number)) ThrowError(kOrloBadArgument, "the number is not finite");
     if (type == VT_R4 && std::isinf(static_cast<float>(number)))
         ThrowError(kOrloWrongType, "the number is out of range for a float");

@@ -109,7 +109,7 @@ Windows& WindowsOfThread() {
 Windows::iterator Find(OrloSheetHandle handle) {
     const auto found = WindowsOfThread().find(reinterpret_cast<uintptr_t>(handle));
     if (found == WindowsOfThread().end())
-        ThrowError(kOrloBadHandle, "the handle is not that of a sheet of this thread");
+        ThrowError(kOrloBadHandle, "the handle does not belong to a sheet of this thread");
     return found;
 }
 

@@ -178,8 +178,8 @@ void CompoundReader::Structure::CheckHeader() {
 // Compares a number in the header with the number found.
 void CompoundReader::Structure::Count(const char* what, size_t offset, size_t found) {
     if (HeaderNumber(offset) == found) return;
-    Damaged(std::string("the header: ") + std::to_string(HeaderNumber(offset)) + " sectors of " + what + ", and " +
-            std::to_string(found) + " are there");
+    Damaged(std::string("the header: it declares ") + std::to_string(HeaderNumber(offset)) + " sectors of " + what +
+            ", but " + std::to_string(found) + " exist");
 }
 
 // Reads a sector of the structure. Missing bytes are left unchanged.

@@ -14,7 +14,7 @@ namespace orlo {
 namespace {
 
 constexpr char kUnlikeIntended[] = "the file was left unchanged: verification of the new copy failed";
-constexpr char kChangedMeanwhile[] = "the file was changed meanwhile";
+constexpr char kChangedMeanwhile[] = "another program has changed the file in the meantime";
 
 std::u16string StreamNameFrom(const std::string& utf8) {
     const auto units = Utf8ToCodePage(utf8, kCodePageUtf16);

@@ -659,7 +659,8 @@ TEST_F(FieldPage, InvalidTableIsRejectedWithItsRow) {
          },
          "row 0 (\"&Value:\"): the lower limit is above the upper one"},
         {"choice", [](FieldTable& t) { t.rows[1].kind = FieldKind::Choice; }, "row 1 (\"&Other:\"): it has no choices"},
-        {"choices", [](FieldTable& t) { t.rows[1].choices = {"x"}; }, "row 1 (\"&Other:\"): its kind has no choices"},
+        {"choices", [](FieldTable& t) { t.rows[1].choices = {"x"}; },
+         "row 1 (\"&Other:\"): its kind cannot have choices"},
         {"set", [](FieldTable& t) { t.rows[1].set = [](GraphicStruct*, const FieldValue&) { return true; }; },
          "row 1 (\"&Other:\"): it has a function to write the value, but none to read it"},
         {"get", [](FieldTable& t) { t.rows[1].get = [](GraphicStruct*, FieldValue&) { return true; }; },
@@ -671,7 +672,7 @@ TEST_F(FieldPage, InvalidTableIsRejectedWithItsRow) {
          },
          "row 1 (\"&Other:\"): the button does nothing"},
         {"note", [](FieldTable& t) { t.rows[1].kind = FieldKind::Note; },
-         "row 1 (\"&Other:\"): its kind has no property"},
+         "row 1 (\"&Other:\"): its kind cannot have a property"},
     };
     for (const WrongTable& wrong : cases) {
         SCOPED_TRACE(wrong.name);

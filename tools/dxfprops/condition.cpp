@@ -64,7 +64,7 @@ Condition ReadCondition(const std::string& text) {
         condition.values.push_back(Unquoted(value));
     const auto isIt = [&](const char* name) { return condition.name == name; };
     if (IsOrdering(condition.comparison) && std::none_of(std::begin(kOrdered), std::end(kOrdered), isIt))
-        throw std::invalid_argument("'" + text + "': " + condition.name + " can only be compared by =, != and ~");
+        throw std::invalid_argument("'" + text + "': " + condition.name + " can only be compared with =, != and ~");
     return condition;
 }
 

@@ -49,7 +49,7 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output, boo
         files::FileReplacement replacement(target);
         replacement.Write(bytes);
         if (isOwn && !files::HasContents(target, Bytes()))
-            throw dxf::SaveError("the file was changed by another program meanwhile");
+            throw dxf::SaveError("another program has changed the file in the meantime");
         replacement.Commit();
     } catch (const files::FileError& error) {
         if (isOwn) throw; // the caller adds the name of the drawing

@@ -418,8 +418,8 @@ private:
     }
     void AddSelection(CLI::App* sub) {
         sub->add_option("--where", line_.where,
-                        "kind, handle, block or a property, compared by = != < <= > >= ~ (wildcards); A|B: one of "
-                        "several; joined by commas or repeated: all must match")
+                        "kind, handle, block or a property, compared with = != < <= > >= or ~ (wildcards); A|B: one "
+                        "of several values; conditions separated by commas or repeated: all must match")
             ->allow_extra_args(false);
         sub->add_option("--in", line_.space, "model (the default), paper, all, or block=NAME");
         sub->add_option("--within", line_.within, "LEFT,BOTTOM,RIGHT,TOP: entities inside this box");
@@ -446,7 +446,8 @@ private:
         CLI::App* diff = Add("diff", "Print differences", [](CommandLine& line) { return Diff(line); });
         diff->add_option("BEFORE", line_.before, "a drawing")->required();
         diff->add_option("AFTER", line_.after, "the drawing to compare it with")->required();
-        diff->add_flag("--only-properties", line_.onlyProperties, "ignore texts, positions and other coordinates");
+        diff->add_flag("--only-properties", line_.onlyProperties,
+                       "compare only properties, not texts, positions and other coordinates");
         AddForms(diff, false);
     }
     void AddWriters() {
@@ -459,7 +460,7 @@ private:
         CLI::App* layer = Add("set-layer", "Change layers", [](CommandLine& line) { return SetLayer(line); });
         layer->add_option("FILE NAME=VALUE", line_.rest, "drawings, and values of " + LayerFieldNames())->required();
         layer->add_option("--layer", line_.layers, "name of a layer; * and ? are wildcards")->allow_extra_args(false);
-        layer->add_flag("--new", line_.isNew, "add layers that are missing");
+        layer->add_flag("--new", line_.isNew, "add layers that do not exist");
         AddTarget(layer);
         CLI::App* apply =
             Add("apply", "Apply edited output of get --json", [](CommandLine& line) { return Apply(line); });

@@ -59,8 +59,8 @@ void HasTheStrings(const Subject& s) {
 void TruncatesStrings(const Subject& s) {
     char text[5] = {kUntouched, kUntouched, kUntouched, kUntouched, kUntouched};
     const int length = CALL(s.host, DrawCoreLoadString)(kStringSampleText, text, 4);
-    Require(length == 3 && text[3] == '\0' && text[4] == kUntouched,
-            "returned %d for a buffer of 4 bytes, which has room for 3 and the NUL", length);
+    Require(length == 3 && text[3] == '\0' && text[4] == kUntouched, "returned %d instead of 3 for a buffer of 4 bytes",
+            length);
 }
 
 void RejectsUnknownStrings(const Subject& s) {
@@ -69,7 +69,7 @@ void RejectsUnknownStrings(const Subject& s) {
         char text[64] = "";
         if (CALL(s.host, DrawCoreLoadString)(id, text, sizeof text) == 0) return;
     }
-    Require(false, "returned no 0 for 256 different numbers");
+    Require(false, "never returned 0 for 256 different numbers");
 }
 
 void ReturnsBlocks(const Subject& s) {
@@ -140,8 +140,8 @@ void SizesPalettes(const Subject& s) {
 }
 
 constexpr Requirement kRows[] = {
-    {"AppGetCurrentApp", "returns the application, which has the current drawing", HasTheCurrentDrawing},
-    {"AppGetCurrentApp", "returns an application with variables; the drawing has its units", HasItsTables},
+    {"AppGetCurrentApp", "returns the application with the current drawing", HasTheCurrentDrawing},
+    {"AppGetCurrentApp", "returns an application with variables, and a drawing with units", HasItsTables},
     {"AppGetINIFileName", "stores a path that fits into the buffer", StoresAPathThatFits},
     {"IsPaletteSupported", "returns what the device reports", DetectsPaletteDevices},
     {"DrawCoreLoadString", "copies the seven strings and returns their lengths", HasTheStrings},
@@ -152,7 +152,7 @@ constexpr Requirement kRows[] = {
     {"BStringNULL", "frees the string, sets the variable to null, and accepts null", ClearsTheVariable},
     {"RegenMethodRegen", "ignores an unknown method", IgnoresUnknownMethods},
     {"RegenMethodGetPropPage", "returns 0 for an unknown method", HasNoPagesForUnknownMethods},
-    {"PaletteSize", "returns the number of bytes between header and pixels", SizesPalettes},
+    {"PaletteSize", "returns the number of bytes between the header and the pixels", SizesPalettes},
 };
 
 } // namespace

@@ -53,7 +53,7 @@ public:
 void IsTheBlockTable(const Subject& s) {
     TableStruct* blocks = CALL(s.host, BlocksFromDrawing)(s.Drawing());
     RequireNoStub(blocks, "BlocksFromDrawing");
-    Require(blocks == s.Table(kTableBlocks), "returned another table than %s", kTableBlocks);
+    Require(blocks == s.Table(kTableBlocks), "returned a table other than %s", kTableBlocks);
     Require(!CALL(s.host, BlocksFromDrawing)(nullptr), "returned a table for null");
 }
 
@@ -61,7 +61,7 @@ void AddsBlocks(const Subject& s) {
     const Block block(s);
     const uint16_t found = CALL(s.host, BlocksFindBlock)(block.blocks, kName);
     RequireNoStub(found != 0, "BlocksFindBlock");
-    Require(found == block.id, "the block was added as %u, but found as %u", block.id, found);
+    Require(found == block.id, "the block was added with identifier %u, but found with %u", block.id, found);
     Require(CALL(s.host, GraphicGetDrawing)(block.contents) == s.Drawing(),
             "the contents are not attached to the drawing");
 }
@@ -88,7 +88,7 @@ void RejectsExistingNames(const Subject& s) {
     const auto square = s.NewSquare(1);
     const uint16_t id = CALL(s.host, BlocksAddBlock)(block.blocks, kName, square.get());
     Require(id == 0, "returned %u for a name that already exists", id);
-    Require(s.Vertices(square.get()).size() == 5, "the rejected graphic has lost its vertices");
+    Require(s.Vertices(square.get()).size() == 5, "the rejected graphic no longer has its vertices");
 }
 
 void RemovesBlocks(const Subject& s) {
@@ -167,12 +167,12 @@ constexpr Requirement kRows[] = {
     {"BlocksAddBlock", "adds a block that BlocksFindBlock finds, attached to the drawing", AddsBlocks},
     {"BlocksAddBlock", "copies the name", CopiesTheName},
     {"BlockGetGraphic", "returns the contents", ReturnsTheContents},
-    {"BlocksAddBlock", "returns 0 for a name that exists, and does not take ownership", RejectsExistingNames},
+    {"BlocksAddBlock", "returns 0, without taking ownership, if the name exists", RejectsExistingNames},
     {"BlockDispose", "removes the block", RemovesBlocks},
-    {"InsertSetData", "places the origin and the axes by the matrix", PlacesInsertions},
+    {"InsertSetData", "places the origin and the axes as the matrix specifies", PlacesInsertions},
     {"InsertSetData", "creates an insertion whose extents follow its vertices", FollowsItsVertices},
-    {"InsertSetData", "creates an insertion that is drawn as its axes lie", TurnsInsertions},
-    {"BlockDispose", "leaves insertions of the block that draw nothing", DrawsNothingWithoutItsBlock},
+    {"InsertSetData", "creates an insertion that is drawn along its axes", TurnsInsertions},
+    {"BlockDispose", "removes the block; remaining insertions draw nothing", DrawsNothingWithoutItsBlock},
 };
 
 } // namespace

@@ -51,7 +51,7 @@ void ReleasesWhatIsDeleted(const Subject& s) {
     CALL(s.host, GraphicDelete)(group.get(), added);
     Require(s.Members(group.get()).empty(), "the child is still a member");
     Require(child->bType == kGraphicVertices && !OwnerOf(child.get()), "the child still has an owner");
-    Require(s.Vertices(child.get()).size() == 5, "the child has lost its vertices");
+    Require(s.Vertices(child.get()).size() == 5, "the child no longer has its vertices");
 }
 
 void ReturnsMembersInOrder(const Subject& s) {
@@ -61,9 +61,9 @@ void ReturnsMembersInOrder(const Subject& s) {
         added.push_back(CALL(s.host, GraphicAdd)(group.get(), s.NewSquare(1).release()));
     for (const uint32_t filter : {kAllGraphics, kWithStylePart})
         Require(s.Members(group.get(), filter) == added,
-                "with filter 0x%X, returned %zu of 5 members, or in another order", filter,
+                "with filter 0x%X, returned %zu of 5 members, or all in a different order", filter,
                 s.Members(group.get(), filter).size());
-    Require(s.Members(s.NewSquare(1).get()).empty(), "a graphic without members has some");
+    Require(s.Members(s.NewSquare(1).get()).empty(), "returned members of a graphic that has none");
 }
 
 void KeepsItsStateInThePosition(const Subject& s) {
@@ -79,7 +79,7 @@ void KeepsItsStateInThePosition(const Subject& s) {
          member && nested.size() <= alone.size();
          member = CALL(s.host, GraphicNext)(set.get(), &position, 1, kAllGraphics)) {
         nested.push_back(member);
-        Require(s.Members(set.get()) == alone, "an iteration within another one returned other members");
+        Require(s.Members(set.get()) == alone, "a nested iteration returned different members");
         s.Members(other.get());
     }
     Require(nested == alone, "returned %zu of %zu members with other iterations between the calls", nested.size(),
@@ -98,8 +98,9 @@ void CopiesWithMembers(const Subject& s) {
     CALL(s.host, GraphicAdd)(original.get(), s.NewSquare(2).release());
     const auto copy = Copy(s, original);
     Require(copy.get() != original.get(), "returned the graphic itself");
-    Require(copy->bType == original->bType && !OwnerOf(copy.get()), "the copy has another type or an owner");
-    Require(Read<uint32_t>(s, copy.get(), kPropPenColor, VT_UI4) == 0x123456, "the copy has another pen color");
+    Require(copy->bType == original->bType && !OwnerOf(copy.get()),
+            "the copy has a different type, or it has an owner");
+    Require(Read<uint32_t>(s, copy.get(), kPropPenColor, VT_UI4) == 0x123456, "the copy has a different pen color");
     Require(s.Vertices(copy.get()).size() == 5, "the copy has %zu of 5 vertices", s.Vertices(copy.get()).size());
     const auto parts = s.Members(copy.get());
     Require(parts.size() == 1 && parts != s.Members(original.get()), "the copy has %zu new members instead of 1",
@@ -114,7 +115,7 @@ void AttachesToADrawing(const Subject& s) {
     GraphicStruct* part = CALL(s.host, GraphicAdd)(graphic.get(), s.NewGraphic(kGraphicVertices).release());
     CALL(s.host, GraphicAttach)(graphic.get(), s.Drawing());
     Require(CALL(s.host, GraphicGetDrawing)(graphic.get()) == s.Drawing(),
-            "GraphicGetDrawing returned another drawing");
+            "GraphicGetDrawing returned a different drawing");
     Require(CALL(s.host, GraphicGetDrawing)(part) == s.Drawing(), "a member of the graphic is not attached");
     CALL(s.host, GraphicAttach)(graphic.get(), nullptr);
     Require(!CALL(s.host, GraphicGetDrawing)(graphic.get()), "null did not detach the graphic");
@@ -159,7 +160,7 @@ const Requirement kRows[] = {
     {"GraphicAdd", "returns the child, which the parent then owns", OwnsWhatIsAdded},
     {"GraphicDelete", "removes the child without changing it", ReleasesWhatIsDeleted},
     {"GraphicFirst", "and GraphicNext return all members in the order of GraphicAdd", ReturnsMembersInOrder},
-    {"GraphicNext", "stores the position in the caller's 32 bits only", KeepsItsStateInThePosition},
+    {"GraphicNext", "stores the position only in the caller's 32 bits", KeepsItsStateInThePosition},
     {"GraphicCopyEx", "copies a graphic with its attributes, vertices and members", CopiesWithMembers},
     {"GraphicAttach", "attaches a graphic and its members; null detaches them", AttachesToADrawing},
     {"GraphicGetIsGroup", "returns 0 for a vertex list and non-zero for the copy of a set", DetectsGroups},

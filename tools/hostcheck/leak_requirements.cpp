@@ -44,8 +44,8 @@ void RequireNothingLeft(Action action) {
         action();
     const int leftObjects = GdiObjects() - objects;
     const auto leftBytes = static_cast<ptrdiff_t>(HeapBytes() - bytes);
-    Require(leftObjects * 2 < calls, "%d calls leave %d GDI objects behind", calls, leftObjects);
-    Require(leftBytes < calls * kMaxBytes, "%d calls leave %td bytes behind", calls, leftBytes);
+    Require(leftObjects * 2 < calls, "%d calls leaked %d GDI objects", calls, leftObjects);
+    Require(leftBytes < calls * kMaxBytes, "%d calls leaked %td bytes", calls, leftBytes);
 }
 
 void FreesStrings(const Subject& s) {
@@ -114,14 +114,14 @@ void FreesWhatItDrawsWith(const Subject& s) {
 }
 
 constexpr Requirement kRows[] = {
-    {"GraphicGetVtbl", "PropGet and BStringNULL leave no strings behind after 1,000 calls", FreesStrings},
-    {"GraphicDispose", "leaves no members and vertices behind after 1,000 calls", FreesGraphics},
-    {"GraphicCopyEx", "returns copies that GraphicDispose frees completely, after 1,000 calls", FreesCopies},
-    {"BlockDispose", "leaves no contents behind after 1,000 calls", FreesBlocks},
-    {"VertexDispose", "leaves no memory behind after 1,000 calls", FreesTemporaries},
-    {"MatrixDispose", "leaves no memory behind after 1,000 calls", FreesMatrices},
-    {"ViewportDispose", "leaves no memory behind after 1,000 calls", FreesViewports},
-    {"GraphicDrawEx2", "leaves no memory and GDI objects behind after 1,000 calls", FreesWhatItDrawsWith},
+    {"GraphicGetVtbl", "PropGet and BStringNULL leak no strings in 1,000 calls", FreesStrings},
+    {"GraphicDispose", "leaks no members or vertices in 1,000 calls", FreesGraphics},
+    {"GraphicCopyEx", "returns copies that GraphicDispose frees completely, in 1,000 calls", FreesCopies},
+    {"BlockDispose", "leaks no contents in 1,000 calls", FreesBlocks},
+    {"VertexDispose", "leaks no memory in 1,000 calls", FreesTemporaries},
+    {"MatrixDispose", "leaks no memory in 1,000 calls", FreesMatrices},
+    {"ViewportDispose", "leaks no memory in 1,000 calls", FreesViewports},
+    {"GraphicDrawEx2", "leaks no memory or GDI objects in 1,000 calls", FreesWhatItDrawsWith},
 };
 
 } // namespace

@@ -17,9 +17,9 @@ constexpr char kUsage[] =
     "usage: hostcheck DATABASE.dll [--drawing FILE] [--allow stubs]\n"
     "Checks a drawing database against the contract and prints a line for each requirement:\n"
     "  kept     the requirement is met\n"
-    "  broken   it is not; the line below says what was found\n"
+    "  broken   it is not met; the line below describes the result\n"
     "  stub     a function is not implemented, which the contract permits; the line below says what the sheet loses\n"
-    "Exit code: 0 all requirements are kept (with --allow stubs: or stubs), 1 some are not, 2 nothing was checked.\n";
+    "Exit code: 0 if all requirements are kept (or, with --allow stubs, stubs), 1 if not, 2 if nothing was checked.\n";
 
 // Returns the absolute path.
 std::wstring FullPath(const std::wstring& path) {

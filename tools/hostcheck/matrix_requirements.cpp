@@ -103,7 +103,7 @@ constexpr Requirement kRows[] = {
     {"MatrixRotateX", "turns y to z for a positive angle in radians", TurnsYToZ},
     {"MatrixRotateY", "turns z to x for a positive angle in radians", TurnsZToX},
     {"MatrixRotateZ", "turns x to y for a positive angle in radians", TurnsXToY},
-    {"MatrixScale", "and the others return a matrix that applies the given one first", AppliesTheGivenMatrixFirst},
+    {"MatrixScale", "and the others return a matrix that first applies the given one", AppliesTheGivenMatrixFirst},
     {"MatrixOffset", "and the others do not change the given matrix", KeepsTheGivenMatrix},
     {"MatrixDispose", "sets the pointer to null", ClearsThePointer},
 };

@@ -265,19 +265,19 @@ void KeepsRejectedProperties(const Subject& s) {
     const Property format(s, text.get(), kPropTextFormat);
     const uint64_t before = format.Get(VT_UI2);
     if (format.Set(VT_UI2, 777)) return; // a host may support more formats than the sheet
-    Require(format.Get(VT_UI2) == before, "rejects format 777, but has changed the format to %llu", format.Get(VT_UI2));
+    Require(format.Get(VT_UI2) == before, "rejected format 777, but changed the format to %llu", format.Get(VT_UI2));
 }
 
 constexpr Requirement kRows[] = {
     {"GraphicGetVtbl", "returns a table with the properties that previews need", HasThePropertiesOfPreviews},
     {"GraphicGetVtbl", "PropLookup returns 0 for an unknown name", RejectsUnknownNames},
-    {"GraphicGetVtbl", "PropLookup distinguishes names by the case of their letters", DistinguishesCase},
+    {"GraphicGetVtbl", "PropLookup is case-sensitive", DistinguishesCase},
     {"GraphicGetVtbl", "PropGet returns a layer, styles and colors that exist for a new graphic",
      HasMeaningfulDefaults},
     {"GraphicGetVtbl", "PropSet accepts each value that PropGet returns", AcceptsReturnedValues},
     {"GraphicGetVtbl", "PropGet returns each value that PropSet has set", ReturnsSetValues},
     {"GraphicGetVtbl", "PropSet accepts the value types of previews", AcceptsPreviewTypes},
-    {"GraphicGetVtbl", "PropSet changes one graphic only", ChangesOneGraphic},
+    {"GraphicGetVtbl", "PropSet changes only one graphic", ChangesOneGraphic},
     {"GraphicGetVtbl", "PropSet does not change a value that it rejects", KeepsRejectedProperties},
 };
 

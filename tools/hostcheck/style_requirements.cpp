@@ -82,7 +82,7 @@ void HatchesHaveLines(const Subject& s) {
             CALL(s.host, BrushPatternGetData)(lines, &angle, &x, &y, &along, &spacing, &dashCount, dashes);
             Require(std::isfinite(angle + x + y + along + spacing), "brush style %u, family %d: a value was not stored",
                     id, families);
-            Require(spacing != 0, "brush style %u, family %d: the distance of the lines is 0", id, families);
+            Require(spacing != 0, "brush style %u, family %d: the spacing of the lines is 0", id, families);
             Require(dashCount >= 0 && dashCount <= kMaxDashes, "brush style %u, family %d: %d dashes", id, families,
                     dashCount);
             Require(++families < 10000, "brush style %u: the iteration does not end", id);
@@ -96,8 +96,8 @@ void HatchesHaveLines(const Subject& s) {
 }
 
 constexpr Requirement kRows[] = {
-    {"LayerGetColor", "returns a COLORREF for each layer, else kColorNone", LayersHaveColors},
-    {"LayerGetVisible", "and LayerGetReadOnly accept each layer; one is visible", LayersHaveStates},
+    {"LayerGetColor", "returns a COLORREF for each layer, kColorNone for others", LayersHaveColors},
+    {"LayerGetVisible", "and LayerGetReadOnly accept each layer; at least one is visible", LayersHaveStates},
     {"LineStyleGetPattern", "copies as many items as LineStyleGetDLItems returns, at most 8", CopiesAllItems},
     {"LineStyleGetDLItems", "and LineStyleGetPattern return 0 for a style that does not exist",
      UnknownStylesHaveNoDashes},

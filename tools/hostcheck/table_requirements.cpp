@@ -50,7 +50,7 @@ void ReturnsEachEntryOnce(const Subject& s) {
         const std::set<uint16_t> different(entries.begin(), entries.end());
         Require(different.size() == entries.size(), "%s: returned %zu identifiers, of which %zu are different", name,
                 entries.size(), different.size());
-        Require(entries == s.Entries(table), "%s: a second iteration returned other entries", name);
+        Require(entries == s.Entries(table), "%s: a second iteration returned different entries", name);
     });
 }
 
@@ -62,7 +62,7 @@ void KeepsItsStateInTheCookie(const Subject& s) {
     for (uint16_t id = CALL(s.host, TableEntryFirst)(colors, cookies); id != 0 && nested.size() <= alone.size();
          id = CALL(s.host, TableEntryNext)(colors, cookies)) {
         nested.push_back(id);
-        Require(s.Entries(colors) == alone, "an iteration within another one returned other entries");
+        Require(s.Entries(colors) == alone, "a nested iteration returned different entries");
         s.Entries(s.Table(kTableLayers));
     }
     Require(nested == alone, "returned %zu of %zu entries with other iterations between the calls", nested.size(),
@@ -208,7 +208,7 @@ void DistinguishesTypes(const Subject& s) {
 }
 
 constexpr Requirement kRows[] = {
-    {"DrawingGetTable", "returns six tables; there is a layer", HasTheTables},
+    {"DrawingGetTable", "returns six tables; the table of layers is not empty", HasTheTables},
     {"TableEntryNext", "returns each entry once, always in the same order", ReturnsEachEntryOnce},
     {"TableEntryNext", "stores the position in the cookie only", KeepsItsStateInTheCookie},
     {"TableEntryFirst", "returns identifiers from 1 to 0xFFF0", IdentifiersAreBelowTheMarkers},

@@ -121,12 +121,12 @@ void UnitsHaveLengths(const Subject& s) {
     for (const uint16_t variable : kUnitVariables) {
         double millimeters = 0;
         RequireNoStub(CALL(s.host, UnitsGetLUnitValue)(s.Units(), variable, &millimeters), "UnitsGetLUnitValue");
-        Require(millimeters > 0, "the unit of variable 0x%X has %g mm", variable, millimeters);
-        Require(variable != kUnitMillimeter || millimeters == 1, "a millimeter has %g mm", millimeters);
+        Require(millimeters > 0, "the unit of variable 0x%X is %g mm", variable, millimeters);
+        Require(variable != kUnitMillimeter || millimeters == 1, "a millimeter is %g mm", millimeters);
     }
     double value = 77;
     Require(!CALL(s.host, UnitsGetLUnitValue)(s.Units(), 1, &value) && value == 77,
-            "the unit of variable 1, which does not exist, has %g mm", value);
+            "the unit of variable 1, which does not exist, is %g mm", value);
 }
 
 bool EndsWith(const std::string& text, const char* end) {
@@ -335,20 +335,21 @@ constexpr Requirement kRows[] = {
     {"StringToDouble", "reads what DoubleToString writes", NumbersRoundTrip},
     {"StringToDouble", "reads the number at the start and stores its end; 0 if there is none", ReadsTheNumberOnly},
     {"DoubleToString", "writes as many significant digits as requested", WritesTheDigits},
-    {"DoubleToString", "writes mantissa and exponent if exponentForm is 1", WritesExponentForm},
+    {"DoubleToString", "uses exponential notation if exponentForm is 1", WritesExponentForm},
     {"DoubleToString", "writes no trailing zeros", WritesNoTrailingZeros},
     {"UnitsTextToNumericEx", "reads what UnitsNumericToTextEx writes", LengthsRoundTrip},
     {"UnitsTextToNumericEx", "returns 0 if the text is not a length; the value is unchanged", RejectsInvalidLengths},
-    {"UnitsTextToNumericEx", "has the variable of the number before that of the text", HasTheNumberFirst},
-    {"UnitsNumericToTextEx", "has the variable of the text before that of the number", HasTheDisplayFirst},
+    {"UnitsTextToNumericEx", "takes the variable of the number before that of the text", HasTheNumberFirst},
+    {"UnitsNumericToTextEx", "takes the variable of the text before that of the number", HasTheDisplayFirst},
     {"UnitsNumericToTextEx", "writes the name of the unit if suffix is 1", NamesTheUnit},
     {"UnitsTextToNumericEx", "returns millimeters for a length on paper", PaperIsInMillimeters},
-    {"UnitsGetLUnitValue", "stores the millimeters of the four units; 0 for another variable", UnitsHaveLengths},
+    {"UnitsGetLUnitValue", "stores the millimeters of the four units; 0 for other variables", UnitsHaveLengths},
     {"DrawingStdTextToNumeric", "reads what DrawingStdNumericToText writes: lengths and text sizes",
      DrawingLengthsRoundTrip},
     {"DrawingStdTextToNumeric", "returns 0 if the text is not a length; the value is unchanged",
      RejectsInvalidDrawingLengths},
-    {"DrawingStdTextToNumeric", "and DrawingStdNumericToText have drawing units without a unit, also for text sizes",
+    {"DrawingStdTextToNumeric",
+     "and DrawingStdNumericToText use drawing units if there is no unit, also for text sizes",
      NumbersAreInDrawingUnits},
     {"DrawingStdTextToNumericEx", "and DrawingStdNumericToTextEx convert text sizes on paper from and to millimeters",
      TextSizesOnPaperAreInMillimeters},

@@ -55,10 +55,9 @@ void AppendsCopies(const Subject& s) {
     const auto vertices = s.Vertices(list.get());
     Require(vertices.size() == 4, "the iteration returned %zu of 4 vertices", vertices.size());
     for (int i = 0; i < 4; ++i) {
-        Require(vertices[i] != temporary.get() && IsAt(*vertices[i], i, 2 * i, 3 * i), "vertex %d has another position",
-                i);
-        Require(IsDrawn(*vertices[i]) == (i % 2 != 0),
-                "the flag kVertexDrawn of vertex %d is not that of the copied one", i);
+        Require(vertices[i] != temporary.get() && IsAt(*vertices[i], i, 2 * i, 3 * i),
+                "vertex %d has a different position", i);
+        Require(IsDrawn(*vertices[i]) == (i % 2 != 0), "the flag kVertexDrawn of vertex %d was not copied", i);
     }
 }
 
@@ -140,7 +139,7 @@ constexpr Requirement kRows[] = {
     {"GraphicVertexAdd", "appends a copy with its flags", AppendsCopies},
     {"GraphicVertexFirst", "returns the vertices of the graphic, which VertexSet moves", MovesVerticesOfGraphics},
     {"GraphicVertexNext", "stores the position in the cookie only", KeepsItsStateInTheCookie},
-    {"TextSetVWHAEx", "sets position, height and text; height 0 keeps the height", SetsTexts},
+    {"TextSetVWHAEx", "sets position, height and text; 0 keeps the height", SetsTexts},
     {"TextSetVWHAEx", "returns 0 if a number is not finite", RejectsNonFiniteNumbers},
     {"TextSetVWHAEx", "returns 0 if the graphic is not a text", SetsTextsOnly},
 };

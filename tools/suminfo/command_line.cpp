@@ -240,7 +240,7 @@ private:
 
     void AddOutput(CLI::App* sub) {
         sub->add_option("-o,--output", line_.output,
-                        "the file for the changed document; - is standard output, the default if FILE is -");
+                        "write the changed document to this file; - is standard output, the default if FILE is -");
     }
 
     // Takes exactly one argument per option, so that fields can follow it.
@@ -266,7 +266,7 @@ private:
     }
     void AddCheck() { AddFiles(Add("check", Command::check, "Report irregularities and damage, with their offsets")); }
     void AddSet() {
-        CLI::App* sub = Add("set", Command::set, "Change fields; an empty value removes one");
+        CLI::App* sub = Add("set", Command::set, "Set fields; an empty value removes the field");
         sub->footer("Fields: " + FieldNames() + ".\nTypes of custom properties: " + TypeNames() +
                     ".\nDates: 2001-02-03, 2001-02-03T04:05:06Z (UTC) or now; edit-time: h:mm:ss.");
         sub->add_option("FILE FIELD=VALUE", words_, "documents, and values such as title=\"Plan B\"");

@@ -157,8 +157,7 @@ void SectionReader::ReadValues() {
             CheckValue(entry.property, section_.codePage, section_.offset + entry.offset + kTypeSize, place_, report_);
         if (section_.size <= remaining_ && entry.end > section_.size)
             report_.Add(FindingCode::valueBeyondSection, Severity::irregular, section_.offset + entry.offset,
-                        NameOf(entry), " ends beyond the section's size of ", section_.size,
-                        "; the value is present nevertheless");
+                        NameOf(entry), " ends beyond the section's size of ", section_.size, "; the value is complete");
     }
 }
 
