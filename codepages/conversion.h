@@ -1,4 +1,5 @@
-// Converts between numbered code pages and UTF-16 as Windows does: by the system there, by Wine's tables on Linux.
+// Converts between numbered code pages and UTF-16 in the same way as Windows: with the system's functions on Windows,
+// and with Wine's tables on Linux.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +12,7 @@ namespace codepages {
 constexpr uint16_t kUtf8 = 65001;
 constexpr uint16_t kWesternEuropean = 1252;
 
-// The treatment of bytes that are not text in the code page.
+// Determines how bytes that are not text in the code page are handled.
 enum class Invalid { Refuse, Replace };
 
 // Returns nothing if the code page is unknown or, with Refuse, if the bytes are not text. Code pages 0 to 3 are the

@@ -1,5 +1,5 @@
-// FileReplacement: writes a file under a temporary name in the same folder, then replaces the target in one step. After
-// any failure, including the end of the process, the target is either the old or the new file.
+// FileReplacement: writes a file under a temporary name in the target's folder, then replaces the target in one step.
+// After any failure, including the end of the process, the target is either the old or the new file.
 //
 //   files::FileReplacement replacement(path);
 //   replacement.Write(bytes);    // or any other writer, using replacement.Path()
@@ -45,8 +45,8 @@ private:
     std::filesystem::path path_; // empty after the temporary file has been renamed or removed
 };
 
-// Makes signals that interrupt or end the program remove the temporary file. For command-line programs, which replace
-// one file at a time.
+// Installs handlers that remove the temporary file if the program is interrupted or ended. For command-line
+// programs, which replace one file at a time.
 void RemoveTemporaryFileOnInterrupt();
 
 } // namespace files

@@ -43,7 +43,7 @@ struct TableStruct {
     TableStruct(const TableStruct&) = delete;
     TableStruct& operator=(const TableStruct&) = delete;
 
-    // Returns the table, or null if it has been freed: controls can keep pointers to freed tables.
+    // Returns the table, or null if it has been freed, because controls may still have pointers to freed tables.
     static TableStruct* Find(TableStruct* table);
     Entry* At(uint16_t id);
     uint16_t IdOf(const char* name) const;      // 0 if there is none

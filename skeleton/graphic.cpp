@@ -113,7 +113,7 @@ const PropertyTable* GraphicGetVtbl(GraphicStruct* graphic) {
     return graphic ? &kProperties : nullptr;
 }
 
-// Extents are computed on demand, so that no marks are needed.
+// Extents are computed on demand, so this database does not need to mark them.
 void GraphicSetDirty(GraphicStruct*, int) {}
 
 void GraphicSetExtentsDirty(GraphicStruct*, int) {}

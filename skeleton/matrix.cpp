@@ -1,4 +1,4 @@
-// Transformations of row vectors. Each function applies the given matrix first, then its own transformation.
+// Transformations of row vectors. The result first applies the given matrix, then the function's own transformation.
 
 #include <cmath>
 #include <new>

@@ -14,7 +14,7 @@
 DRAWCORE_API DrawingStruct* DrawingNew(void);
 // Frees the drawing and everything that it owns, and sets the pointer to null.
 DRAWCORE_API void DrawingDispose(DrawingStruct** drawing);
-// Returns the set of all graphics of the drawing. It belongs to the drawing.
+// Returns the set of all graphics of the drawing, which owns it.
 DRAWCORE_API GraphicStruct* DrawingGetRoot(DrawingStruct*);
-// Makes a drawing the current one; null for none.
+// Makes a drawing the current one; null means none. Returns non-zero on success.
 DRAWCORE_API int AppSetCurrentDrawing(DrawingStruct*);

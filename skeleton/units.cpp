@@ -1,4 +1,4 @@
-// Numbers, lengths, angles and scales as text. A text that was written is read as the value that it shows.
+// Numbers, lengths, angles and scales as text. Parsing a text that was written returns the value that it shows.
 
 #include <algorithm>
 #include <cmath>
@@ -34,8 +34,8 @@ const char* SkipBlanks(const char* text) {
     return text + std::strspn(text, " \t");
 }
 
-// Reads a number with an optional unit; without one it is in the given unit. Returns false if the text is anything
-// else.
+// Parses a number with an optional unit; a number without one is in the given unit. Returns false if the text is not
+// such a number.
 bool ReadLength(const char* text, const Unit& defaultUnit, double& millimeters) {
     char* end = nullptr;
     const double number = ::StringToDouble(0, text, &end);
@@ -49,7 +49,7 @@ bool ReadLength(const char* text, const Unit& defaultUnit, double& millimeters) 
     return std::isfinite(millimeters);
 }
 
-// Returns 0 if the text does not fit: truncated, it would be another number.
+// Returns 0 if the text does not fit, because a truncated text would be a different number.
 int Store(const std::string& text, char* buffer, int size) {
     if (text.size() >= static_cast<size_t>(std::max(size, 0))) return 0;
     CopyText(text, buffer, size);

@@ -166,7 +166,7 @@ private:
     int saved_;
 };
 
-// Fits the extents into the rectangle: centered, with the aspect ratio kept.
+// Scales the extents to fit into the rectangle, centered and with the same aspect ratio.
 Placement ToDevice(const ViewportStruct& viewport) {
     const RECT& rect = viewport.rect;
     const ExtentsStruct& shown = viewport.shown;

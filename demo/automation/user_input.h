@@ -19,7 +19,7 @@ public:
     // pause: milliseconds after each action, to let the program paint.
     explicit UserInput(unsigned pause) : m_pause(pause) {}
 
-    // Handles messages for at least that time.
+    // Handles messages for at least the given time.
     void Wait(unsigned milliseconds);
 
     // Sends a key to the focus window. If another program has the focus, restores it first, or throws
@@ -29,8 +29,8 @@ public:
     void Type(const std::string& text);
     void Mnemonic(char letter); // Alt and the letter
 
-    // Moves the focus, and returns the window that has it then: in a combo box its edit field. If another program takes
-    // the focus before the next key, that key restores it.
+    // Moves the focus and returns the window that then has it, which for a combo box is its edit field. If another
+    // program takes the focus before the next key, that key restores it.
     HWND MoveFocus(HWND window);
     // Moves the focus to the field and types over its text.
     void Replace(HWND field, const std::string& text);

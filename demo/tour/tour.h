@@ -1,7 +1,7 @@
-// A scripted tour for machines without a user: opens a drawing, selects graphics that differ, edits their pen in the
+// A scripted tour for machines without a user. Opens a drawing, selects graphics that differ, edits their pen in the
 // sheet, undoes and redoes the edit, creates a style with the wizard, selects all graphics and visits every page, saves
-// a copy, and shows the properties pane and the layers dialog. Uses keyboard and mouse messages only, takes a
-// screenshot at each step and reports what has changed.
+// a copy, and shows the properties pane and the layers dialog. Uses only keyboard and mouse messages, saves a
+// screenshot of each step, and reports changes.
 #pragma once
 
 #include <functional>

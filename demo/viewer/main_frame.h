@@ -24,17 +24,17 @@ public:
 
     // Returns false if the window could not be created; the object is then deleted.
     BOOL Create();
-    // Shows the window at its position from the last session. show: the value requested by the system, SW_SHOWNORMAL or
-    // another.
+    // Shows the window at its position from the last session. show is the show command that the system requested, such
+    // as SW_SHOWNORMAL.
     void ShowFirst(int show);
 
-    // Opens a drawing (path in UTF-8) in place of the current one. If it cannot be opened, or if the user cancels at
-    // the prompt about unsaved changes, keeps the current one and reports the reason.
+    // Opens a drawing (path in UTF-8) instead of the current one. If it cannot be opened, or if the user cancels at the
+    // prompt about unsaved changes, keeps the current one and reports the reason.
     bool Open(const std::string& path);
     // Shows a drawing that is already open, without a prompt for the previous one.
     void Show(std::unique_ptr<Document> document);
-    // Saves the drawing to that file and makes it the drawing's file. Returns false if saving failed, which was
-    // reported, or the user canceled.
+    // Saves the drawing to a file, which becomes the drawing's file. Returns false if the user canceled or if saving
+    // failed, which has then been reported.
     bool Save(const std::string& path);
     Document* GetDocument() const { return m_document.get(); }
     CDrawingView& View() { return m_view; }

@@ -1,5 +1,5 @@
-// Merges a named property of all graphics of a set into one value, or writes one value to all. Independent of pages and
-// units: values are used as graphics store them.
+// Merges a named property of all graphics of a set into one value, or writes one value to all of them. Does not depend
+// on pages or units: values are used as graphics store them.
 //
 //   double width;
 //   if (Merge<Double>(set, "PenWidth", &width)) ...   // a graphic has it: the common value, or the marker
@@ -96,15 +96,15 @@ int Merge(const ObjectSet& set, const char* name, typename Type::Member* member)
     });
 }
 
-// The set that is written to, and a collection of the graphics whose value was not changed.
+// The set to write to, and the graphics that rejected or accepted the value.
 struct WriteTarget {
     ObjectSet set;
     std::set<const GraphicStruct*>* unchanged;         // may be null
     std::set<const GraphicStruct*>* changed = nullptr; // receives those that accepted a value; may be null
 };
 
-// After an exception at the graphic that follows last (at the first if last is null), records that graphic and all
-// following ones as unchanged.
+// Called after the graphic that follows `last` (or the first one if last is null) has thrown an exception. Records that
+// graphic and all following ones as unchanged.
 inline void AddRest(const WriteTarget& target, const char* name, const GraphicStruct* last) {
     bool after = last == nullptr;
     ForEachProperty(target.set, name, [&](const Property& property) {
@@ -114,7 +114,7 @@ inline void AddRest(const WriteTarget& target, const char* name, const GraphicSt
     });
 }
 
-// write(Property) returns the result of PropSet.
+// Calls write(Property), which returns the result of PropSet, for each graphic of the set that has the property.
 template <class WriteOne>
 int WriteEach(const WriteTarget& target, const char* name, WriteOne write) {
     const GraphicStruct* last = nullptr;
@@ -177,8 +177,8 @@ inline int WriteCheck(const WriteTarget& target, const char* name, int value) {
     return WriteEach(target, name, [&](const Property& property) { return property.Set(VT_BOOL, &checked); });
 }
 
-// pair: a mask of the bits in which graphics differ, and the bits of the first graphic. Visits all graphics, since each
-// may add bits to the mask.
+// Stores in pair a mask of the bits in which graphics differ, and the bits of the first graphic. Visits all graphics,
+// because each may add bits to the mask.
 inline int MergeBits(const ObjectSet& set, const char* name, unsigned short* pair) {
     unsigned short mask = 0, base = 0;
     bool first = true;

@@ -1,6 +1,6 @@
-// The library's module, and the texts and dialogs of its resources. They are found in the library itself, also if the
-// host has resources with the same numbers. A translation replaces them: orlo.LANGUAGE.dll beside orlo.dll, such as
-// orlo.de-AT.dll or orlo.de.dll, for the languages that the user prefers.
+// The library's module, and the texts and dialogs of its resources. They are loaded from the library itself, even if
+// the host has resources with the same numbers, or from a translation for the user's preferred languages:
+// orlo.LANGUAGE.dll in the folder of orlo.dll, such as orlo.de-AT.dll or orlo.de.dll.
 #pragma once
 
 #include <afx.h>
@@ -14,10 +14,10 @@ HINSTANCE TranslationModule();
 // Frees the module. Called when the library is unloaded.
 void ReleaseTranslation();
 
-// Copies a string, at most nSize bytes including the NUL. Returns the length, or 0 and an empty string if it is not
-// found.
+// Copies a string, at most nSize bytes including the NUL, and returns its length. If it is not found, stores an empty
+// string and returns 0.
 int LoadLibraryText(UINT nID, char* pszBuffer, int nSize);
-// Returns an empty string if it is not found.
+// Returns a string, which is empty if it is not found.
 CString LibraryText(UINT nID);
 // Returns the template of a dialog.
 std::vector<BYTE> LibraryDialog(UINT nID);

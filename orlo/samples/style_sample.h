@@ -1,4 +1,4 @@
-// The sample that shows a style in a control: a small graphic of the host that is restyled for each item, and the
+// The sample that shows a style in a control: a small graphic of the host, whose style is set for each item, and the
 // viewport in which the host draws it.
 #pragma once
 
@@ -18,8 +18,9 @@ struct DisposeSampleGraphic {
 using SampleGraphic = std::unique_ptr<GraphicStruct, DisposeSampleGraphic>;
 using SampleViewport = orlo::host::OwnedViewport;
 
-// Attaches the sample to the drawing that owns the table of styles. Without a table detaches it, so that it does not
-// refer to a drawing that the host closes. makeGraphic is called if the control gets a table before it has a sample.
+// Attaches the sample to the drawing that owns the table of styles. If there is no table, detaches it, so that it does
+// not refer to a drawing that the host closes. makeGraphic is called if the control receives a table before it has a
+// sample.
 template <class MakeGraphic>
 void AttachSample(SampleGraphic& graphic, SampleViewport& viewport, TableStruct* table, MakeGraphic makeGraphic) {
     if (table && !graphic) graphic = makeGraphic();

@@ -1,5 +1,5 @@
-// RAII owners of GDI objects and guards that restore the previous state of a device context. All modules with windows
-// use them; no object is released by hand.
+// RAII owners of GDI objects, and guards that restore the previous state of a device context. All modules with windows
+// use them, so that no code releases objects itself.
 //
 //   const orlo::OwnedPen pen(::CreatePen(PS_SOLID, 1, color));
 //   const orlo::SelectedObject selected(dc, pen.get());   // the previous pen is selected again at the end of the block
@@ -41,7 +41,7 @@ public:
     SelectedObject(const SelectedObject&) = delete;
     SelectedObject& operator=(const SelectedObject&) = delete;
 
-    // Returns true if the object was selected. A bitmap cannot be selected twice, for example.
+    // Returns true if the object was selected. Selection can fail: a bitmap, for example, cannot be selected twice.
     explicit operator bool() const { return previous_ != nullptr; }
 
 private:

@@ -32,8 +32,8 @@ Graphic* NewOfType(int type) {
     }
 }
 
-// Loads the record of a member that an iteration will soon return: those of a large drawing are scattered over memory,
-// and waiting for them would take most of the time of a walk.
+// Prefetches the record of a member that an iteration will soon return: in a large drawing, records are scattered over
+// memory, and waiting for them would take most of the time of an iteration.
 void PrefetchMember(const Graphic& graphic, size_t index) {
     constexpr size_t kCacheLine = 64;
     const auto* record = reinterpret_cast<const char*>(graphic.MemberAt(index));
@@ -41,7 +41,7 @@ void PrefetchMember(const Graphic& graphic, size_t index) {
         __builtin_prefetch(record + offset);
 }
 
-// Returns the first member at or after that index that passes the filter, and sets the position after it.
+// Returns the first member at or after the index that passes the filter, and sets the position to the one after it.
 GraphicStruct* MemberFrom(GraphicStruct* set, uint32_t index, void* position, uint32_t filter) {
     if (!set || !position) return nullptr;
     const Graphic& graphic = *Graphic::From(set);
@@ -62,7 +62,7 @@ VertexGraphic* AsVertices(GraphicStruct* graphic) {
                                                          : nullptr;
 }
 
-// Changes an attribute without checking it against properties, but recorded for undo.
+// Changes an attribute without validating it like a property, and records the change for undo.
 template <class Change>
 void ChangeAttribute(GraphicStruct* record, Change change) {
     if (!record) return;

@@ -41,7 +41,8 @@ struct Appearance {
     // Values of the properties without a group (PropertyInfo), sorted by name: a text or the name of a block in UTF-8,
     // or a number.
     ExtendedData extended;
-    // Bits (kVariedColor ...) of values that only most of the text has; inline codes set others for the rest.
+    // Bits (kVariedColor ...) of values that apply only to most of the text; inline codes set different values for the
+    // rest.
     uint8_t varied = 0;
 };
 
@@ -50,7 +51,7 @@ enum : uint8_t { kVariedColor = 1, kVariedFont = 2, kVariedSize = 4, kVariedStyl
 uint8_t VariedBit(std::string_view property);
 
 Appearance AppearanceOf(const Document& document, const Entity& entity);
-// Returns the appearance by groups only, ignoring extended data.
+// Returns the appearance that the groups define, ignoring extended data.
 Appearance AppearanceByGroups(const Document& document, const Entity& entity);
 
 // Returns the value with that name, or null.

@@ -1,9 +1,7 @@
 // Reads ASCII DXF, R12 to 2018, from a buffer into a Document, without windows.
 //
 //   dxf::Document drawing = dxf::Read(bytes, {});
-//   dxf::Read("0
-// SECTION
-// ", {});   // throws dxf::ReadError: "line 2: the file is truncated: it ends within a section"
+//   dxf::Read("0\nSECTION\n", {}); // throws dxf::ReadError: "line 2: the file is truncated: it ends within a section"
 //
 // A file with a broken structure (a group code that is not a number, a section that does not end, no EOF) is rejected.
 // A single invalid value or reference affects only its entity and is reported as a warning.

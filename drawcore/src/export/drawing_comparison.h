@@ -1,4 +1,4 @@
-// Verifies that the file to be saved results in the same drawing when it is read.
+// Verifies that reading the file to be saved results in the same drawing.
 #pragma once
 
 #include <string_view>
@@ -16,7 +16,7 @@ using Sources = std::vector<std::pair<Graphic*, uint32_t>>;
 
 // Adds the graphics that the file would show differently to `omitted`. Identifiers of table entries may differ. Returns
 // the offsets of all graphics in the document's text, which is complete if nothing was added. Throws SaveError if the
-// file would contain other graphics.
+// file would contain different graphics.
 Sources CompareWithFile(const Drawing& saved, std::string_view text, const dxf::Document& read, OmittedObjects& omitted,
                         const std::vector<uint32_t>& notRemoved, const dxf::Progress& progress);
 

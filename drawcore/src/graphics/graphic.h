@@ -1,5 +1,5 @@
-// The base of all graphics: the host's record, pen and brush, members, extents, and tracing. Shapes are implemented by
-// VertexGraphic, EllipseGraphic, SplineGraphic, TextGraphic and InsertGraphic.
+// The base class of all graphics: the host's record, pen and brush, members, extents, and tracing. VertexGraphic,
+// EllipseGraphic, SplineGraphic, TextGraphic and InsertGraphic implement the shapes.
 //
 // A graphic owns its parts (the members of a group, the attribute texts of an insertion); the members of a Selection
 // have other owners. Coordinates are in drawing units of the drawing or block that contains the graphic.
@@ -61,14 +61,14 @@ public:
     // Members in drawing order: the parts that it owns, or those of others in a selection.
     virtual size_t MemberCount() const { return parts_ ? parts_->size() : 0; }
     virtual Graphic* MemberAt(size_t index) const { return (*parts_)[index].get(); }
-    // Gets the motion of the members from their own coordinates. Returns false if they have not moved.
+    // Stores the motion of the members relative to their own coordinates. Returns false if they have not moved.
     virtual bool FindMotion(Matrix&) const { return false; }
     Graphic* Add(std::unique_ptr<Graphic> part);
     // Removes the part and returns it, or null if it is not a part.
     std::unique_ptr<Graphic> Release(Graphic* part);
 
-    // Returns the graphic that contains this one, or null for one without a parent, a block's contents, or a drawing's
-    // root.
+    // Returns the graphic that contains this one. Returns null if it has no parent, or is the contents of a block or
+    // the root of a drawing.
     Graphic* Parent() const { return dwFlags & kFlagNoParent ? nullptr : From(pParent); }
     const Graphic& Top() const; // the outermost parent, or this graphic
 

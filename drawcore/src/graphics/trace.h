@@ -1,5 +1,5 @@
-// Tracing: converts a graphic to flattened lines, areas and rows of text for a device, a hit test or extents, with
-// blocks expanded and colors, styles and widths resolved.
+// Tracing: converts a graphic to flattened lines, areas and rows of text for drawing, hit tests or extents. Blocks are
+// expanded, and colors, styles and widths are resolved.
 #pragma once
 
 #include <string_view>
@@ -49,7 +49,7 @@ struct TextRow {
 class GeometrySink {
 public:
     virtual ~GeometrySink();
-    // Returns whether geometry in that box (sink units), or within that distance of it, is needed.
+    // Returns whether geometry inside the box (sink units), or within the distance `reach` of it, is needed.
     virtual bool Needs(const Extents& box, double reach) const = 0;
     // Graphics up to this size in both directions are traced as points.
     virtual double DotSize() const { return 0; }

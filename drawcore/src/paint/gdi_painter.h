@@ -1,6 +1,7 @@
 // Paints traced geometry on a device context, in device pixels, and preserves its state.
 //
-// Consecutive lines with the same pen are passed to the device in one call, and each pen is created once per painting.
+// For speed, consecutive lines with the same pen are passed to the device in one call, and each pen is created only
+// once.
 #pragma once
 
 #include <map>

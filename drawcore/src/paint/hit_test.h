@@ -10,11 +10,11 @@
 
 namespace drawcore {
 
-// Returns the topmost member whose lines are within that many pixels of the point, or whose filled area or text box
-// contains it, or null.
+// Returns the topmost member whose lines are within `tolerance` pixels of the point, or whose filled area or text box
+// contains it. Returns null if there is none.
 Graphic* PickAt(const Viewport& viewport, const Graphic& set, Point device, double tolerance, uint32_t filter);
 
-// Returns the members that are completely in the box or, if crossing, at least partly, in drawing order.
+// Returns, in drawing order, the members that are completely or, if crossing is set, at least partly inside the box.
 std::vector<Graphic*> PickWithin(const Viewport& viewport, const Graphic& set, const Box& device, bool crossing,
                                  uint32_t filter);
 

@@ -1,5 +1,5 @@
-// Changes a drawing's text entity by entity: only the groups that carry a change are replaced, added or removed. Values
-// without a group are stored in extended data under kApplication. Independent of the database.
+// Changes a drawing's text entity by entity: only the groups of changed values are replaced, added or removed. Values
+// without a group are stored in extended data under kApplication. Does not depend on the database.
 //
 //   dxf::DrawingPatch patch(text, std::move(document));
 //   dxf::Appearance appearance = patch.AppearanceAt(entity.offset);
@@ -18,13 +18,13 @@
 
 namespace dxf {
 
-// The requested position of an entity, and the requested contents of a text; null members leave it as it is.
+// The requested position of an entity, and the requested contents of a text. Null members change nothing.
 struct EntityChange {
     // For an insertion. Its attributes move with it, even those without other changes.
     const AxisEnds* ends = nullptr;
     // In world coordinates, for an entity with a position (placement.h) that is not an insertion.
     const Vec3* position = nullptr;
-    // For lines and polylines, in world coordinates, as many as it has.
+    // For lines and polylines: all of its vertices, in world coordinates.
     const std::vector<Vec3>* vertices = nullptr;
     // As Text and MText store it, with control and inline codes.
     const std::string* text = nullptr;
@@ -38,23 +38,22 @@ public:
 
     const Document& Known() const { return in_.document; }
 
-    // Find objects by name (UTF-8, ignoring case). One that no table of the file declares gets a record when an entity
-    // first needs it, as described until then.
+    // Find objects by name (UTF-8, ignoring case). If no table of the file declares the object, a record is added when
+    // an entity first needs it, with the values that Describe has at that time.
     LayerIndex FindLayer(const std::string& name) { return LayerIndex(in_.layers.FindUtf8(name)); }
     LineTypeIndex FindLineType(const std::string& name) { return LineTypeIndex(in_.lineTypes.FindUtf8(name)); }
     Layer& Describe(LayerIndex index) { return in_.document.layers[static_cast<size_t>(index)]; }
     LineType& Describe(LineTypeIndex index) { return in_.document.lineTypes[static_cast<size_t>(index)]; }
 
-    // Returns the entity whose record is at the offset. Throws ReadError or SaveError if there is none that can be
-    // read.
+    // Returns the entity whose record is at the offset. Throws ReadError or SaveError if there is no readable entity.
     Entity EntityAt(size_t offset);
     Appearance AppearanceAt(size_t offset) { return AppearanceOf(Known(), EntityAt(offset)); }
 
     // May be called once per entity.
     void Change(size_t offset, const Appearance& wanted, const EntityChange& change = {});
 
-    // Changes color, flags, line type (by name), weight and plotting of a layer; once per layer, and before changes of
-    // entities.
+    // Changes color, flags, line type (by name), weight and plotting of a layer. May be called once per layer, before
+    // entities are changed.
     void ChangeLayer(LayerIndex index, const Layer& wanted);
 
     // Renames the layer (UTF-8) in its record and in all records that refer to it. Cannot be combined with changes of
@@ -70,7 +69,7 @@ public:
     bool IsChanged() const { return !patch_.IsEmpty(); }
     // Returns the changed text. Nothing can be changed afterwards.
     std::string Finish();
-    // Returns the offset in the changed text of what was at `offset`.
+    // Converts an offset in the original text to the offset in the changed text.
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }
 
 private:

@@ -1,9 +1,9 @@
-// Tables of a drawing: named entries with 16-bit identifiers, and typed variables. This class is independent of the
+// Tables of a drawing: named entries with 16-bit identifiers, and typed variables. This class does not depend on the
 // kinds of entries, which are defined in styles/.
 //
-// Names have 1 to 255 bytes and are unique within a table. They are compared ignoring the case of A to Z, and keep the
-// spelling given first. Identifiers ascend from 1 in the order of addition, which is also the iteration order; they are
-// reused only when no others are left.
+// Names have 1 to 255 bytes and are unique within a table. They are compared ignoring the case of the letters A to Z,
+// and keep their original spelling. Identifiers ascend from 1 in the order in which entries are added, which is also
+// the iteration order. They are reused only when no others are left.
 #pragma once
 
 #include <cstdint>
@@ -31,8 +31,8 @@ class TableEntry {
 public:
     explicit TableEntry(std::string_view entryName) : name(entryName) {}
     virtual ~TableEntry();
-    // Returns what TableEntryGetData returns: depending on the table, a text, a COLORREF or a graphic, owned by the
-    // entry; may be null.
+    // Returns the result of TableEntryGetData: depending on the table, a text, a COLORREF or a graphic, which the entry
+    // owns. May be null.
     virtual void* Data() { return nullptr; }
 
     const std::string name;
@@ -50,8 +50,8 @@ public:
 
     DrawingStruct* Owner() const { return owner_; }
 
-    // Creates an entry from a name and data, for hosts that only know these. Returns null if the data is unsuitable for
-    // the table.
+    // Creates an entry from a name and the data of TableEntryAdd. Returns null if the data is not suitable for the
+    // table.
     virtual std::unique_ptr<TableEntry> MakeEntry(std::string_view name, void* data);
 
     // Returns whether an entry with that name can be added.

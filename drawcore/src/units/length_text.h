@@ -1,8 +1,8 @@
 // Parses and formats lengths.
 //
 // Accepts "2.5", "2.5 mm", "-3 1/2 in", "1/4\"", "1'-6 1/2\"", surrounded by blanks, and calculations with them
-// (calculation.h). A minus sign applies to the whole length. Text is accepted or rejected as a whole, in any format,
-// whatever format the drawing uses.
+// (calculation.h). A minus sign applies to the whole length. Text is accepted or rejected as a whole. All formats are
+// accepted, regardless of the drawing's format.
 #pragma once
 
 #include <string>
@@ -23,12 +23,13 @@ struct LengthFormat {
     bool suffix = false; // append the unit's name after a blank if the format has no unit signs
 };
 
-// Parses a length to millimeters; a number without a unit is in the default unit. Returns false and leaves millimeters
-// unchanged if the text is not a length.
+// Parses a length and converts it to millimeters. A number without a unit is in the default unit. Returns false and
+// leaves millimeters unchanged if the text is not a length.
 bool ReadLength(std::string_view text, const LengthUnit& defaultUnit, double& millimeters);
 
-// Returns an empty string if the length is not a number. Feet and inches (engineering, architectural) are independent
-// of the unit. A length that is too large for its format, or too small for a fraction, is formatted as a decimal.
+// Formats a length. Returns an empty string if it is not a number. Feet and inches (engineering, architectural) are
+// independent of the unit. A length that is too large for its format, or too small for a fraction, is formatted as a
+// decimal.
 std::string WriteLength(double millimeters, const LengthUnit& unit, const LengthFormat& format);
 
 } // namespace drawcore
