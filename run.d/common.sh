@@ -17,8 +17,8 @@ configure() {
     local preset=$1 made_in
     if [ -e "build/$preset/CMakeCache.txt" ]; then
         made_in=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "build/$preset/CMakeCache.txt")
-        [ "$made_in" -ef . ] || die "build/$preset was made for $made_in: this folder was moved or copied. Remove build/ \
-(rm -r build) and call ./run again."
+        [ "$made_in" -ef . ] || die "build/$preset was configured for $made_in, but this folder was moved or copied; \
+remove build/ (rm -r build) and call ./run again"
     fi
     mkdir -p build
     cmake --preset "$preset" >"build/configure-$preset.log" 2>&1 || { cat "build/configure-$preset.log"; exit 1; }
@@ -65,7 +65,7 @@ on_one_processor() {
 }
 
 # Keeps one server and one window during the whole session; otherwise every program waits seconds for its own.
-# display: "own" always starts an Xvfb; "users" takes the caller's display where there is one.
+# display: "own" always starts an Xvfb; "users" uses the caller's display if there is one.
 wine_session() {
     local display=$1
     wine_prefix

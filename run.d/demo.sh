@@ -41,8 +41,8 @@ managed() {
     wine reg add "HKCU\\Software\\Wine\\AppDefaults\\${program##*/}\\X11 Driver" /v Managed /d "$1" /f >/dev/null
 }
 
-# Wine has the dialogs' font in a few sizes only. A separate Wine prefix of the viewer replaces it by a scalable font of
-# the same width, so that pages grow with the resolution as on Windows.
+# Wine has the dialogs' font in only a few sizes. A separate Wine prefix for the viewer replaces it with a scalable font
+# of the same width, so that pages grow with the resolution as on Windows.
 scalable_dialog_font() {
     derive_wine_prefix demo
     [ -e "$WINEPREFIX/.scalable" ] && return

@@ -20,7 +20,7 @@ while read -r name seeds; do
         grep -E '^stat::(number_of_executed_units|peak_rss_mb)' "$found.log" | sed "s/^stat::/$name /"
     else
         tail -n 40 "$found.log"
-        say "$name found something: keep the input in fuzz/regressions/$name"
+        say "$name found a fault: keep the input in fuzz/regressions/$name"
         failed=1
     fi
 done <build/sanitize/fuzz/fuzzers.txt

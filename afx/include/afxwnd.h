@@ -244,8 +244,7 @@ protected:
     afx_msg void OnDeleteItem(int nIDCtl, LPDELETEITEMSTRUCT lpDeleteItemStruct);
     afx_msg void OnNcDestroy();
 
-    // Implements DoModal: creates the window with make, runs the loop and destroys the window. The owner is disabled
-    // meanwhile.
+    // Implements DoModal: disables the owner, creates the window with make, runs the loop, and destroys the window.
     template <class Make>
     int RunModal(CWnd* pParentWnd, Make make);
     // Hides the window, enables the owner and ends the loop. A window that is not modal is destroyed.

@@ -2,7 +2,7 @@
 // CBrushStyleControlL.
 //
 // Brush styles are identifiers of table entries. The first item is kBrushStyleNone, no brush; filling the control never
-// selects it. kBrushStyleIndeterminate stands for multiple values.
+// selects it. kBrushStyleIndeterminate means multiple values.
 #pragma once
 
 #include "orlo/controls/style_control.h"

@@ -22,7 +22,7 @@ RowColors ColorsOf(const DRAWITEMSTRUCT& item);
 // Returns the colors for a control that marks the selection by a frame: black where it is readable.
 RowColors SampleColorsOf(const DRAWITEMSTRUCT& item);
 
-// The part that a request asks a control of style samples to draw. A selection change redraws the whole item, because
+// The part of an item that a control of style samples has to draw. A selection change redraws the whole item, because
 // the old selection frame overlaps the sample or name.
 enum class ItemPart { Nothing, Whole, Focus };
 ItemPart RequestedPart(const DRAWITEMSTRUCT& item);

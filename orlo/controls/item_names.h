@@ -6,8 +6,8 @@
 
 #include "orlo/controls/control_items.h"
 
-// Keeps the names as items are added at the end: reading thousands of them takes longer than the time between two
-// keystrokes. After other changes of the items they are read again.
+// Caches the names of the items, because reading thousands of them takes longer than the time between two keystrokes.
+// Items that are added at the end are appended; after other changes, all names are read again.
 class ItemNames {
 public:
     const std::vector<std::string>& Of(const ControlItems& items);

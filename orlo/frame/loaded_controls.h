@@ -1,9 +1,9 @@
 // Records what the controls of a page displayed when they last matched the selection, and the values of the selection
 // at that time.
 //
-// Text has less precision than the value: 1.23457 for 1.23456789. Therefore a control that displays the same text as
-// after it was loaded or written counts as not edited, whatever happened in between, and its member gets the exact
-// value.
+// Text has less precision than the value: 1.23457 for 1.23456789. Therefore, a control that displays the same text as
+// when it was loaded or written does not count as edited, regardless of what happened in between, and its member
+// receives the exact value.
 #pragma once
 
 #include <afxwin.h>

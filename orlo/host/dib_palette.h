@@ -19,7 +19,7 @@ struct InfoHeader {
     int32_t xPerMeter, yPerMeter;
     uint32_t colorsUsed, colorsImportant;
 };
-static_assert(sizeof(InfoHeader) == 40, "the header is read as it stands");
+static_assert(sizeof(InfoHeader) == 40, "the header is copied byte for byte");
 
 inline constexpr uint32_t kPublishedSizes[] = {40, 52, 56, 108, 124};
 inline constexpr uint32_t kBitFields = 3;

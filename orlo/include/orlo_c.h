@@ -226,7 +226,7 @@ typedef struct OrloPage {
 // Called after a page has written. changed is the number of graphics that accepted a value, rejected that of graphics
 // that rejected one.
 typedef void(ORLO_CALL* OrloWrittenCallback)(void* context, uint32_t changed, uint32_t rejected);
-// Called when the user has closed a modeless sheet, or wants to undo what was written since the last Apply.
+// Called when the user has closed a modeless sheet, or has requested to undo what was written since the last Apply.
 typedef void(ORLO_CALL* OrloSheetCallback)(void* context);
 
 typedef struct OrloSheet {

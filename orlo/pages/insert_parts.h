@@ -22,7 +22,8 @@ void InsertSetParts(GraphicStruct* graphic, const InsertParts* parts);
 
 // Reads the parts of any insertion. Collapsed axes are replaced by axes perpendicular to the others; rotations of at
 // most 1e-7 are 0. Returns false, with the record undefined, if the graphic lacks the four vertices or one of them is
-// not finite. withRotationZ false skips that rotation, which takes half of the time and differs in most selections.
+// not finite. If withRotationZ is false, skips that rotation, which takes half of the time and differs in most
+// selections.
 bool ReadInsertParts(GraphicStruct* graphic, InsertParts& parts, bool withRotationZ = true);
 
 // Changes an insertion from one set of parts to another. If only the position changes, the axes are unchanged, even

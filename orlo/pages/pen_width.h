@@ -12,8 +12,8 @@
 int TextToPenWidth(DrawingStruct* drawing, unsigned char scaleSystem, const char* text, double* value);
 int PenWidthToText(DrawingStruct* drawing, unsigned char scaleSystem, double value, char* buffer, int size);
 
-// Exchanges the width combo box. Loading adds a text that is not in the list; "*****" stands for the indeterminate
-// value. Text that is not a width is rejected with a beep, without a message.
+// Exchanges the width combo box. Loading adds a text that is not in the list. The indeterminate value is displayed as
+// "*****". Text that is not a width is rejected with a beep, without a message.
 int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, unsigned char scaleSystem,
                    DrawingStruct* drawing);
 

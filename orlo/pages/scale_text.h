@@ -3,6 +3,6 @@
 
 #include <afxwin.h>
 
-// Exchanges a scale. "Indeterminate" stands for the indeterminate value. Loading first clamps the variable itself to
-// the range of a float; a stored 0 therefore shows as 1.17549e-38.
+// Exchanges a scale. The indeterminate value is displayed as "Indeterminate". Loading first clamps the variable itself
+// to the range of a float; a stored 0 is therefore displayed as 1.17549e-38.
 int DDX_TextScale(int bReport, CDataExchange* pDX, int nIDC, double& value);

@@ -9,8 +9,8 @@
 
 namespace orlo {
 
-// Opens a file, which the reader keeps open; other programs can read, write and replace it meanwhile. A pipe or a
-// device is treated as empty. Throws std::runtime_error if the file cannot be opened.
+// Opens a file, which stays open as long as the reader exists; other programs can still read, write and replace it. A
+// pipe or a device is treated as empty. Throws std::runtime_error if the file cannot be opened.
 ORLO_API CompoundReader OpenCompoundFile(const std::filesystem::path& file);
 // Reads a file in memory.
 ORLO_API CompoundReader ReadCompoundFile(std::shared_ptr<const std::vector<uint8_t>> bytes);

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Reads the functions of the host from orlo/host/*.h: contract.py --table OUTPUT | --reference OUTPUT [--check]
 
-A comment describes the declarations that follow it. Lines that begin with "Called:", "Stub:" and "Failure:" say when the
-library calls a function, what the function may return if it is not implemented and what the sheet then loses, and what
-the library does if it fails. A declaration without such lines has those of the declaration before it in its paragraph.
+A comment describes the declarations that follow it. Lines that begin with "Called:", "Stub:" and "Failure:" state when
+the library calls a function, what the function may return if it is not implemented and what the sheet then loses, and
+what the library does if it fails. A declaration without such lines has those of the declaration before it in its
+paragraph.
 
 --table writes the names for hostcheck, each with what the sheet loses, or a null pointer if the function is required.
 --reference writes the reference for authors of databases; --check compares it with the file instead.
@@ -107,7 +108,7 @@ HEAD = """# Reference of the host's functions
 Generated from the headers in `orlo/host`; change these instead of this file. The [database guide](database-guide.md)
 explains how the functions work together.
 
-Each entry says when the library calls the function, whether it can be a stub, and what happens if it fails. Unless
+Each entry states when the library calls the function, whether it can be a stub, and what happens if it fails. Unless
 stated otherwise, lengths are in drawing units and angles in radians, a result of type `int` is non-zero on success, all
 functions are called on the user-interface thread, and pointers to objects are not null.
 

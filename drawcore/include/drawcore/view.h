@@ -29,7 +29,7 @@ DRAWCORE_API void ViewportFitVisible(ViewportStruct*, GraphicStruct*);
 // Draws like GraphicDrawEx2 (preview 0) for about the given time. Returns 0 if there is more to draw. Set *position to
 // 0 before the first call and pass it unchanged to the following calls. Until everything is drawn, the viewport and the
 // clipping region must not be changed, and the viewport must not be used to draw anything else. Graphics that are
-// removed or changed meanwhile may be missing.
+// removed or changed in the meantime may be missing.
 DRAWCORE_API int GraphicDrawTimed(GraphicStruct* set, ViewportStruct*, uint32_t* position, int milliseconds);
 
 // Zooms in (factor above 1) or out. The point of the drawing at `fixed` does not move.

@@ -13,7 +13,7 @@ namespace drawcore {
 
 struct Pen {
     double width = 0; // in the unit of scaleSystem, or a marker; 0 is the thinnest line of the device
-    double scale = 1; // factor of the dash pattern
+    double scale = 1; // scale factor of the dash pattern
     Color color = kColorByLayer;
     uint16_t style = kLineStyleByLayer;
     uint8_t scaleSystem = kScalePaper;
