@@ -74,10 +74,11 @@ typedef enum OrloResult {
     kOrloNotEncodable = 8,   // the text cannot be represented in the code page of the section
     kOrloSystemError = 9,    // a system call failed: file, stream or window
     kOrloOutOfMemory = 10,
-    kOrloFailed = 11,      // any other failure
-    kOrloChanged = 12,     // the stream in the file has changed since the set was read
-    kOrloInvalidInput = 13, // a field of the sheet is not valid; the user has been told, and the field has the focus
-    kOrloBusy = 14          // called while a callback or a message box of a sheet is open
+    kOrloFailed = 11,  // any other failure
+    kOrloChanged = 12, // the stream in the file has changed since the set was read
+    kOrloInvalidInput =
+        13,        // a field of the sheet is not valid; the user has been informed, and the field has the focus
+    kOrloBusy = 14 // called while a callback or a message box of a sheet is open
 } OrloResult;
 
 // Returns the name of a result, such as "kOrloBadHandle", or "unknown result". The text is static.
@@ -187,8 +188,8 @@ typedef struct OrloValue {
 // of the sheet and must not throw.
 //
 // Get stores the value, Set changes it. They return 0 if the graphic has no such property or rejects the value. They
-// must not keep the pointer to the graphic, which can be the copy in the preview. A graphic whose text the system's code
-// page cannot represent is treated as if it had no such property, because an edit would damage the text.
+// must not keep the pointer to the graphic, which can be the copy in the preview. A graphic whose text the system's
+// code page cannot represent is treated as if it had no such property, because an edit would damage the text.
 typedef int32_t(ORLO_CALL* OrloGetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
                                          OrloValue* value);
 typedef int32_t(ORLO_CALL* OrloSetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
