@@ -50,9 +50,9 @@ public:
     // written then.
     bool Save(const std::string& path, bool overChanged, const Progress& progress);
 
-    // Returns what was omitted from the drawing when it was opened, one line each.
+    // Returns the parts of the file that were omitted when the drawing was opened, one line each.
     const std::vector<std::string>& Warnings() const { return m_warnings; }
-    // Returns what other programs will not show of the drawing as last saved, one line per property.
+    // Returns the properties of the drawing as last saved that other programs will not show, one line each.
     const std::vector<std::string>& SaveNotes() const { return m_saveNotes; }
 
     DrawingStruct* Drawing() const { return m_drawing.get(); }
@@ -73,7 +73,7 @@ public:
     // Formats a length in the drawing's units.
     std::string LengthText(double length) const;
 
-    // Makes a change as one undo step. Returns the number of graphics that it changed.
+    // Performs a change as one undo step. Returns the number of graphics that it changed.
     int Change(const std::function<void()>& change);
     // Does the same. If the change returns false, it is undone at once, without a step.
     int Attempt(const std::function<bool()>& change);
@@ -83,7 +83,7 @@ public:
     void EndTransaction();
     int CommitTransaction();   // Returns the number of graphics changed by the step; if 0, there is no step.
     int RollBackTransaction(); // Returns the number of graphics restored.
-    // Returns how many of the oldest changes can no longer be undone since the last change, for lack of memory.
+    // Returns the number of oldest changes that the last change made impossible to undo, for lack of memory.
     int DroppedSteps() const;
     // Adds a change outside of the database as one step, unless it is null.
     void Record(std::unique_ptr<UndoableChange> change);

@@ -1,7 +1,7 @@
 // The styles of an open drawing, and the current style.
 //
 // A style is a block of the table "_Blocks_" whose contents have the name of the demo's style tree. The contents are
-// two samples, a shape and a text, whose attributes are those of the style; a sheet for the contents edits them.
+// two samples, a shape and a text, that have the attributes of the style; a sheet for the contents edits them.
 #pragma once
 
 #include <cstdint>

@@ -15,7 +15,7 @@ struct Refusal {
     std::string text;
 };
 
-// Converts a text in the code page of the system, such as one of the framework.
+// Converts text from the system's code page, such as a message of the framework, to UTF-8.
 std::string SystemTextToUtf8(const std::string& text);
 
 [[noreturn]] void ThrowError(OrloResult result, const char* text);

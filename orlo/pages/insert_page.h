@@ -1,5 +1,5 @@
-// The Block Insertion page: position, scale and rotation of the selected insertions. It works on their vertices rather
-// than on named properties; see insert_parts.h.
+// The Block Insertion page: position, scale and rotation of the selected insertions. It edits their vertices rather
+// than named properties; see insert_parts.h.
 //
 // A field that the user has not edited, or that shows "*****", is neither validated nor written.
 #pragma once

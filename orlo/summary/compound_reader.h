@@ -3,7 +3,7 @@
 //
 //   CompoundReader file(reader, size);
 //   if (file.State() == CompoundState::intact) ...   // safe to open with the system, and to modify
-//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // whatever is readable, even if damaged
+//   for (const CompoundStream& stream : file.Streams()) file.Read(stream);   // the readable part, even if damaged
 #pragma once
 
 #include <array>

@@ -84,7 +84,7 @@ struct Document {
     std::vector<Block> blocks;
     std::vector<Entity> entities; // of the ENTITIES section: model space, and one paper space layout
 
-    // Number of records in the ENTITIES section by type, including skipped ones and VERTEX, ATTRIB and SEQEND.
+    // Numbers of records in the ENTITIES section by type, including skipped ones and VERTEX, ATTRIB and SEQEND.
     std::map<std::string, uint64_t, std::less<>> entityCounts;
 
     std::vector<Warning> warnings; // at most kMaxWarnings, then one with the number of others

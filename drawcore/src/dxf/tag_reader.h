@@ -1,4 +1,5 @@
-// Splits a DXF text into tags: a group code, and the value on the following line. Independent of sections and entities.
+// Splits a DXF text into tags, each a group code and the value on the following line. Does not depend on sections and
+// entities.
 #pragma once
 
 #include <cstdint>
