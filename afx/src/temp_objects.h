@@ -1,5 +1,5 @@
 // The temporary objects that FromHandle returns, as a stack: the objects that were created while a message was handled
-// are released afterwards.
+// are released afterward.
 #pragma once
 
 #include <afx.h>

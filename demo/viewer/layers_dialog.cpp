@@ -153,7 +153,7 @@ void CLayersDialog::OnFind() {
 }
 
 LRESULT CLayersDialog::DrawCell(const NMHDR& header) const {
-    // The control reads the system's record again afterwards.
+    // The control reads the system's record again afterward.
     auto& draw = *reinterpret_cast<NMLVCUSTOMDRAW*>(const_cast<NMHDR*>(&header));
     if (draw.nmcd.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
     if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT) return CDRF_NOTIFYSUBITEMDRAW;

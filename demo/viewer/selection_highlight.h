@@ -10,7 +10,7 @@ public:
     static constexpr int kRadius = 2; // width of the outline in pixels
 
     // Prepares Dc for drawing the selection, as far as that area of a scene of that size needs it. Call DrawInto
-    // afterwards. Returns false if there is not enough memory, and no highlight is drawn.
+    // afterward. Returns false if there is not enough memory, and no highlight is drawn.
     bool Begin(CSize scene, CRect area);
     HDC Dc() const { return m_mask.Dc(); }
     // Takes the selection from a picture of it instead of drawing it.

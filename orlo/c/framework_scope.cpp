@@ -1,4 +1,4 @@
-// Sets up the framework around a sheet and cleans up afterwards.
+// Sets up the framework around a sheet and cleans up afterward.
 
 #include "orlo/c/framework_scope.h"
 

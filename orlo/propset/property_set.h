@@ -57,7 +57,7 @@ public:
     // after a short write.
     int WriteToStream(IStream* pStream);
     // Replaces all sections. Returns 0 if the header or the list of sections is truncated; a damaged section remains in
-    // the list with the properties that could be read. The position of the stream is undefined afterwards.
+    // the list with the properties that could be read. The position of the stream is undefined afterward.
     int ReadFromStream(IStream* pStream);
 
 private:

@@ -49,7 +49,7 @@ inline void SkipPadding(Cursor& cursor, const uint8_t* begin) {
 }
 
 // Calls visit(type, form, bytes) for each element of a vector, or for the element of another value; visit may end the
-// iteration. Afterwards the cursor is at the end of the value.
+// iteration. Afterward the cursor is at the end of the value.
 template <class Visit>
 bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
     const uint8_t* const begin = cursor.at;

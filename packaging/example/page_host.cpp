@@ -1,5 +1,5 @@
 // A host with a custom page, which edits the dash scale of a line. For an unattended test the page types a value by
-// itself, and the program returns 0 if the line has that value afterwards.
+// itself, and the program returns 0 if the line has that value afterward.
 #include <afxwin.h>
 #include <drawcore/application.h>
 #include <drawcore/drawing.h>

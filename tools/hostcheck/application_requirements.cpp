@@ -92,7 +92,7 @@ void ClearsTheVariable(const Subject& s) {
     auto* text = static_cast<char*>(CALL(s.host, DrawCoreNew)(8));
     std::strcpy(text, "text");
     CALL(s.host, BStringNULL)(&text);
-    Require(text == nullptr, "the variable is %p afterwards", static_cast<void*>(text));
+    Require(text == nullptr, "the variable is %p afterward", static_cast<void*>(text));
     CALL(s.host, BStringNULL)(&text); // a second call must do nothing
 }
 

@@ -32,7 +32,7 @@ void CreatesTheThreeTypes(const Subject& s) {
 void ClearsThePointer(const Subject& s) {
     GraphicStruct* graphic = s.NewGraphic(kGraphicText).release();
     CALL(s.host, GraphicDispose)(&graphic);
-    Require(!graphic, "the pointer is %p afterwards", static_cast<void*>(graphic));
+    Require(!graphic, "the pointer is %p afterward", static_cast<void*>(graphic));
 }
 
 void OwnsWhatIsAdded(const Subject& s) {

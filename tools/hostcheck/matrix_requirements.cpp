@@ -94,7 +94,7 @@ void KeepsTheGivenMatrix(const Subject& s) {
 void ClearsThePointer(const Subject& s) {
     MatrixStruct* matrix = Moved(s, nullptr).release();
     CALL(s.host, MatrixDispose)(&matrix);
-    Require(!matrix, "the pointer is %p afterwards", static_cast<void*>(matrix));
+    Require(!matrix, "the pointer is %p afterward", static_cast<void*>(matrix));
 }
 
 constexpr Requirement kRows[] = {

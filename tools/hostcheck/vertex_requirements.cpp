@@ -41,7 +41,7 @@ void MovesVertices(const Subject& s) {
 void ClearsThePointer(const Subject& s) {
     VertexStruct* vertex = s.NewVertex(0, 0, 0).release();
     CALL(s.host, VertexDispose)(&vertex);
-    Require(!vertex, "the pointer is %p afterwards", static_cast<void*>(vertex));
+    Require(!vertex, "the pointer is %p afterward", static_cast<void*>(vertex));
 }
 
 void AppendsCopies(const Subject& s) {

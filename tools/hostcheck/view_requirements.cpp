@@ -264,7 +264,7 @@ void RestoresTheDeviceContext(const Subject& s) {
 void ClearsThePointer(const Subject& s) {
     ViewportStruct* viewport = s.NewViewport().release();
     CALL(s.host, ViewportDispose)(&viewport);
-    Require(!viewport, "the pointer is %p afterwards", static_cast<void*>(viewport));
+    Require(!viewport, "the pointer is %p afterward", static_cast<void*>(viewport));
 }
 
 constexpr Requirement kRows[] = {

@@ -190,7 +190,7 @@ struct LayerValues {
     std::optional<std::string> name;       // the new name
 };
 
-// Changes a document: only the groups that contain a changed value differ afterwards. Values without a DXF group are
+// Changes a document: only the groups that contain a changed value differ afterward. Values without a DXF group are
 // stored in extended data (XDATA) of the application ORLO.
 class DocumentWriter {
 public:

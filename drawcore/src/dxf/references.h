@@ -1,4 +1,4 @@
-// Resolves the references of insertions to blocks, so that the drawing can be traversed safely: afterwards, every
+// Resolves the references of insertions to blocks, so that the drawing can be traversed safely: afterward, every
 // reference is to an existing block, no block contains itself, nesting is limited, and all insertions together draw a
 // limited number of parts. A reference that violates this is removed and reported as a warning.
 #pragma once

@@ -67,7 +67,7 @@ public:
     const std::map<std::string, size_t>& OnlyExtended() const { return onlyExtended_; }
 
     bool IsChanged() const { return !patch_.IsEmpty(); }
-    // Returns the changed text. Nothing can be changed afterwards.
+    // Returns the changed text. Nothing can be changed afterward.
     std::string Finish();
     // Converts an offset in the original text to the offset in the changed text.
     size_t Moved(size_t offset) const { return patch_.Moved(offset); }

@@ -42,7 +42,7 @@ public:
     size_t AddBlock(const Block& block);
 
     bool IsChanged() const { return changed_; }
-    // Returns the changed text, which is valid if there are no blocking references. Nothing can be changed afterwards.
+    // Returns the changed text, which is valid if there are no blocking references. Nothing can be changed afterward.
     std::string Finish();
     // Returns references that prevent removals, with the offset of the entity, layer or block.
     const std::vector<ReferenceRemoval::BlockingReference>& BlockingReferences() const {
