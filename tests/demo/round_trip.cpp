@@ -2,7 +2,7 @@
 
 #include "demo/round_trip.h"
 
-#include <algorithm>
+#include <map>
 #include <stdexcept>
 
 #include "demo/automation/sheet_pages.h"
@@ -18,20 +18,11 @@ namespace {
 constexpr size_t kMaxDifferences = 5; // maximum number reported per drawing
 
 // The value (see DrawingState) that the edit on each page changes.
-constexpr struct {
-    const char* page;
-    const char* value;
-} kEditedValues[] = {{"General", kPropInfo},
-                     {"Pen", kPropPenColor},
-                     {"Brush", kPropBrushStyle},
-                     {"Text", kPropTextStyle},
-                     {"Block Insertion", "vertices"}};
-
-std::string ValueOf(const std::string& page) {
-    return std::find_if(std::begin(kEditedValues), std::end(kEditedValues),
-                        [&](const auto& edited) { return edited.page == page; })
-        ->value;
-}
+const std::map<std::string, std::string> kEditedValues = {{"General", kPropInfo},
+                                                           {"Pen", kPropPenColor},
+                                                           {"Brush", kPropBrushStyle},
+                                                           {"Text", kPropTextStyle},
+                                                           {"Block Insertion", "vertices"}};
 
 // Edits the page that the viewer makes from a table; the library's pages are edited by page_edits.h.
 void MoveFirstPoints(UserInput& user, HWND page) {
@@ -75,7 +66,7 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     std::string line = drawing + ": " + std::to_string(count) + " graphics";
     bool good = true;
     for (const std::string& title : pages) {
-        const bool does = before.Differs(changed, ValueOf(title));
+        const bool does = before.Differs(changed, kEditedValues.at(title));
         line += ", " + title + (does ? "" : " (changed nothing!)");
         good = good && does;
     }
