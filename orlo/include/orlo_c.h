@@ -74,11 +74,10 @@ typedef enum OrloResult {
     kOrloNotEncodable = 8,   // the text cannot be represented in the code page of the section
     kOrloSystemError = 9,    // a system call failed: file, stream or window
     kOrloOutOfMemory = 10,
-    kOrloFailed = 11,  // any other failure
-    kOrloChanged = 12, // the stream in the file has changed since the set was read
-    kOrloInvalidInput =
-        13,        // a field of the sheet is not valid; the user has been informed, and the field has the focus
-    kOrloBusy = 14 // called while a callback or a message box of a sheet is open
+    kOrloFailed = 11,       // any other failure
+    kOrloChanged = 12,      // the stream in the file has changed since the set was read
+    kOrloInvalidInput = 13, // a field of the sheet is not valid; the user has been informed, and it has the focus
+    kOrloBusy = 14          // called while a callback or a message box of a sheet is open
 } OrloResult;
 
 // Returns the name of a result, such as "kOrloBadHandle", or "unknown result". The text is static.

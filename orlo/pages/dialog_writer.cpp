@@ -76,7 +76,8 @@ void SetTemplateDirection(std::vector<BYTE>& dialog, bool fromRightToLeft) {
 }
 
 DialogFont::DialogFont()
-    : m_screen(::CreateCompatibleDC(nullptr)), m_font(CreateDialogFont(m_screen.get())), m_selected(m_screen.get(), m_font.get()) {
+    : m_screen(::CreateCompatibleDC(nullptr)), m_font(CreateDialogFont(m_screen.get())),
+      m_selected(m_screen.get(), m_font.get()) {
     SIZE letters = {};
     ::GetTextExtentPoint32A(m_screen.get(), kLetters, static_cast<int>(std::strlen(kLetters)), &letters);
     m_unitsWidth = std::max<int>((letters.cx / 26 + 1) / 2, 1); // same formula as the system's for dialog units

@@ -127,9 +127,7 @@ protected:
     }
     // The host's page is the last one.
     void ShowRoom(HWND window) { ASSERT_TRUE(ClickTab(user, window, static_cast<int>(PageTitles(window).size()) - 1)); }
-    void Type(HWND window, int id, const char* text) {
-        user.Replace(::GetDlgItem(ActivePageOf(window), id), text);
-    }
+    void Type(HWND window, int id, const char* text) { user.Replace(::GetDlgItem(ActivePageOf(window), id), text); }
     std::string Shown(HWND window, int id) { return WindowText(::GetDlgItem(ActivePageOf(window), id)); }
 
     struct Counts {
@@ -173,7 +171,9 @@ TEST_F(CPages, EditPropertiesAndTheHostsOwnData) {
 // A dialog can show "\xCE\xA9" (a Greek omega) only as another letter, which an edit would then store.
 TEST_F(CPages, TextsOutsideTheCodePageAreKept) {
     static std::map<GraphicStruct*, std::string> rooms;
-    rooms = {{kit[0].graphic, "Saal \xCE\xA9"}, {kit[1].graphic, "K\xC3\xBC" "che"}};
+    rooms = {{kit[0].graphic, "Saal \xCE\xA9"},
+             {kit[1].graphic, "K\xC3\xBC"
+                              "che"}};
     fields[1].kind = kOrloFieldText;
     page.check = nullptr;
     page.get = [](void*, GraphicStruct* graphic, uint32_t, OrloValue* value) -> int32_t {
@@ -185,7 +185,8 @@ TEST_F(CPages, TextsOutsideTheCodePageAreKept) {
         return 1;
     };
     RunOk([&](HWND window) {
-        EXPECT_EQ(Shown(window, kPrice), "K\xFC" "che");
+        EXPECT_EQ(Shown(window, kPrice), "K\xFC"
+                                         "che");
         Type(window, kPrice, "B\xFCro");
     });
     EXPECT_EQ(rooms[kit[0].graphic], "Saal \xCE\xA9");

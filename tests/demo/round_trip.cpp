@@ -19,10 +19,10 @@ constexpr size_t kMaxDifferences = 5; // maximum number reported per drawing
 
 // The value (see DrawingState) that the edit on each page changes.
 const std::map<std::string, std::string> kEditedValues = {{"General", kPropInfo},
-                                                           {"Pen", kPropPenColor},
-                                                           {"Brush", kPropBrushStyle},
-                                                           {"Text", kPropTextStyle},
-                                                           {"Block Insertion", "vertices"}};
+                                                          {"Pen", kPropPenColor},
+                                                          {"Brush", kPropBrushStyle},
+                                                          {"Text", kPropTextStyle},
+                                                          {"Block Insertion", "vertices"}};
 
 // Edits the page that the viewer makes from a table; the library's pages are edited by page_edits.h.
 void MoveFirstPoints(UserInput& user, HWND page) {

@@ -40,9 +40,7 @@ protected:
     void InStyleSheets(const std::vector<UserInput::Script>& scripts) {
         user.InDialogs([&] { user.Key(VK_RETURN, UserInput::kControl); }, scripts);
     }
-    void TypeStyle(HWND sheet, const std::string& name) {
-        user.Replace(OnPage(sheet, IDC_STYLE_NAME), name);
-    }
+    void TypeStyle(HWND sheet, const std::string& name) { user.Replace(OnPage(sheet, IDC_STYLE_NAME), name); }
     void Close(HWND sheet) { user.Click(::GetDlgItem(sheet, IDCANCEL)); }
 };
 
