@@ -398,8 +398,7 @@ void ExpectSame(DrawingStruct* a, GraphicStruct* one, DrawingStruct* b, GraphicS
 std::map<std::string, std::string> Records(const std::string& bytes) {
     std::map<std::string, std::string> records;
     const std::string_view text = dxf::TextOf(bytes);
-    const dxf::Progress silent;
-    dxf::TagReader tags(text, silent);
+    dxf::TagReader tags(text);
     for (const dxf::Entity& entity : dxf::Read(bytes, {}).entities) {
         const std::string handle = dxf::NameOfRecord(text, entity.offset).handle;
         tags.Seek(entity.offset);

@@ -13,18 +13,11 @@ using namespace drawcore;
 
 namespace {
 
-dxf::TextDecoder DecoderOf(const dxf::Header& header) {
-    dxf::TextDecoder decoder;
-    decoder.SetCodePage(header.codePage);
-    decoder.SetVersion(header.version);
-    return decoder;
-}
-
 // Returns the extended data of the record at the offset, in UTF-8.
 std::string ExtendedData(const DxfSource& source, uint32_t offset) {
-    const dxf::TextDecoder decoder = DecoderOf(source.known.header);
-    const dxf::Progress silent;
-    dxf::TagReader tags(source.bytes, silent);
+    const dxf::Header& header = source.known.header;
+    const dxf::TextDecoder decoder(header.version, header.codePage);
+    dxf::TagReader tags(source.bytes);
     tags.Seek(offset);
     std::string text;
     while (!tags.Next().StartsRecord()) {

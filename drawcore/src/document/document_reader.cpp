@@ -101,8 +101,7 @@ std::vector<EntityRef> DocumentReader::EntitiesOf(const std::string& name) const
 }
 
 RecordName DocumentReader::NameOf(const EntityRef& entity) const {
-    RecordName name = NameOfRecord(Text(), entity.entity_->offset);
-    name.line = entity.entity_->line;
+    RecordName name = NameOfRecord(Text(), entity.entity_->offset, entity.entity_->line);
     if (entity.block_) name.block = ToDisplayText(entity.block_->name);
     return name;
 }
@@ -217,8 +216,7 @@ std::string Comparable(const Tag& tag) {
 // Calls visit for each group of the entity and its vertices, and returns the offset of the end.
 template <class Visit>
 size_t VisitRecord(std::string_view text, const Entity& entity, const Visit& visit) {
-    const Progress silent;
-    TagReader tags(text, silent);
+    TagReader tags(text);
     const Tag* tag = &tags.Seek(entity.offset);
     const bool hasVertices = tag->Is(0, "POLYLINE");
     for (tag = &tags.Next();; tag = &tags.Next()) {

@@ -25,7 +25,7 @@ std::vector<Family> NormalLines(const Hatch& hatch, double scale, double angle) 
     std::vector<Family> lines;
     for (const Family& from : hatch.lines) {
         Family& line = lines.emplace_back();
-        line.angle = from.angle - angle * (180 / drawcore::kPi);
+        line.angle = from.angle - drawcore::Degrees(angle);
         line.base = Turned(from.base - hatch.lines[0].base, -angle, 1 / scale);
         line.offset = Turned(from.offset, -angle, 1 / scale);
         for (const double dash : from.dashes)
@@ -86,7 +86,7 @@ std::vector<Family> PlacedLines(const std::vector<Family>& lines, double scale, 
     std::vector<Family> placed;
     for (const Family& from : lines) {
         Family& line = placed.emplace_back();
-        line.angle = from.angle + angle * (180 / drawcore::kPi);
+        line.angle = from.angle + drawcore::Degrees(angle);
         line.base = base + Turned(from.base - lines[0].base, angle, scale);
         line.offset = Turned(from.offset, angle, scale);
         for (const double dash : from.dashes)

@@ -1,7 +1,8 @@
 // The face of a text style, and the values that texts inherit from it.
-#include <algorithm>
+#include <utility>
 
 #include "drawcore/src/dxf/appearance_parts.h"
+#include "drawcore/src/dxf/fold_name.h"
 #include "drawcore/src/dxf/text_decoding.h"
 
 namespace dxf {
@@ -34,8 +35,7 @@ constexpr FontFile kFontFiles[] = {
 
 // Returns the face for a font file: that of a TrueType file, the default for other stroke fonts.
 FontFace FaceOfFile(std::string file) {
-    std::transform(file.begin(), file.end(), file.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    file = FoldName(file);
     file.erase(0, file.find_last_of("\\/") + 1);
     const std::string stem = file.substr(0, file.find('.'));
     for (const FontFile& known : kFontFiles)

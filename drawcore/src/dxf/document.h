@@ -50,6 +50,9 @@ struct LineType {
     std::vector<double> dashes; // positive: dash, negative: gap, 0: dot
 };
 
+// Flags in the extended data of a text style.
+constexpr int kFaceIsBold = 0x2000000, kFaceIsItalic = 0x1000000;
+
 struct TextStyle {
     std::string name;
     std::string stored;

@@ -33,8 +33,8 @@ const EntityReader::Kind EntityReader::kKinds[] = {
     {"ELLIPSE", &EntityReader::ReadEllipse},
     {"SPLINE", &EntityReader::ReadSpline},
     {"3DFACE", &EntityReader::ReadSpaceFace},
-    {"ATTDEF", &EntityReader::ReadAttribute},
-    {"ATTRIB", &EntityReader::ReadAttribute},
+    {"ATTDEF", &EntityReader::ReadText},
+    {"ATTRIB", &EntityReader::ReadText},
     {"LEADER", &EntityReader::ReadLeader},
     {"TRACE", &EntityReader::ReadFace},
     {"VIEWPORT", &EntityReader::ReadViewport},
@@ -53,6 +53,12 @@ void EntityReader::Count() {
         ++known->second;
     else
         ++counts[in_.decoder.Decode(name)];
+}
+
+void EntityReader::SkipSequenceEnd() {
+    if (!in_.tags.Current().Is(0, "SEQEND")) return;
+    Count();
+    in_.tags.SkipRecord();
 }
 
 void EntityReader::SetCommon(Entity& entity) {
@@ -189,15 +195,8 @@ void EntityReader::ReadDimension(Entity& entity) {
 
 void EntityReader::ReadLeader(Entity& entity) {
     Leader& leader = entity.shape.emplace<Leader>();
-    while (in_.NextTag()) {
-        const Tag& tag = in_.tags.Current();
-        if (tag.code == 10) leader.vertices.emplace_back();
-        if (tag.code == 10 || tag.code == 20 || tag.code == 30) {
-            if (!leader.vertices.empty()) in_.SetAxis(leader.vertices.back(), tag, tag.code - 10);
-        } else {
-            SetCommon(entity);
-        }
-    }
+    while (in_.NextTag())
+        if (!in_.AddCoordinate(leader.vertices, in_.tags.Current(), 10)) SetCommon(entity);
 }
 
 void EntityReader::ReadViewport(Entity& entity) {
@@ -223,22 +222,9 @@ void EntityReader::ReadSpline(Entity& entity) {
         case 41:
             spline.weights.push_back(in_.Real(tag));
             break;
-        case 10:
-            spline.controlPoints.emplace_back();
-            [[fallthrough]];
-        case 20:
-        case 30:
-            if (!spline.controlPoints.empty()) in_.SetAxis(spline.controlPoints.back(), tag, tag.code - 10);
-            break;
-        case 11:
-            spline.fitPoints.emplace_back();
-            [[fallthrough]];
-        case 21:
-        case 31:
-            if (!spline.fitPoints.empty()) in_.SetAxis(spline.fitPoints.back(), tag, tag.code - 11);
-            break;
         default:
-            SetCommon(entity);
+            if (!in_.AddCoordinate(spline.controlPoints, tag, 10) && !in_.AddCoordinate(spline.fitPoints, tag, 11))
+                SetCommon(entity);
         }
     }
     if (!MakeValid(spline)) Reject("its knots and control points are inconsistent");

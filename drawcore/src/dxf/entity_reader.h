@@ -33,6 +33,7 @@ private:
     static const Kind kKinds[];
 
     void Count();
+    void SkipSequenceEnd();
     Entity NewEntity();
     // Reads the rest of the record: members of the shape, and those of all entities.
     template <class T, size_t N>
@@ -63,7 +64,6 @@ private:
     void ReadSpline(Entity&);
 
     void ReadText(Entity&);
-    void ReadAttribute(Entity&);
     void ReadMText(Entity&);
     void ReadAttributesOf(Insert&);
 

@@ -125,6 +125,7 @@ private:
     }
 
     bool ReadSpline(Spline& spline, const Tag& tag) {
+        constexpr int kFlat = 10; // there is no z
         switch (tag.code) {
         case 94:
             spline.degree = tag.Integer();
@@ -135,20 +136,9 @@ private:
         case 42:
             spline.weights.push_back(in_.Real(tag));
             return true;
-        case 10:
-            spline.controlPoints.emplace_back();
-            [[fallthrough]];
-        case 20:
-            if (!spline.controlPoints.empty()) in_.SetAxis(spline.controlPoints.back(), tag, tag.code - 10);
-            return true;
-        case 11:
-            spline.fitPoints.emplace_back();
-            [[fallthrough]];
-        case 21:
-            if (!spline.fitPoints.empty()) in_.SetAxis(spline.fitPoints.back(), tag, tag.code - 11);
-            return true;
         default:
-            return false;
+            return in_.AddCoordinate(spline.controlPoints, tag, 10, kFlat) ||
+                   in_.AddCoordinate(spline.fitPoints, tag, 11, kFlat);
         }
     }
 

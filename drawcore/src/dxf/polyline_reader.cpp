@@ -114,9 +114,7 @@ void EntityReader::ReadPolyline(Entity& entity) {
         AddVertex(polyline, vertex, codes);
     }
     if (!MakeValid(polyline, codes)) Reject("its mesh has fewer vertices than its rows and columns require");
-    if (!tag.Is(0, "SEQEND")) return;
-    Count();
-    in_.tags.SkipRecord();
+    SkipSequenceEnd();
 }
 
 namespace {

@@ -8,9 +8,7 @@
 
 namespace dxf {
 
-// Returns the name of the record at the offset, without its line and block.
-RecordName NameOfRecord(std::string_view text, size_t offset);
-// Returns the line at the offset, counted from 1.
-uint32_t LineAt(std::string_view text, size_t offset);
+// Returns the name of the record at the offset, without its block. The line is counted unless it is given.
+RecordName NameOfRecord(std::string_view text, size_t offset, uint32_t line = 0);
 
 } // namespace dxf

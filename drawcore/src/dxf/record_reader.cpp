@@ -7,11 +7,8 @@
 
 namespace dxf {
 
-RecordReader::RecordReader(std::string_view bytes, const Progress& progress, Document known)
-    : tags(bytes, progress), document(std::move(known)) {
-    decoder.SetVersion(document.header.version);
-    decoder.SetCodePage(document.header.codePage);
-}
+RecordReader::RecordReader(std::string_view bytes, Document known)
+    : tags(bytes), document(std::move(known)), decoder(document.header.version, document.header.codePage) {}
 
 bool RecordReader::NextTag() {
     const Tag& tag = tags.Next();
@@ -73,6 +70,14 @@ double RecordReader::Real(const Tag& tag) {
 
 void RecordReader::SetAxis(Vec3& point, const Tag& tag, int axis) {
     (axis == 0 ? point.x : axis == 10 ? point.y : point.z) = Real(tag);
+}
+
+bool RecordReader::AddCoordinate(std::vector<Vec3>& points, const Tag& tag, int code, int lastAxis) {
+    const int axis = tag.code - code;
+    if (axis < 0 || axis > lastAxis || axis % 10 != 0) return false;
+    if (axis == 0) points.emplace_back();
+    if (!points.empty()) SetAxis(points.back(), tag, axis);
+    return true;
 }
 
 uint32_t RecordReader::TakeInvalidCoordinate() {

@@ -24,7 +24,7 @@ class RecordReader {
 public:
     RecordReader(std::string_view bytes, const Progress& progress) : tags(bytes, progress) {}
     // Continues in a file whose header and tables have been read.
-    RecordReader(std::string_view bytes, const Progress& progress, Document known);
+    RecordReader(std::string_view bytes, Document known);
     RecordReader(const RecordReader&) = delete;
     RecordReader& operator=(const RecordReader&) = delete;
 
@@ -65,6 +65,9 @@ public:
     // Returns the tag's number. If it is not a valid coordinate, stores its line and returns 0.
     double Real(const Tag& tag);
     void SetAxis(Vec3& point, const Tag& tag, int axis);
+    // Reads a list of points whose x has that code: x adds a point, the others complete it. Returns false for other
+    // codes.
+    bool AddCoordinate(std::vector<Vec3>& points, const Tag& tag, int code, int lastAxis = 20);
     std::string Text(const Tag& tag) const { return decoder.Decode(tag.value); }
 
     // Returns the line of the first invalid coordinate since the last call, or 0.

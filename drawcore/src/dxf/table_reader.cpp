@@ -21,6 +21,15 @@ const Variable kVariables[] = {
     {"$LTSCALE", {40, &Header::lineTypeScale}},
 };
 
+template <class Object>
+void Declare(Names<Object>& names, std::string_view name, Object read) {
+    Object& object = names.Declare(name);
+    read.name = std::move(object.name);
+    read.stored = std::move(object.stored);
+    read.declared = true;
+    object = std::move(read);
+}
+
 void ReadLayer(RecordReader& in) {
     static const Field<Layer> kFields[] = {{62, &Layer::color},      {70, &Layer::flags},       {6, &Layer::lineType},
                                            {420, &Layer::trueColor}, {370, &Layer::lineWeight}, {290, &Layer::plotted}};
@@ -34,11 +43,7 @@ void ReadLayer(RecordReader& in) {
         else
             in.SetField(kFields, read, tag);
     }
-    Layer& layer = in.layers.Declare(name);
-    read.name = std::move(layer.name);
-    read.stored = std::move(layer.stored);
-    read.declared = true;
-    layer = std::move(read);
+    Declare(in.layers, name, std::move(read));
 }
 
 void ReadLineType(RecordReader& in) {
@@ -54,23 +59,17 @@ void ReadLineType(RecordReader& in) {
         else
             in.SetField(kFields, read, tag);
     }
-    LineType& lineType = in.lineTypes.Declare(name);
-    read.name = std::move(lineType.name);
-    read.stored = std::move(lineType.stored);
-    read.declared = true;
-    lineType = std::move(read);
+    Declare(in.lineTypes, name, std::move(read));
 }
 
 // Family and style of a TrueType face are in extended data of the application ACAD.
 void ReadTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
-    constexpr int kBold = 0x2000000;
-    constexpr int kItalic = 0x1000000;
-    if (tag.code == 1001) own = tag.Is(1001, "ACAD");
+    if (tag.code == kApplicationName) own = tag.Is(kApplicationName, "ACAD");
     if (!own) return;
-    if (tag.code == 1000) style.fontFace = in.Text(tag);
-    if (tag.code != 1071) return;
-    style.bold = (tag.Integer() & kBold) != 0;
-    style.italic = (tag.Integer() & kItalic) != 0;
+    if (tag.code == kExtendedText) style.fontFace = in.Text(tag);
+    if (tag.code != kExtendedLong) return;
+    style.bold = (tag.Integer() & kFaceIsBold) != 0;
+    style.italic = (tag.Integer() & kFaceIsItalic) != 0;
 }
 
 void ReadTextStyle(RecordReader& in) {
@@ -91,11 +90,7 @@ void ReadTextStyle(RecordReader& in) {
             ReadTypeFace(read, tag, own, in);
     }
     if (name.empty()) return; // a shape file for line types
-    TextStyle& style = in.textStyles.Declare(name);
-    read.name = std::move(style.name);
-    read.stored = std::move(style.stored);
-    read.declared = true;
-    style = std::move(read);
+    Declare(in.textStyles, name, std::move(read));
 }
 
 } // namespace

@@ -12,15 +12,22 @@ namespace dxf {
 
 // Group codes with the same meaning in every record.
 enum GroupCode {
+    kHandle = 5,
+    kLayerName = 8,
     kSubclass = 100,
     kEmbedded = 101,
     kGroup = 102,
+    kDimensionStyleHandle = 105, // of a dimension style, instead of kHandle
+    kOwner = 330,
     kExtended = 1000, // this and greater codes
     kExtendedText = 1000,
     kApplicationName = 1001,
     kExtendedBrace = 1002,
     kExtendedReal = 1040,
+    kExtendedLong = 1071,
 };
+
+inline const Progress kNoProgress;
 
 struct Tag {
     int code = 0;
@@ -44,7 +51,8 @@ struct Tag {
 // Line ends may be LF, CR LF or CR, even mixed. Comments (code 999) are skipped.
 class TagReader {
 public:
-    TagReader(std::string_view bytes, const Progress& progress);
+    // The progress must outlive the reader.
+    explicit TagReader(std::string_view bytes, const Progress& progress = kNoProgress);
 
     // Advances to the next tag. A file must end with the tag EOF: throws ReadError at the end of the text, and for a
     // group code that is not a number.

@@ -12,6 +12,12 @@ namespace dxf {
 // Converts between the bytes of a file and UTF-8: by the file's code page, or unchanged from version AC1021 on.
 class TextDecoder {
 public:
+    TextDecoder() = default;
+    TextDecoder(std::string_view version, std::string_view codePage) {
+        SetVersion(version);
+        SetCodePage(codePage);
+    }
+
     void SetVersion(std::string_view version);
     // name: as in drawings; see code_page.h.
     void SetCodePage(std::string_view name);

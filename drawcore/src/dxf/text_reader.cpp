@@ -35,10 +35,10 @@ struct TextCodes {
 };
 
 const Field<Text> kText[] = {
-    {1, &Text::text},         {10, &Text::insertion}, {11, &Text::alignment}, {40, &Text::height},
-    {41, &Text::widthFactor}, {50, &Text::rotation},  {51, &Text::oblique},   {7, &Text::style},
+    {1, &Text::text},     {10, &Text::insertion},   {11, &Text::alignment},
+    {40, &Text::height},  {41, &Text::widthFactor}, {50, &Text::rotation},
+    {51, &Text::oblique}, {7, &Text::style},        {2, &Text::tag}, // of an attribute
 };
-const Field<Text> kTag[] = {{2, &Text::tag}};
 
 enum AttributeFlags { kHidden = 1, kConstant = 2 };
 
@@ -52,30 +52,20 @@ void SetCodes(Text& text, const TextCodes& codes) {
 
 } // namespace
 
+// Reads a TEXT, ATTRIB or ATTDEF.
 void EntityReader::ReadText(Entity& entity) {
+    const bool isAttribute = in_.tags.Current().Is(0, "ATTRIB"), isDefinition = in_.tags.Current().Is(0, "ATTDEF");
     Text& text = *entity.shape.emplace<Boxed<Text>>(std::make_unique<Text>());
     text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
-    TextCodes codes{73};
+    TextCodes codes{isAttribute || isDefinition ? 74 : 73};
     while (in_.NextTag()) {
         const Tag& tag = in_.tags.Current();
         if (!in_.SetField(kText, text, tag) && !codes.Read(tag)) SetCommon(entity);
     }
     SetCodes(text, codes);
-}
-
-void EntityReader::ReadAttribute(Entity& entity) {
-    const bool isDefinition = in_.tags.Current().Is(0, "ATTDEF");
-    Text& text = *entity.shape.emplace<Boxed<Text>>(std::make_unique<Text>());
-    text.style = TextStyleIndex(in_.textStyles.Find("STANDARD"));
-    TextCodes codes{74};
-    while (in_.NextTag()) {
-        const Tag& tag = in_.tags.Current();
-        if (!in_.SetField(kText, text, tag) && !in_.SetField(kTag, text, tag) && !codes.Read(tag)) SetCommon(entity);
-    }
-    SetCodes(text, codes);
-    if (!isDefinition)
+    if (isAttribute)
         text.role = Text::Role::attribute;
-    else if (!(codes.attributeFlags & kConstant))
+    else if (isDefinition && !(codes.attributeFlags & kConstant))
         text.role = Text::Role::definition;
 }
 
@@ -85,13 +75,11 @@ void EntityReader::ReadAttributesOf(Insert& insert) {
     while (tag.Is(0, "ATTRIB")) {
         Count();
         Entity attribute = NewEntity();
-        ReadAttribute(attribute);
+        ReadText(attribute);
         TakeExtended(attribute);
         insert.attributes.push_back(std::move(attribute));
     }
-    if (!tag.Is(0, "SEQEND")) return;
-    Count();
-    in_.tags.SkipRecord();
+    SkipSequenceEnd();
 }
 
 void EntityReader::ReadMText(Entity& entity) {

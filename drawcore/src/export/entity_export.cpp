@@ -20,14 +20,6 @@ namespace {
 
 using dxf::Near;
 
-double Degrees(double radians) {
-    return radians * (180 / kPi);
-}
-
-double Dot(const Vec3& a, const Vec3& b) {
-    return a.x * b.x + a.y * b.y + a.z * b.z;
-}
-
 bool IsLevel(const std::vector<Vertex>& vertices) {
     return std::all_of(vertices.begin(), vertices.end(),
                        [&](const Vertex& vertex) { return vertex.z == vertices[0].z; });

@@ -15,18 +15,16 @@ void OmittedObjects::Add(const Graphic& graphic, const std::string& why) {
         warnings_.push_back({0, (block.empty() ? "" : NameOfBlock(block) + ": ") + why});
         return;
     }
-    const std::string_view text = dxf::TextOf(drawing_.source->bytes);
-    dxf::RecordName name = dxf::NameOfRecord(text, graphic.source);
-    name.line = dxf::LineAt(text, graphic.source);
-    name.block = block;
-    warnings_.push_back({name.line, name.Text() + ": " + why});
+    AddRecord(graphic.source, block, why);
 }
 
 void OmittedObjects::AddRemoved(uint32_t offset, const std::string& why) {
-    if (!removed_.insert(offset).second) return;
-    const std::string_view text = dxf::TextOf(drawing_.source->bytes);
-    dxf::RecordName name = dxf::NameOfRecord(text, offset);
-    name.line = dxf::LineAt(text, offset);
+    if (removed_.insert(offset).second) AddRecord(offset, {}, why);
+}
+
+void OmittedObjects::AddRecord(uint32_t offset, const std::string& block, const std::string& why) {
+    dxf::RecordName name = dxf::NameOfRecord(dxf::TextOf(drawing_.source->bytes), offset);
+    name.block = block;
     warnings_.push_back({name.line, name.Text() + ": " + why});
 }
 

@@ -46,6 +46,7 @@ public:
     }
 
 private:
+    void AddRecord(uint32_t offset, const std::string& block, const std::string& why);
     std::string BlockOf(const Graphic& graphic) const;
 
     const Drawing& drawing_;

@@ -6,7 +6,7 @@
 namespace drawcore {
 
 double Length(const Vec3& v) {
-    return std::sqrt(v.x * v.x + v.y * v.y + v.z * v.z);
+    return std::sqrt(Dot(v, v));
 }
 
 Vec3 Cross(const Vec3& a, const Vec3& b) {

@@ -8,6 +8,10 @@ constexpr double Radians(double degrees) {
     return degrees * (kPi / 180);
 }
 
+constexpr double Degrees(double radians) {
+    return radians * (180 / kPi);
+}
+
 struct Point {
     double x = 0, y = 0;
 };
@@ -29,6 +33,9 @@ inline bool operator==(const Vec3& a, const Vec3& b) {
     return a.x == b.x && a.y == b.y && a.z == b.z;
 }
 double Length(const Vec3& v);
+constexpr double Dot(const Vec3& a, const Vec3& b) {
+    return a.x * b.x + a.y * b.y + a.z * b.z;
+}
 Vec3 Cross(const Vec3& a, const Vec3& b);
 Vec3 Normalized(const Vec3& v); // Returns a vector of length 0 unchanged.
 bool IsFinite(const Vec3& p);

@@ -35,7 +35,7 @@ std::vector<dxf::Hatch::PatternLine> FileLines(const BrushStyle& style) {
     std::vector<dxf::Hatch::PatternLine> made;
     for (const PatternLine& from : style.lines)
         made.push_back(
-            {from.angle * (180 / kPi), {from.base.x, from.base.y, 0}, {from.offset.x, from.offset.y, 0}, from.dashes});
+            {Degrees(from.angle), {from.base.x, from.base.y, 0}, {from.offset.x, from.offset.y, 0}, from.dashes});
     return made;
 }
 

@@ -28,7 +28,7 @@ bool IsOfGradient(int code) {
 
 // Returns the degrees that are read back as exactly these radians, if there are any nearby.
 double DegreesOf(double radians) {
-    const double degrees = radians * (180 / drawcore::kPi);
+    const double degrees = drawcore::Degrees(radians);
     for (const double tried :
          {std::round(degrees * 1e9) / 1e9, degrees, std::nextafter(degrees, -1e9), std::nextafter(degrees, 1e9)})
         if (Radians(tried) == radians) return tried;

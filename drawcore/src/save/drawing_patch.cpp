@@ -9,14 +9,8 @@
 
 namespace dxf {
 
-namespace {
-
-const Progress kSilent;
-
-} // namespace
-
 DrawingPatch::DrawingPatch(std::string_view text, Document known)
-    : in_(text, kSilent, std::move(known)), patch_(text), tables_(patch_, in_.decoder, in_.document.header.version) {}
+    : in_(text, std::move(known)), patch_(text), tables_(patch_, in_.decoder, in_.document.header.version) {}
 
 Entity DrawingPatch::EntityAt(size_t offset) {
     in_.tags.Seek(offset);
@@ -72,20 +66,18 @@ void DrawingPatch::ChangeLayer(LayerIndex index, const Layer& wanted) {
 
 // Names of layers are in group 8 of any record, and in group 1003 of extended data.
 void DrawingPatch::RenameLayer(LayerIndex index, const std::string& name) {
-    constexpr int kLayer = 8, kLayerInExtended = 1003;
+    constexpr int kLayerInExtended = 1003;
     Layer& layer = Describe(index);
     const std::string now = in_.decoder.Encode(name);
     const auto isSame = [&](std::string_view stored) {
         return IsSameName(ToDisplayText(in_.decoder.Decode(stored)), ToDisplayText(layer.name));
     };
-    TagReader tags(patch_.Text(), kSilent);
+    TagReader tags(patch_.Text());
     bool isInRecord = false;
     for (const Tag* tag = &tags.Next(); !tag->Is(0, "EOF"); tag = &tags.Next()) {
         if (tag->StartsRecord()) isInRecord = tag->offset == layer.offset && layer.declared;
-        const bool names = tag->code == kLayer || tag->code == kLayerInExtended || (isInRecord && tag->code == 2);
-        if (!names || !isSame(tag->Trimmed())) continue;
-        const auto begin = static_cast<size_t>(tag->Trimmed().data() - patch_.Text().data());
-        patch_.Replace(begin, tag->Trimmed().size(), now);
+        const bool names = tag->code == kLayerName || tag->code == kLayerInExtended || (isInRecord && tag->code == 2);
+        if (names && isSame(tag->Trimmed())) patch_.Replace(tag->Trimmed(), now);
     }
     layer.name = name;
     layer.stored.clear();

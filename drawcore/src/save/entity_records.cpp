@@ -12,7 +12,6 @@ namespace {
 
 using Values = TablePatch::Values;
 
-constexpr int kHandle = 5, kOwner = 330, kLayer = 8;
 constexpr int kClosed = 1, kSpatial = 8; // flags in group 70 of a polyline
 constexpr int kSpatialVertex = 32;       // flag of a vertex
 constexpr int kClosedSpline = 1;
@@ -248,8 +247,8 @@ std::string EntityRecords::Begin(Values& to, const Head& head, const std::string
     if (!handle.empty()) to.push_back({kHandle, handle});
     if (tables_.HasOwners() && !owner.empty()) to.push_back({kOwner, owner});
     Mark(to, "AcDbEntity");
-    to.push_back({kLayer, "0"});
-    Mark(to, head.marker);
+    to.push_back({kLayerName, "0"});
+    if (head.marker) Mark(to, head.marker);
     return handle;
 }
 
@@ -274,11 +273,7 @@ void EntityRecords::AppendVertices(Values& to, const Polyline& polyline, const s
         if (vertex.bulge != 0) Put(to, 42, vertex.bulge);
         Put(to, 70, flat ? 0 : kSpatialVertex);
     }
-    to.push_back({0, "SEQEND"});
-    if (tables_.HasHandles()) to.push_back({kHandle, tables_.AllocateHandle()});
-    if (tables_.HasOwners() && !owner.empty()) to.push_back({kOwner, owner});
-    Mark(to, "AcDbEntity");
-    to.push_back({kLayer, "0"});
+    Begin(to, {"SEQEND", nullptr}, owner);
 }
 
 } // namespace dxf

@@ -23,7 +23,7 @@ public:
 private:
     using Values = TablePatch::Values;
     struct Head {
-        const char *name, *marker;
+        const char *name, *marker; // the marker of its last part, or null
     };
 
     // Begins a record and returns its handle.

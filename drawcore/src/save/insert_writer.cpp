@@ -24,7 +24,7 @@ double Clean(double number, double rounding) {
     return std::fabs(round - number) <= rounding * std::max(1.0, std::fabs(number)) ? round : number;
 }
 
-constexpr double kDegrees = 180 / drawcore::kPi; // of a radian
+constexpr double kDegrees = drawcore::Degrees(1); // of a radian
 
 // Returns the new angle in degrees, or the old one if they differ only by whole turns.
 double Turned(double was, double now, double rounding) {
@@ -66,8 +66,7 @@ Matrix MatrixOf(const Vec3& normal, const Insert& insert) {
 Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
     const Vec3 z = placement.Turn({0, 0, 1});
     const Vec3 normal = Normalized(Cross(placement.Turn({1, 0, 0}), placement.Turn({0, 1, 0})));
-    const double front = normal.x * z.x + normal.y * z.y + normal.z * z.z;
-    return normal * (front * insert.scaleZ < 0 ? -1 : 1);
+    return normal * (Dot(normal, z) * insert.scaleZ < 0 ? -1 : 1);
 }
 
 // Returns the directions of an array.
@@ -130,7 +129,7 @@ void AppearanceWriter::MoveArray(Insert& insert, const Matrix& moved) {
     const auto step = [&](int code, double& spacing, const Vec3& axis) {
         const Vec3 now = moved.Turn(axis * spacing), along = axes.Turn(axis);
         const double rounding = RoundingAt(insert.at);
-        double length = now.x * along.x + now.y * along.y + now.z * along.z;
+        double length = Dot(now, along);
         if (Length(along * length - now) > rounding * std::max(1.0, Length(now)))
             throw SaveError("the file format cannot store a sheared array of insertions");
         length = std::fabs(length - spacing) <= rounding ? spacing : Clean(length, rounding);

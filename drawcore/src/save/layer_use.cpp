@@ -8,25 +8,19 @@
 namespace dxf {
 
 std::string FirstOnLayer(std::string_view text, const Document& document, const std::string& layer) {
-    TextDecoder decoder;
-    decoder.SetVersion(document.header.version);
-    decoder.SetCodePage(document.header.codePage);
+    const TextDecoder decoder(document.header.version, document.header.codePage);
     std::vector<Layer> layers;
     Names<Layer> names(layers, decoder);
     const size_t wanted = names.FindUtf8(layer);
-    const Progress silent;
-    TagReader tags(text, silent);
+    TagReader tags(text);
     const Tag& tag = tags.Next();
     bool hasEntities = false;
     size_t record = 0;
     for (; !tag.Is(0, "EOF"); tags.Next()) {
-        constexpr int kLayer = 8;
         if (tag.code == 0) record = tag.offset;
         if (tag.Is(0, "SECTION")) hasEntities = tags.Next().Is(2, "BLOCKS") || tag.Is(2, "ENTITIES");
-        if (!hasEntities || tag.code != kLayer || names.Find(tag.value) != wanted) continue;
-        RecordName name = NameOfRecord(text, record);
-        name.line = LineAt(text, record);
-        return name.Text();
+        if (hasEntities && tag.code == kLayerName && names.Find(tag.value) == wanted)
+            return NameOfRecord(text, record).Text();
     }
     return {};
 }

@@ -80,7 +80,7 @@ void RecordPatch::SetValue(const Group& group, const std::string& value) {
     std::string text = value;
     const bool aligned = group.value.size() > value.size() && group.value[0] == ' ' && group.code >= 60;
     if (aligned) text.insert(0, group.value.size() - value.size(), ' ');
-    patch_.Replace(static_cast<size_t>(group.value.data() - patch_.Text().data()), group.value.size(), std::move(text));
+    patch_.Replace(group.value, std::move(text));
 }
 
 void RecordPatch::SetAll(int code, const std::string& value, bool common, size_t placeIfMissing) {

@@ -10,7 +10,7 @@ namespace dxf {
 
 namespace {
 
-constexpr int kHandle = 5, kDimensionStyleHandle = 105, kOwner = 330, kExtendedHandle = 1005;
+constexpr int kExtendedHandle = 1005;
 constexpr int kHardOwner = 360, kSoftOwner = 350;
 
 bool IsReference(int code) {
@@ -38,7 +38,7 @@ std::string KeyOf(std::string_view value) {
 // One pass over the records of a drawing.
 class ReferenceRemoval::Scan {
 public:
-    explicit Scan(ReferenceRemoval& of) : of_(of), text_(of.patch_.Text()), tags_(text_, silent_) {}
+    explicit Scan(ReferenceRemoval& of) : of_(of), text_(of.patch_.Text()), tags_(text_) {}
 
     // Returns whether further records must be removed.
     bool Run() {
@@ -80,9 +80,8 @@ private:
         if (!loss) return;
         const bool isObject = section_ == "OBJECTS" && (kind_ == "DIMASSOC" || IsOwnedBy(loss->objectOffset));
         if (loss->isLastMember || isObject) return RemoveRecord(record.End(), loss->objectOffset, before);
-        RecordName name = NameOfRecord(text_, begin);
-        name.line = LineAt(text_, begin);
-        of_.blocking_.push_back({loss->objectOffset, "cannot be removed because " + name.Text() + " refers to it"});
+        of_.blocking_.push_back(
+            {loss->objectOffset, "cannot be removed because " + NameOfRecord(text_, begin).Text() + " refers to it"});
     }
 
     std::string OwnHandle() const {
@@ -142,7 +141,7 @@ private:
 
     void Remove(const Group& group) { of_.edits_.push_back({group.begin, group.end - group.begin, {}}); }
     void Put(const Group& group, const std::string& value) {
-        of_.edits_.push_back({static_cast<size_t>(group.value.data() - text_.data()), group.value.size(), value});
+        of_.edits_.push_back({of_.patch_.OffsetOf(group.value), group.value.size(), value});
     }
 
     // Removes the reference. Returns false if the record is meaningless without it.
@@ -185,7 +184,7 @@ private:
             const Group& group = (*groups_)[i];
             if (group.code != 97) continue;
             const int gone = ++boundaries_[group.begin];
-            const auto isSameCount = [&](const Edit& edit) { return edit.at == ValueAt(group); };
+            const auto isSameCount = [&](const Edit& edit) { return edit.at == of_.patch_.OffsetOf(group.value); };
             of_.edits_.erase(std::remove_if(of_.edits_.begin(), of_.edits_.end(), isSameCount), of_.edits_.end());
             Put(group, std::to_string(Tag{97, group.value}.Integer() - gone));
             break;
@@ -197,8 +196,6 @@ private:
         }
     }
 
-    size_t ValueAt(const Group& group) const { return static_cast<size_t>(group.value.data() - text_.data()); }
-
     void DropAnnotation(const Group& reference) {
         constexpr char kNone[] = "3";
         Put(reference, "0");
@@ -208,7 +205,6 @@ private:
 
     ReferenceRemoval& of_;
     const std::string_view text_;
-    const Progress silent_;
     TagReader tags_;
     std::string section_;
     std::string_view kind_;
@@ -224,8 +220,7 @@ void ReferenceRemoval::Add(size_t begin, size_t end, size_t objectOffset) {
 }
 
 void ReferenceRemoval::NoteHandles(size_t begin, const Range& range) {
-    const Progress silent;
-    TagReader tags(patch_.Text(), silent);
+    TagReader tags(patch_.Text());
     for (size_t at = begin; at < range.end;) {
         const RecordPatch record(patch_, tags, at);
         bool hasHandle = false;

@@ -7,14 +7,13 @@ namespace dxf {
 
 namespace {
 
-const Progress kSilent;
 constexpr char kModelSpace[] = "*Model_Space";
 constexpr char kBlocks[] = "BLOCKS", kEntities[] = "ENTITIES";
 
 } // namespace
 
 StructurePatch::StructurePatch(std::string_view text, Document known)
-    : in_(text, kSilent, std::move(known)), patch_(text), tables_(patch_, in_.decoder, in_.document.header.version),
+    : in_(text, std::move(known)), patch_(text), tables_(patch_, in_.decoder, in_.document.header.version),
       records_(tables_, in_.document) {}
 
 void StructurePatch::Remove(size_t offset) {
@@ -57,8 +56,7 @@ void StructurePatch::ResetCurrentLayer(const Layer& removed) {
         in_.tags.Next();
     }
     const std::string_view name = in_.tags.Next().value;
-    if (in_.document.layers[in_.layers.Find(name)].offset == removed.offset)
-        patch_.Replace(static_cast<size_t>(name.data() - patch_.Text().data()), name.size(), "0");
+    if (in_.document.layers[in_.layers.Find(name)].offset == removed.offset) patch_.Replace(name, "0");
 }
 
 void StructurePatch::SetExtendedData(const Block& block, const ExtendedData& own) {

@@ -12,9 +12,6 @@ namespace dxf {
 
 namespace {
 
-constexpr int kHandle = 5;
-constexpr int kDimensionStyleHandle = 105;
-constexpr int kOwner = 330;
 constexpr char kBlockRecord[] = "BLOCK_RECORD";
 
 std::string Hex(uint64_t number) {
@@ -89,8 +86,7 @@ void TablePatch::NoteSection(const Tag& tag) {
 void TablePatch::Scan() {
     if (scanned_) return;
     scanned_ = true;
-    const Progress none;
-    TagReader tags(patch_.Text(), none);
+    TagReader tags(patch_.Text());
     const Tag& tag = tags.Next();
     while (!tag.Is(0, "EOF")) {
         if (tag.Is(0, "SECTION")) {
@@ -152,8 +148,7 @@ std::string TablePatch::AddBlockRecord(const std::string& name) {
 std::optional<std::pair<size_t, size_t>> TablePatch::FindBlockRecord(const std::string& name) {
     const Record& record = BlockRecordOf(name);
     if (!record.declared) return std::nullopt;
-    const Progress none;
-    TagReader tags(patch_.Text(), none);
+    TagReader tags(patch_.Text());
     return std::make_pair(record.begin, RecordPatch(patch_, tags, record.begin).End());
 }
 
@@ -175,8 +170,7 @@ TablePatch::Table& TablePatch::RequireTable(const char* name) {
 
 std::string TablePatch::LinesOf(const Values& values) {
     Scan();
-    const Progress none;
-    TagReader tags(patch_.Text(), none);
+    TagReader tags(patch_.Text());
     const RecordPatch form(patch_, tags, tablesEnd_.value_or(*firstBody_));
     std::string lines;
     for (const RecordPatch::Value& value : values)
@@ -186,8 +180,7 @@ std::string TablePatch::LinesOf(const Values& values) {
 
 std::string TablePatch::Add(const char* name, const char* marker, const Values& values, const Values& extended) {
     Table& table = RequireTable(name);
-    const Progress none;
-    TagReader tags(patch_.Text(), none);
+    TagReader tags(patch_.Text());
     std::optional<RecordPatch> sample;
     if (table.sample) sample.emplace(patch_, tags, *table.sample);
     Values record = {{0, name}};
@@ -242,9 +235,8 @@ void TablePatch::AddLineType(const LineType& type, const std::string& storedName
 }
 
 void TablePatch::AddTextStyle(const TextStyle& style) {
-    constexpr int kBold = 0x2000000, kItalic = 0x1000000;
     AddApplication("ACAD");
-    const int cut = (style.bold ? kBold : 0) | (style.italic ? kItalic : 0);
+    const int cut = (style.bold ? kFaceIsBold : 0) | (style.italic ? kFaceIsItalic : 0);
     Add("STYLE", "AcDbTextStyleTableRecord",
         {{2, style.name},
          {70, "0"},
@@ -255,13 +247,12 @@ void TablePatch::AddTextStyle(const TextStyle& style) {
          {42, "2.5"},
          {3, style.fontFile},
          {4, ""}},
-        {{kApplicationName, "ACAD"}, {kExtendedText, style.fontFace}, {1071, std::to_string(cut)}});
+        {{kApplicationName, "ACAD"}, {kExtendedText, style.fontFace}, {kExtendedLong, std::to_string(cut)}});
 }
 
 void TablePatch::Finish() {
     std::string newTables;
-    const Progress none;
-    TagReader tags(patch_.Text(), none);
+    TagReader tags(patch_.Text());
     for (const char* name : {"LTYPE", "LAYER", "STYLE", "APPID", kBlockRecord}) { // line types must precede the layers
                                                                                   // that use them
         Table& table = tables_[name];
@@ -283,9 +274,7 @@ void TablePatch::Finish() {
     if (!newTables.empty() && !tablesEnd_)
         newTables = LinesOf({{0, "SECTION"}, {2, "TABLES"}}) + newTables + LinesOf({{0, "ENDSEC"}});
     if (!newTables.empty()) patch_.Insert(tablesEnd_.value_or(*firstBody_), newTables);
-    if (handleTaken_ && seed_)
-        patch_.Replace(static_cast<size_t>(seed_->value.data() - patch_.Text().data()), seed_->value.size(),
-                       Hex(highest_ + 1));
+    if (handleTaken_ && seed_) patch_.Replace(seed_->value, Hex(highest_ + 1));
 }
 
 } // namespace dxf

@@ -15,10 +15,13 @@ public:
 
     // Pieces must not overlap. Changes at the same offset are applied in the order of calls.
     void Replace(size_t at, size_t length, std::string with) { edits_.push_back({at, length, std::move(with)}); }
+    void Replace(std::string_view part, std::string with) { Replace(OffsetOf(part), part.size(), std::move(with)); }
     void Insert(size_t at, std::string piece) { Replace(at, 0, std::move(piece)); }
 
     bool IsEmpty() const { return edits_.empty(); }
     std::string_view Text() const { return text_; }
+    // Returns the offset of a part of the text.
+    size_t OffsetOf(std::string_view part) const { return static_cast<size_t>(part.data() - text_.data()); }
     std::string Result();
     // Returns the new offset of what was at `at`, after anything inserted there. Valid after Result.
     size_t Moved(size_t at) const;

@@ -20,8 +20,8 @@ bool IsFitted(const Text& text) {
     return text.horizontal == Text::Horizontal::aligned || text.horizontal == Text::Horizontal::fit;
 }
 
-double Degrees(double radians) {
-    const double degrees = radians * (180 / kPi), round = std::round(degrees * 1e9) / 1e9;
+double RoundedDegrees(double radians) {
+    const double degrees = Degrees(radians), round = std::round(degrees * 1e9) / 1e9;
     return Near(round, degrees) ? round : degrees;
 }
 
@@ -163,7 +163,7 @@ void AppearanceWriter::Move(const Matrix& motion) {
     const Vec3 insertion = motion.Apply(system.Apply(text.insertion));
     const Vec3 alignment = motion.Apply(system.Apply(text.alignment));
     const Vec3 old = system.Turn({0, 0, 1}), across = Normalized(Cross(along, rise));
-    const double front = across.x * old.x + across.y * old.y + across.z * old.z;
+    const double front = Dot(across, old);
     const Vec3 normal = across * (front < 0 ? -1 : 1);
     const bool tilted = Length(normal) > 0 && !Near(std::fabs(front), 1);
     if (tilted) entity_.normal = normal;
@@ -183,8 +183,8 @@ void AppearanceWriter::Move(const Matrix& motion) {
     if (!SameToRounding(height, 1, 1)) text.height *= height;
     if (!SameToRounding(length, height, 1))
         text.widthFactor = (text.widthFactor > 0 ? text.widthFactor : 1) * length / height;
-    text.rotation = TurnedTo(text.rotation, Degrees(AngleOf(along)));
-    text.oblique = TurnedTo(text.oblique, Degrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
+    text.rotation = TurnedTo(text.rotation, RoundedDegrees(AngleOf(along)));
+    text.oblique = TurnedTo(text.oblique, RoundedDegrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
 }
 
 void AppearanceWriter::PutReal(int code, double was, double now, std::initializer_list<int> after) {
