@@ -7,9 +7,8 @@
 #include "orlo/controls/control_font.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/host/graphic.h"
 #include "orlo/host/strings.h"
-#include "orlo/host/vertex.h"
+#include "orlo/host/walk.h"
 #include "orlo/samples/hatch_scale.h"
 #include "orlo/samples/vertex_list.h"
 
@@ -24,11 +23,11 @@ constexpr POINT kTextAt = {4, 1};       // minimum distance from the corner of t
 void FitSampleToCell(GraphicStruct* graphic, const RECT& cell) {
     const double height = cell.bottom != cell.top ? cell.bottom - cell.top : kMinimumHeight;
     const double outer = (cell.right - cell.left) / height;
-    int cookie = 0, index = 0;
-    for (VertexStruct* vertex = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF); vertex;
-         vertex = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF), ++index) {
+    int index = 0;
+    for (VertexStruct* vertex : orlo::host::Vertices(graphic)) {
         if (index >= 4 && index <= 7)
             ::VertexSet(vertex, index == 6 ? outer : (1.0 - kMargin) * outer, vertex->y, vertex->z);
+        ++index;
     }
     ::GraphicSetExtentsDirty(graphic, 1);
 }

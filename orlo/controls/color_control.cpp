@@ -14,6 +14,7 @@
 #include "orlo/controls/paint.h"
 #include "orlo/controls/table_control.h"
 #include "orlo/host/strings.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -53,9 +54,8 @@ bool ComesBefore(const Entry& a, const Entry& b) {
 
 std::vector<Entry> SortedColors(TableStruct* table) {
     std::vector<Entry> entries;
-    int cookie = 0;
     unsigned place = 0;
-    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
+    for (const uint16_t id : orlo::host::Entries(table)) {
         const void* const color = ::TableEntryGetData(table, id);
         if (!color) continue;
         const DWORD value = *static_cast<const DWORD*>(color);

@@ -10,7 +10,7 @@
 #include <windows.h>
 
 #include "orlo/export.h"
-#include "orlo/host/table.h"
+#include "orlo/host/walk.h"
 
 constexpr int kKeySize = 9;          // eight digits and the tab, or the NUL
 constexpr int kEntryNameSize = 0x80; // the host truncates longer names
@@ -59,8 +59,7 @@ ItemText HostTextItem(DWORD number, unsigned int stringID);
 // Calls add(ItemText&) for each named entry of the table, in table order.
 template <class Add>
 void ForEachTableItem(TableStruct* table, Add add) {
-    int cookie = 0;
-    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
+    for (const uint16_t id : orlo::host::Entries(table)) {
         ItemText text(id);
         if (::TableEntryGetName(table, id, text.name(), kEntryNameSize)) add(text);
     }

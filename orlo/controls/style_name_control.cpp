@@ -9,6 +9,7 @@
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
 #include "orlo/host/block.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -23,8 +24,7 @@ const char* StyleTreeOf(const GraphicStruct* graphic) {
 CString AddStyleTree(const ControlItems& items, TableStruct* table, const GraphicStruct* selected) {
     CString selectedName;
     char name[kNameSize];
-    int cookie = 0;
-    for (uint16_t id = ::TableEntryFirst(table, &cookie); id; id = ::TableEntryNext(table, &cookie)) {
+    for (const uint16_t id : orlo::host::Entries(table)) {
         const GraphicStruct* const graphic = ::BlockGetGraphic(table, id);
         if (std::strcmp(StyleTreeOf(graphic), selected->pszStyleName) != 0) continue;
         if (!::TableEntryGetName(table, id, name, sizeof name)) continue;

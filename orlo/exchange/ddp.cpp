@@ -12,7 +12,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/loaded_controls.h"
 #include "orlo/frame/write_outcome.h"
-#include "orlo/host/graphic.h"
+#include "orlo/host/walk.h"
 
 CMapWordToOb& PendingWritesOf(CGraphicPropertyPage* page) {
     return page->m_mapDDP;
@@ -178,13 +178,10 @@ void CarryOut(const CDDPRecord& record, CDataExchange* pDX, WriteOutcome& outcom
 // Returns the number of selected graphics. GetFirstObject is not used because it changes the flag kFlagPreview.
 int StampSelection(CGraphicPropertyPage* page) {
     CGraphicPropertySheet* sheet = page->GetSheet();
-    auto* set = sheet != nullptr ? static_cast<GraphicStruct*>(sheet->GetGraphics()) : nullptr;
-    if (set == nullptr) return 0;
-    const uint32_t filter = sheet->GetGraphicFlags();
-    uint32_t position = 0;
+    if (sheet == nullptr) return 0;
     int count = 0;
-    for (GraphicStruct* graphic = ::GraphicFirst(set, &position, 1, filter); graphic != nullptr;
-         graphic = ::GraphicNext(set, &position, 1, filter)) {
+    auto* set = static_cast<GraphicStruct*>(sheet->GetGraphics());
+    for (GraphicStruct* graphic : orlo::host::Members(set, sheet->GetGraphicFlags())) {
         graphic->wLastPage = LOWORD(page->GetTemplateNumber());
         ++count;
     }

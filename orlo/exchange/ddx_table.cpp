@@ -9,7 +9,7 @@
 #include "orlo/controls/control_items.h"
 #include "orlo/exchange/failure.h"
 #include "orlo/exchange/window_text.h"
-#include "orlo/host/table.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -36,8 +36,8 @@ unsigned int KeyOfWindowText(HWND control) {
 
 template <class MakeText>
 int FillFromTable(const ControlItems& items, TableStruct* pTable, MakeText makeText) {
-    int added = 0, cookie = 0;
-    for (uint16_t id = ::TableEntryFirst(pTable, &cookie); id; id = ::TableEntryNext(pTable, &cookie)) {
+    int added = 0;
+    for (const uint16_t id : orlo::host::Entries(pTable)) {
         CString text;
         if (makeText(id, text) && items.Add(text) != -1) ++added;
     }

@@ -12,7 +12,7 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/block.h"
 #include "orlo/host/strings.h"
-#include "orlo/host/table.h"
+#include "orlo/host/walk.h"
 #include "orlo/host/words.h"
 #include "orlo/resources/resource.h"
 
@@ -37,11 +37,9 @@ void EnableDlgControl(HWND hDlg, int nID, bool enable) {
 // Returns the identifier of the first entry that passes the test, or 0.
 template <class Test>
 uint16_t FindEntry(TableStruct* table, Test matches) {
-    int cookie = 0;
-    uint16_t id = ::TableEntryFirst(table, &cookie);
-    while (id != 0 && !matches(id))
-        id = ::TableEntryNext(table, &cookie);
-    return id;
+    for (const uint16_t id : orlo::host::Entries(table))
+        if (matches(id)) return id;
+    return 0;
 }
 
 uint16_t FindEntryByName(TableStruct* table, const char* name) {

@@ -10,7 +10,7 @@
 #include "orlo/binding/fuzzy.h"
 #include "orlo/host/matrix.h"
 #include "orlo/host/owners.h"
-#include "orlo/host/vertex.h"
+#include "orlo/host/walk.h"
 
 namespace {
 
@@ -41,11 +41,12 @@ using Axes = std::array<Vector, 3>;
 using Corners = std::array<VertexStruct*, 4>; // the origin and the end points of the axes
 
 bool FindCorners(GraphicStruct* graphic, Corners& corners) {
-    int cookie = 0;
-    corners[0] = ::GraphicVertexFirst(graphic, &cookie, 0, 0xFFFF);
-    for (size_t i = 1; i < corners.size() && corners[i - 1] != nullptr; ++i)
-        corners[i] = ::GraphicVertexNext(graphic, &cookie, 0, 0xFFFF);
-    return corners.back() != nullptr;
+    size_t found = 0;
+    for (VertexStruct* vertex : orlo::host::Vertices(graphic)) {
+        corners[found++] = vertex;
+        if (found == corners.size()) return true;
+    }
+    return false;
 }
 
 Vector PointOf(const VertexStruct& vertex) {
