@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "orlo/summary/bytes.h"
+#include "orlo/propset/bytes.h"
 #include "orlo/summary/metafile_check.h"
 
 namespace {

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <new>
 #include <vector>
 
 namespace orlo {
@@ -38,6 +39,14 @@ public:
         return bytes_.size() <= UINT32_MAX &&
                SUCCEEDED(stream->Write(bytes_.data(), static_cast<ULONG>(bytes_.size()), &done)) &&
                done == bytes_.size();
+    }
+    // Writes to the stream what `append` composes. Returns false if append does, or if the memory is not sufficient.
+    template <class Append>
+    static bool WriteTo(IStream* stream, const Append& append) try {
+        ImageWriter image;
+        return append(image) && image.WriteTo(stream);
+    } catch (const std::bad_alloc&) {
+        return false;
     }
     std::vector<uint8_t> Take() { return std::move(bytes_); }
 

@@ -3,7 +3,6 @@
 #include "orlo/propset/property.h"
 
 #include <cstring>
-#include <new>
 
 #include "orlo/host/memory.h"
 #include "orlo/propset/image_writer.h"
@@ -129,7 +128,7 @@ int CProperty::Set(void* const pValue) {
     auto* block = static_cast<BYTE*>(AllocValue(static_cast<DWORD>(*size)));
     if (block == nullptr) return *size == 0;
     if (plainText) {
-        orlo::Store32(block, static_cast<DWORD>(form.form == Form::chars ? textSize / 2 : textSize));
+        orlo::PutLittleEndian<uint32_t>(block, static_cast<DWORD>(form.form == Form::chars ? textSize / 2 : textSize));
         std::memcpy(block + 4, source, textSize);
     } else {
         std::memcpy(block, source, *size);
@@ -194,12 +193,7 @@ void CProperty::SetID(DWORD dwPropID) {
 }
 
 int CProperty::WriteToStream(IStream* pStream) {
-    try {
-        orlo::ImageWriter image;
-        return AppendTo(image) && image.WriteTo(pStream);
-    } catch (const std::bad_alloc&) {
-        return 0;
-    }
+    return orlo::ImageWriter::WriteTo(pStream, [this](orlo::ImageWriter& image) { return AppendTo(image); });
 }
 
 int CProperty::AppendTo(orlo::ImageWriter& image) const {
@@ -237,7 +231,7 @@ int CProperty::ReadFrom(orlo::StreamReader& reader) {
     if (total > UINT32_MAX || !reader.Spend(total)) return 0;
     auto* block = static_cast<BYTE*>(AllocValue(static_cast<DWORD>(total)));
     if (block == nullptr) return 0;
-    if (head != 0) orlo::Store32(block, count);
+    if (head != 0) orlo::PutLittleEndian<uint32_t>(block, count);
     const auto wanted = static_cast<size_t>(*elements);
     const size_t readSize = reader.Read(block + head, wanted);
     std::memset(block + head + readSize, 0, wanted - readSize);
@@ -260,14 +254,14 @@ DWORD CProperty::WriteToRC(CRCFile* pRC) {
                                                     // it
     size_t left = stored->size;
     if (IsVector(stored->type)) {
-        pRC->WriteDWord(orlo::Load32(bytes));
+        pRC->WriteDWord(orlo::LittleEndian<uint32_t>(bytes));
         bytes += 4;
         left -= 4;
     }
     const DWORD base = BaseType(stored->type);
     if (base == VT_BSTR || base == VT_LPSTR) {
         for (size_t size; left > 0; bytes += size, left -= size) {
-            const DWORD length = orlo::Load32(bytes);
+            const DWORD length = orlo::LittleEndian<uint32_t>(bytes);
             size = 4 + length;
             pRC->WriteDWord(length);
             pRC->WriteCString(reinterpret_cast<const char*>(bytes + 4), length);

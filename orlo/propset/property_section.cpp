@@ -187,12 +187,7 @@ const char* CPropertySection::GetSectionName() {
 }
 
 int CPropertySection::WriteToStream(IStream* pStream) {
-    try {
-        orlo::ImageWriter image;
-        return AppendTo(image) && image.WriteTo(pStream);
-    } catch (const std::bad_alloc&) {
-        return 0;
-    }
+    return orlo::ImageWriter::WriteTo(pStream, [this](orlo::ImageWriter& image) { return AppendTo(image); });
 }
 
 int CPropertySection::AppendTo(orlo::ImageWriter& image) {
@@ -223,13 +218,10 @@ int CPropertySection::AppendTo(orlo::ImageWriter& image) {
 }
 
 int CPropertySection::WriteNameDictToStream(IStream* pStream) {
-    try {
-        orlo::ImageWriter image;
+    return orlo::ImageWriter::WriteTo(pStream, [this](orlo::ImageWriter& image) {
         AppendDictionary(image);
-        return image.WriteTo(pStream);
-    } catch (const std::bad_alloc&) {
-        return 0;
-    }
+        return true;
+    });
 }
 
 void CPropertySection::AppendDictionary(orlo::ImageWriter& image) const {
@@ -315,7 +307,7 @@ int CPropertySection::ReadDictionary(orlo::StreamReader& reader) {
     constexpr uint32_t kLongestName = 256;
     CProperty* codePage = GetProperty(orlo::kCodePageId);
     const void* value = codePage != nullptr && codePage->GetType() == VT_I2 ? codePage->Get() : nullptr;
-    const uint16_t page = value != nullptr ? orlo::Load16(static_cast<const uint8_t*>(value)) : 0;
+    const uint16_t page = value != nullptr ? orlo::LittleEndian<uint16_t>(static_cast<const uint8_t*>(value)) : 0;
     const orlo::StoredNames read = orlo::ReadNames(reader, page, kLongestName);
     for (const orlo::StoredName& stored : read.names) {
         const CString name = read.isWide ? NameFromWide(stored.bytes) : CString(stored.bytes.c_str());

@@ -140,12 +140,8 @@ int CPropertySet::WriteToStream(IStream* pStream) {
     nowhere.QuadPart = 0;
     ULARGE_INTEGER start;
     if (FAILED(pStream->Seek(nowhere, STREAM_SEEK_CUR, &start))) return 0;
-    try {
-        orlo::ImageWriter image;
-        return AppendTo(image, start.QuadPart) && image.WriteTo(pStream);
-    } catch (const std::bad_alloc&) {
-        return 0;
-    }
+    return orlo::ImageWriter::WriteTo(pStream,
+                                      [&](orlo::ImageWriter& image) { return AppendTo(image, start.QuadPart); });
 }
 
 int CPropertySet::AppendTo(orlo::ImageWriter& image, ULONGLONG start) {
@@ -181,11 +177,11 @@ int CPropertySet::ReadFromStream(IStream* pStream) {
 int CPropertySet::ReadFrom(orlo::StreamReader& reader, ULONGLONG base) {
     uint8_t header[orlo::kSetHeadSize];
     if (reader.Read(header, sizeof header) != sizeof header) return 0;
-    m_wByteOrder = orlo::Load16(header);
-    m_wFormatVersion = orlo::Load16(header + 2);
-    m_dwOSVersion = orlo::Load32(header + 4);
+    m_wByteOrder = orlo::LittleEndian<uint16_t>(header);
+    m_wFormatVersion = orlo::LittleEndian<uint16_t>(header + 2);
+    m_dwOSVersion = orlo::LittleEndian<uint32_t>(header + 4);
     std::memcpy(&m_ClassID, header + 8, sizeof m_ClassID);
-    const DWORD count = orlo::Load32(header + 24);
+    const DWORD count = orlo::LittleEndian<uint32_t>(header + 24);
     m_dwSectionCount = count;
 
     for (DWORD i = 0; i < count; ++i) {
@@ -195,7 +191,7 @@ int CPropertySet::ReadFrom(orlo::StreamReader& reader, ULONGLONG base) {
         GUID format;
         std::memcpy(&format, entry, sizeof format);
         auto section = std::make_unique<CPropertySection>(format);
-        reader.SeekTo(base + orlo::Load32(entry + sizeof format));
+        reader.SeekTo(base + orlo::LittleEndian<uint32_t>(entry + sizeof format));
         section->ReadFrom(reader, base);
         m_SectionList.AddTail(section.get());
         section.release();

@@ -3,7 +3,6 @@
 #include "orlo/propset/value_form.h"
 
 #include <array>
-#include <cstring>
 
 namespace orlo {
 
@@ -71,22 +70,6 @@ constexpr TypeForm kNone{};
 
 const TypeForm& FormOf(uint32_t type) {
     return type <= kLastType ? kForms[type] : kNone;
-}
-
-uint16_t Load16(const uint8_t* bytes) {
-    uint16_t number;
-    std::memcpy(&number, bytes, sizeof number);
-    return number;
-}
-
-uint32_t Load32(const uint8_t* bytes) {
-    uint32_t number;
-    std::memcpy(&number, bytes, sizeof number);
-    return number;
-}
-
-void Store32(uint8_t* bytes, uint32_t number) {
-    std::memcpy(bytes, &number, sizeof number);
 }
 
 uint64_t CountedSize(Form form, uint32_t count) {

@@ -3,9 +3,9 @@
 
 #include <objidl.h>
 
-#include <cstddef>
-#include <cstdint>
 #include <optional>
+
+#include "orlo/propset/bytes.h"
 
 namespace orlo {
 
@@ -36,11 +36,6 @@ inline size_t PaddingOf(size_t size) {
 
 // Returns the form of a type, ignoring VT_VECTOR.
 const TypeForm& FormOf(uint32_t type);
-
-// Read little-endian numbers at unaligned addresses.
-uint16_t Load16(const uint8_t* bytes);
-uint32_t Load32(const uint8_t* bytes);
-void Store32(uint8_t* bytes, uint32_t number);
 
 // Returns the size of a counted element, including its count.
 uint64_t CountedSize(Form form, uint32_t count);

@@ -27,7 +27,7 @@ inline std::optional<std::string_view> TakeElement(Cursor& cursor, const TypeFor
     size_t size = form.size;
     if (form.form != Form::fixed) {
         const uint8_t* count = cursor.Take(4);
-        const uint64_t counted = count != nullptr ? CountedSize(form.form, Load32(count)) - 4 : 0;
+        const uint64_t counted = count != nullptr ? CountedSize(form.form, LittleEndian<uint32_t>(count)) - 4 : 0;
         if (count == nullptr || counted > cursor.left) return std::nullopt;
         size = static_cast<size_t>(counted);
     }
@@ -57,8 +57,8 @@ bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
     if (IsVector(type)) {
         const uint8_t* head = cursor.Take(4);
         const size_t smallest = SmallestElement(BaseType(type));
-        if (head == nullptr || smallest == 0 || Load32(head) > cursor.left / smallest) return false;
-        count = Load32(head);
+        if (head == nullptr || smallest == 0 || LittleEndian<uint32_t>(head) > cursor.left / smallest) return false;
+        count = LittleEndian<uint32_t>(head);
     }
     for (; count > 0; --count) {
         if (padded) SkipPadding(cursor, begin);
@@ -66,7 +66,7 @@ bool Walk(Cursor& cursor, uint32_t type, bool padded, const Visit& visit) {
         if (elementType == VT_VARIANT) {
             const uint8_t* code = IsVector(type) ? cursor.Take(4) : nullptr;
             if (code == nullptr) return false;
-            elementType = Load32(code);
+            elementType = LittleEndian<uint32_t>(code);
         }
         const TypeForm& form = FormOf(elementType);
         if (form.form == Form::none) return false;

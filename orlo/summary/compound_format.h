@@ -52,6 +52,11 @@ constexpr size_t kClassId = 80; // followed by state bits and two times
 constexpr size_t kStart = 116;
 constexpr size_t kSize = 120;
 
+// Returns the number of sectors or entries of that size.
+constexpr uint64_t Pieces(uint64_t size, uint64_t each) {
+    return size / each + (size % each != 0);
+}
+
 enum Kind : uint8_t { kFree = 0, kStorage = 1, kStream = 2, kRoot = 5 };
 enum Color : uint8_t { kRed = 0, kBlack = 1 };
 

@@ -7,7 +7,7 @@
 #include <cstring>
 #include <utility>
 
-#include "orlo/summary/bytes.h"
+#include "orlo/propset/bytes.h"
 
 namespace orlo {
 
@@ -16,10 +16,6 @@ using namespace compound;
 namespace {
 
 constexpr size_t kDeepestStorage = 64; // no document has more
-
-uint64_t Pieces(uint64_t size, size_t each) {
-    return size / each + (size % each != 0);
-}
 
 bool IsShort(uint64_t size) {
     return size < kShorterAreShort;

@@ -7,8 +7,8 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "orlo/propset/bytes.h"
 #include "orlo/propset/code_page.h"
-#include "orlo/summary/bytes.h"
 
 namespace orlo {
 
@@ -17,15 +17,6 @@ using namespace compound;
 namespace {
 
 using Append = std::function<void(std::string_view bytes)>;
-
-uint64_t Pieces(uint64_t size, uint64_t each) {
-    return size / each + (size % each != 0);
-}
-
-template <typename Number>
-void Put(uint8_t* at, Number number) {
-    std::memcpy(at, &number, sizeof number);
-}
 
 // ---- Directory
 
@@ -50,7 +41,7 @@ struct Element {
 EntryBytes NewRecord(std::u16string_view name, Kind kind) {
     EntryBytes record = {};
     std::memcpy(record.data(), name.data(), name.size() * sizeof(char16_t));
-    Put(&record[kNameSize], static_cast<uint16_t>((name.size() + 1) * sizeof(char16_t)));
+    PutLittleEndian(&record[kNameSize], static_cast<uint16_t>((name.size() + 1) * sizeof(char16_t)));
     record[kEntryKind] = kind;
     return record;
 }
@@ -118,10 +109,10 @@ private:
             size_t levels = 0; // number of full levels
             while ((size_t{2} << levels) - 1 <= contents[i].size())
                 ++levels;
-            Put(&elements_[i].record[kChild], LinkTree(contents[i], 0, contents[i].size(), levels));
+            PutLittleEndian(&elements_[i].record[kChild], LinkTree(contents[i], 0, contents[i].size(), levels));
         }
-        Put(&elements_[0].record[kLeft], kNone);
-        Put(&elements_[0].record[kRight], kNone);
+        PutLittleEndian(&elements_[0].record[kLeft], kNone);
+        PutLittleEndian(&elements_[0].record[kRight], kNone);
         elements_[0].record[kColor] = kBlack;
     }
 
@@ -133,8 +124,8 @@ private:
         EntryBytes& record = elements_[contents[middle]].record;
         const size_t below = blackLevels == 0 ? 0 : blackLevels - 1;
         record[kColor] = blackLevels == 0 ? kRed : kBlack;
-        Put(&record[kLeft], LinkTree(contents, begin, middle, below));
-        Put(&record[kRight], LinkTree(contents, middle + 1, end, below));
+        PutLittleEndian(&record[kLeft], LinkTree(contents, begin, middle, below));
+        PutLittleEndian(&record[kRight], LinkTree(contents, middle + 1, end, below));
         return static_cast<uint32_t>(contents[middle]);
     }
 
@@ -247,22 +238,22 @@ private:
     static HeaderBytes NewHeader() {
         HeaderBytes header = {};
         std::copy(kCompoundSignature.begin(), kCompoundSignature.end(), header.begin());
-        Put(&header[kMinorVersion], uint16_t{0x3E});
-        Put(&header[kVersion], uint16_t{3});
-        Put(&header[kByteOrder], uint16_t{0xFFFE});
-        Put(&header[kSectorShift], uint16_t{9});
-        Put(&header[kShortSectorShift], uint16_t{6});
-        Put(&header[kShortLimit], kShorterAreShort);
+        PutLittleEndian(&header[kMinorVersion], uint16_t{0x3E});
+        PutLittleEndian(&header[kVersion], uint16_t{3});
+        PutLittleEndian(&header[kByteOrder], uint16_t{0xFFFE});
+        PutLittleEndian(&header[kSectorShift], uint16_t{9});
+        PutLittleEndian(&header[kShortSectorShift], uint16_t{6});
+        PutLittleEndian(&header[kShortLimit], kShorterAreShort);
         return header;
     }
     bool HasWideSizes() const { return LittleEndian<uint16_t>(&header_[kVersion]) == 4; }
     size_t NumbersInSector() const { return sectorBytes_ / sizeof(uint32_t); }
-    void PutHeader(size_t field, uint64_t number) { Put(&header_[field], static_cast<uint32_t>(number)); }
+    void PutHeader(size_t field, uint64_t number) { PutLittleEndian(&header_[field], static_cast<uint32_t>(number)); }
 
     void PutPlace(Element& element, uint32_t start, uint64_t size) const {
         if (!HasWideSizes() && size > UINT32_MAX) throw std::runtime_error("the file would become too large");
-        Put(&element.record[kStart], start);
-        Put(&element.record[kSize], size);
+        PutLittleEndian(&element.record[kStart], start);
+        PutLittleEndian(&element.record[kSize], size);
     }
 
     void PlaceStreams() {
@@ -353,7 +344,7 @@ private:
             output_.Write(element.record.data(), element.record.size());
         EntryBytes unused = {};
         for (const size_t link : {kLeft, kRight, kChild})
-            Put(&unused[link], kNone);
+            PutLittleEndian(&unused[link], kNone);
         const size_t inSector = sectorBytes_ / kEntryBytes;
         for (size_t i = directory_.Elements().size(); i % inSector != 0; ++i)
             output_.Write(unused.data(), unused.size());

@@ -6,7 +6,7 @@
 #include <array>
 #include <cstring>
 
-#include "orlo/summary/bytes.h"
+#include "orlo/propset/bytes.h"
 #include "orlo/summary/dib_layout.h"
 #include "orlo/summary/fitting.h"
 #include "orlo/summary/run_length.h"
@@ -205,14 +205,10 @@ std::optional<std::vector<uint8_t>> BitmapFileFrom(const uint8_t* data, size_t s
     const auto layout = ReadDibLayout(data, size, DibColors::Rgb);
     if (!layout) return std::nullopt;
     std::vector<uint8_t> file(kFileHeader);
-    const auto put = [&file](size_t at, size_t number) {
-        const auto field = static_cast<uint32_t>(number);
-        std::memcpy(&file[at], &field, sizeof field);
-    };
     file[0] = 'B';
     file[1] = 'M';
-    put(2, kFileHeader + size);
-    put(10, kFileHeader + layout->pixelOffset);
+    PutLittleEndian(&file[2], static_cast<uint32_t>(kFileHeader + size));
+    PutLittleEndian(&file[10], static_cast<uint32_t>(kFileHeader + layout->pixelOffset));
     file.insert(file.end(), data, data + size);
     return file;
 }

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "orlo/summary/bytes.h"
+#include "orlo/propset/bytes.h"
 #include "orlo/summary/run_length.h"
 
 namespace orlo {

@@ -7,7 +7,7 @@
 #include <queue>
 #include <vector>
 
-#include "orlo/summary/bytes.h"
+#include "orlo/propset/bytes.h"
 #include "orlo/summary/dib_layout.h"
 
 namespace orlo {

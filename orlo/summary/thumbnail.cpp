@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "orlo/summary/bytes.h"
+#include "orlo/propset/bytes.h"
 #include "orlo/summary/dib_layout.h"
 #include "orlo/summary/fitting.h"
 #include "orlo/summary/metafile_check.h"

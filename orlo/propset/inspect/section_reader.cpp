@@ -37,8 +37,8 @@ std::string DescribeNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
     const TypeForm& form = FormOf(type);
     if (form.form == Form::fixed) return "needs " + std::to_string(form.size) + " bytes";
     if (size < 4) return "needs 4 bytes for its count";
-    if (IsVector(type)) return "declares " + std::to_string(Load32(bytes)) + " elements";
-    return "needs " + std::to_string(CountedSize(form.form, Load32(bytes))) + " bytes";
+    if (IsVector(type)) return "declares " + std::to_string(LittleEndian<uint32_t>(bytes)) + " elements";
+    return "needs " + std::to_string(CountedSize(form.form, LittleEndian<uint32_t>(bytes))) + " bytes";
 }
 
 } // namespace
@@ -53,8 +53,8 @@ std::string SectionReader::NameOf(const Entry& entry) const {
 }
 
 size_t SectionReader::Read() {
-    section_.size = Load32(head_);
-    section_.count = Load32(head_ + 4);
+    section_.size = LittleEndian<uint32_t>(head_);
+    section_.count = LittleEndian<uint32_t>(head_ + 4);
     reached_ = kSectionHeadSize;
     if (section_.size > remaining_)
         report_.Add(FindingCode::sectionSizePastEnd, Severity::irregular, section_.offset, place_, ": size ",
@@ -91,8 +91,8 @@ void SectionReader::ReadTable() {
             break;
         }
         Entry entry{};
-        entry.id = Load32(head_ + at);
-        entry.offset = Load32(head_ + at + 4);
+        entry.id = LittleEndian<uint32_t>(head_ + at);
+        entry.offset = LittleEndian<uint32_t>(head_ + at + 4);
         if (entry.offset >= at + kPropertyLineSize) firstValue = std::min<size_t>(firstValue, entry.offset);
         entries_.push_back(std::move(entry));
     }
@@ -173,7 +173,7 @@ void SectionReader::ReadValue(Entry& entry) {
                     ", but the stream has ", remaining_, " bytes from the start of the section; the value is missing");
         return;
     }
-    const uint32_t type = Load32(head_ + entry.offset);
+    const uint32_t type = LittleEndian<uint32_t>(head_ + entry.offset);
     property.type = type & 0xFFFF;
     property.typeHighHalf = static_cast<uint16_t>(type >> 16);
     if (type != property.type)
@@ -231,7 +231,7 @@ void SectionReader::ReadCodePage() {
         if (entry.id == kDictionaryId || FormOf(BaseType(property.type)).form == Form::bytes) hasText = true;
         if (entry.id != kCodePageId || section_.codePage || property.state == ValueState::partial) continue;
         if (property.type == VT_I2)
-            section_.codePage = Load16(property.bytes.data());
+            section_.codePage = LittleEndian<uint16_t>(property.bytes.data());
         else
             report_.Add(FindingCode::codePageType, Severity::irregular, section_.offset + uint64_t{entry.offset},
                         place_, ": the code page has ", TypeName(property.type), " instead of VT_I2; ignored");
@@ -253,7 +253,7 @@ void SectionReader::ReadDictionary(Entry& entry) {
     const size_t size = kTypeSize + entry.available;
     const uint16_t codePage = section_.codePage.value_or(kUsualCodePage);
     if (!budget_.Spend(size)) return ReportTooLarge(entry);
-    const uint32_t type = Load32(bytes);
+    const uint32_t type = LittleEndian<uint32_t>(bytes);
     const std::optional<Extent> asValue = MeasureValue(type, bytes + kTypeSize, entry.available);
     const bool isLastInSection = asValue && entry.offset + kTypeSize + Aligned(asValue->size) == section_.size;
     if (asValue && (isLastInSection || entry.available - asValue->size < 4) &&

@@ -49,11 +49,11 @@ bool SetReader::ReadHeader() {
                     size_, " are present; not a property set");
         return false;
     }
-    image_.byteOrder = Load16(data_);
-    image_.version = Load16(data_ + 2);
-    image_.osVersion = Load32(data_ + 4);
+    image_.byteOrder = LittleEndian<uint16_t>(data_);
+    image_.version = LittleEndian<uint16_t>(data_ + 2);
+    image_.osVersion = LittleEndian<uint32_t>(data_ + 4);
     std::memcpy(&image_.classId, data_ + 8, sizeof image_.classId);
-    image_.sectionCount = Load32(data_ + 24);
+    image_.sectionCount = LittleEndian<uint32_t>(data_ + 24);
     if (image_.byteOrder != kLittleEndianMark) {
         report_.Add(FindingCode::byteOrder, Severity::damaged, 0, "the byte order mark is ", std::hex, image_.byteOrder,
                     " instead of fffe; not a property set");
@@ -82,7 +82,7 @@ void SetReader::ReadSections() {
     const size_t listEnd = reached_;
     std::vector<size_t> heads;
     for (uint32_t i = 0; i < image_.sectionCount; ++i)
-        heads.push_back(Load32(data_ + kSetHeadSize + kSectionLineSize * i + 16));
+        heads.push_back(LittleEndian<uint32_t>(data_ + kSetHeadSize + kSectionLineSize * i + 16));
     std::vector<size_t> sorted = heads;
     std::sort(sorted.begin(), sorted.end());
     std::set<std::string_view> formats; // their bytes

@@ -49,7 +49,7 @@ void CheckText(std::string_view bytes, const ElementCheck& check) {
 }
 
 void CheckBool(std::string_view bytes, const ElementCheck& check) {
-    const uint32_t stored = Load32(reinterpret_cast<const uint8_t*>(bytes.data()));
+    const uint32_t stored = LittleEndian<uint32_t>(reinterpret_cast<const uint8_t*>(bytes.data()));
     if (stored == 0 || stored == 0xFFFF) return;
     char number[16];
     std::snprintf(number, sizeof number, "0x%08X", static_cast<unsigned>(stored));
@@ -58,7 +58,8 @@ void CheckBool(std::string_view bytes, const ElementCheck& check) {
 
 void CheckClipboard(std::string_view bytes, const ElementCheck& check) {
     const bool hasTag = bytes.size() >= 4;
-    const int32_t tag = hasTag ? static_cast<int32_t>(Load32(reinterpret_cast<const uint8_t*>(bytes.data()))) : 0;
+    const int32_t tag =
+        hasTag ? static_cast<int32_t>(LittleEndian<uint32_t>(reinterpret_cast<const uint8_t*>(bytes.data()))) : 0;
     const size_t needed = hasTag && (tag == -1 || tag == -2) ? 8 : 4;
     if (bytes.size() < needed)
         check.Add(FindingCode::clipboardShort, Severity::irregular, "clipboard data needs ", needed,

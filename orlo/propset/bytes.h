@@ -1,4 +1,4 @@
-// Reads little-endian numbers at unaligned addresses. The caller has checked the bounds.
+// Reads and writes little-endian numbers at unaligned addresses. The caller has checked the bounds.
 #pragma once
 
 #include <cstddef>
@@ -12,6 +12,11 @@ Number LittleEndian(const uint8_t* at) {
     Number value;
     std::memcpy(&value, at, sizeof value);
     return value;
+}
+
+template <typename Number>
+void PutLittleEndian(uint8_t* at, Number number) {
+    std::memcpy(at, &number, sizeof number);
 }
 
 } // namespace orlo
