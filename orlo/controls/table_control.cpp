@@ -26,12 +26,6 @@ void UseSharedFont(HWND control) {
         ::SendMessageA(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
 }
 
-SIZE WindowSize(HWND window) {
-    RECT rect = {};
-    ::GetWindowRect(window, &rect);
-    return {rect.right - rect.left, rect.bottom - rect.top};
-}
-
 void SetControlHeight(HWND control, int height) {
     ::SetWindowPos(control, nullptr, 0, 0, WindowSize(control).cx, height,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE | SWP_DEFERERASE);

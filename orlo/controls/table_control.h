@@ -4,6 +4,7 @@
 #include "orlo/controls/control_fill.h"
 #include "orlo/controls/control_item.h"
 #include "orlo/controls/control_items.h"
+#include "orlo/win/child_windows.h"
 
 // Empties a control and stores table and selection of a fill record. Returns false if lParam is null or the record has
 // no table.
@@ -34,9 +35,6 @@ int MeasuredRow(Control& control) {
 
 // Sets the shared control font; called on WM_INITIALUPDATE.
 void UseSharedFont(HWND control);
-
-// Returns the size of the window in device pixels.
-SIZE WindowSize(HWND window);
 
 // Sets the height of a control without moving or redrawing it.
 void SetControlHeight(HWND control, int height);

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "orlo/frame/label_order.h"
+#include "orlo/win/child_windows.h"
 #include "orlo/win/gdi.h"
 #include "orlo/win/screen_scale.h"
 
@@ -43,13 +44,6 @@ int LabelWidth(HWND child) {
 int WantedWidth(HWND child, int width, int box) {
     if (box == kBoxWidth || !HasBoxAndLabel(child)) return width;
     return std::max(width, box + kLabelSpace + LabelWidth(child));
-}
-
-RECT PlaceIn(HWND page, HWND child) {
-    RECT rect;
-    ::GetWindowRect(child, &rect);
-    ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
 }
 
 bool IsGroupBox(HWND child) {

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "orlo/win/child_windows.h"
+
 namespace {
 
 constexpr RECT kReach = {0, 0, 30, 12}; // maximum distance from a label to its field, across and down, in dialog units
@@ -21,9 +23,7 @@ Role RoleOf(HWND child) {
     if (code != kNone && !(code & (DLGC_STATIC | DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
         return Role::Field;
     if (!(code & DLGC_STATIC) || ::GetWindowTextLengthA(child) == 0) return Role::Other;
-    char name[16] = "";
-    ::GetClassNameA(child, name, sizeof name);
-    return ::lstrcmpiA(name, "Button") == 0 ? Role::GroupBox : Role::Text;
+    return IsOfClass(child, "Button") ? Role::GroupBox : Role::Text;
 }
 
 bool IsWithin(const RECT& inner, const RECT& outer) {

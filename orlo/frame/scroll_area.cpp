@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "orlo/win/child_windows.h"
 #include "orlo/win/screen_scale.h"
 
 namespace {
@@ -121,10 +122,9 @@ bool ScrollArea::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 }
 
 void ScrollArea::Reveal(HWND window, HWND control) {
-    RECT client, place;
+    RECT client;
     ::GetClientRect(window, &client);
-    ::GetWindowRect(control, &place);
-    ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+    const RECT place = PlaceIn(window, control);
     ScrollBy(window,
              CSize(WayTo(place.left, place.right, client.right), WayTo(place.top, place.bottom, client.bottom)));
 }

@@ -14,6 +14,7 @@
 #include "orlo/frame/scroll_area.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/child_windows.h"
 
 namespace {
 
@@ -27,13 +28,6 @@ struct Button {
 };
 constexpr Button kButtons[] = {
     {IDOK, IDS_PANE_APPLY}, {kPaneReset, IDS_PANE_RESET}, {kPaneClose, IDS_PANE_CLOSE}, {ID_HELP, IDS_PANE_HELP}};
-
-CRect PlaceIn(HWND parent, HWND window) {
-    CRect rect;
-    ::GetWindowRect(window, rect);
-    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
 
 // The buttons are children of the sheet, which passes their commands on to the pane.
 LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id, DWORD_PTR pane) {
@@ -203,7 +197,7 @@ void CSheetPane::Renew() {
     m_sheet = NewSheet();
     // The pane stays scrolled as far as the new sheet allows.
     if (m_sheet != nullptr && !ShowIn(*this, *m_sheet, m_scroll->Place())) DropSheet();
-    if (m_sheet != nullptr) m_sheetSize = PlaceIn(m_hWnd, m_sheet->m_hWnd).Size();
+    if (m_sheet != nullptr) m_sheetSize = WindowSize(m_sheet->m_hWnd);
     const bool any = m_sheet != nullptr && HasGraphics();
     m_scroll->SetContents(m_hWnd, any ? m_sheetSize : CSize());
     if (m_sheet != nullptr) m_sheet->ShowWindow(any ? SW_SHOWNA : SW_HIDE);

@@ -18,6 +18,7 @@
 #include "orlo/pages/field_kinds.h"
 #include "orlo/pages/field_layout.h"
 #include "orlo/resources/library_text.h"
+#include "orlo/win/child_windows.h"
 #include "orlo/win/screen_scale.h"
 
 IMPLEMENT_DYNAMIC(CFieldPage, CGraphicPropertyPage)
@@ -103,11 +104,9 @@ GraphicStruct* FirstAccepted(CGraphicPropertySheet* sheet, const FieldTable& tab
 }
 
 bool IsFocusNotification(unsigned int code, HWND control) {
-    char name[16] = "";
-    ::GetClassNameA(control, name, sizeof name);
-    if (::lstrcmpiA(name, "Edit") == 0) return code == EN_SETFOCUS;
-    if (::lstrcmpiA(name, "ComboBox") == 0) return code == CBN_SETFOCUS;
-    return ::lstrcmpiA(name, "Button") == 0 && code == BN_SETFOCUS;
+    if (IsOfClass(control, "Edit")) return code == EN_SETFOCUS;
+    if (IsOfClass(control, "ComboBox")) return code == CBN_SETFOCUS;
+    return IsOfClass(control, "Button") && code == BN_SETFOCUS;
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Child windows: iteration, and a cached list.
+// Child windows: iteration, a cached list, class and place.
 #pragma once
 
 #include <windows.h>
@@ -16,6 +16,28 @@ BOOL CALLBACK VisitChild(HWND child, LPARAM visit) {
 template <class Visit>
 void ForEachChild(HWND window, Visit visit) {
     ::EnumChildWindows(window, VisitChild<Visit>, reinterpret_cast<LPARAM>(&visit));
+}
+
+// Returns whether the window is of that class, ignoring case.
+inline bool IsOfClass(HWND window, const char* className) {
+    char name[64] = "";
+    ::GetClassNameA(window, name, sizeof name);
+    return ::lstrcmpiA(name, className) == 0;
+}
+
+// Returns the size of a window in pixels.
+inline SIZE WindowSize(HWND window) {
+    RECT rect = {};
+    ::GetWindowRect(window, &rect);
+    return {rect.right - rect.left, rect.bottom - rect.top};
+}
+
+// Returns the rectangle of a window in the client coordinates of another.
+inline RECT PlaceIn(HWND parent, HWND window) {
+    RECT rect = {};
+    ::GetWindowRect(window, &rect);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+    return rect;
 }
 
 // The child windows of a window, cached: listing them queries the children of each one, and searching for one lists

@@ -28,12 +28,6 @@ struct Button {
 constexpr Button kButtons[] = {{kBackId, IDS_WIZARD_BACK}, {kNextId, IDS_WIZARD_NEXT}, {IDCANCEL, IDS_WIZARD_CANCEL}};
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
 
-CSize WindowSize(HWND window) {
-    CRect rect;
-    ::GetWindowRect(window, &rect);
-    return rect.Size();
-}
-
 bool IsShown(HWND button) {
     return button != nullptr && (::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE) != 0;
 }
@@ -316,7 +310,7 @@ bool CWizardSheet::MoveTo(int nPage) {
     if (!SetActivePage(nPage)) return false;
     SetButtonStates(nPage);
     ShowHeading(m_hWnd, m_tabRow, m_nCurPage);
-    if (WindowSize(GetActivePage()->m_hWnd) != before) RecalcWizardLayout();
+    if (before != WindowSize(GetActivePage()->m_hWnd)) RecalcWizardLayout();
     // Some systems take the focus from a disabled button, leaving no window with the focus.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
     ShowDefaultButton(m_hWnd);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "orlo/win/child_windows.h"
 #include "orlo/win/gdi.h"
 #include "support/test_sheet.h"
 
@@ -13,13 +14,6 @@ namespace {
 constexpr int kPreviewId = 3999, kHelpId = 0xE145, kApplyId = 0xEA00;
 constexpr UINT kPainted = 0x58D;
 constexpr int kFrame = 3; // pixels around the page
-
-CRect PlaceIn(HWND parent, HWND window) {
-    CRect rect;
-    ::GetWindowRect(window, rect);
-    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
 
 CRect ClientOf(HWND window) {
     CRect client;

@@ -7,17 +7,11 @@
 
 #include "orlo/entry/entry.h"
 #include "orlo/frame/sheet_pane.h"
+#include "orlo/win/child_windows.h"
 #include "support/graphic_kit.h"
 #include "support/test_sheet.h"
 
 namespace {
-
-CRect PlaceIn(HWND parent, HWND window) {
-    CRect rect;
-    ::GetWindowRect(window, rect);
-    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
 
 class TestPane : public CSheetPane {
 public:
@@ -54,7 +48,7 @@ protected:
         const CSize size = pane.FullSize();
         pane.MoveWindow(0, 0, size.cx - width, size.cy - height);
     }
-    CPoint Scrolled() { return PlaceIn(pane.m_hWnd, pane.SheetWindow()).TopLeft(); }
+    CPoint Scrolled() { return CRect(PlaceIn(pane.m_hWnd, pane.SheetWindow())).TopLeft(); }
     LONG Scroll(int code) {
         pane.SendMessage(WM_VSCROLL, static_cast<WPARAM>(code));
         return Scrolled().y;
@@ -75,7 +69,7 @@ TEST_F(Pane, HasItsButtonsInTheColumnBesideThePage) {
                  CSize(units.right, units.bottom));
     constexpr int kHelp = 0xE145, kPreview = 3999;
     for (const int id : {IDOK, int{kPaneReset}, int{kPaneClose}, kHelp}) {
-        EXPECT_EQ(PlaceIn(sheet, ::GetDlgItem(sheet, id)), wanted) << id;
+        EXPECT_EQ(CRect(PlaceIn(sheet, ::GetDlgItem(sheet, id))), wanted) << id;
         ::OffsetRect(wanted, 0, wanted.Height() + units.top);
     }
     EXPECT_LE(wanted.top, PlaceIn(sheet, ::GetDlgItem(sheet, kPreview)).top);

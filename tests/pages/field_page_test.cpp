@@ -468,13 +468,6 @@ FieldTable LongTable(size_t rows) {
     return table;
 }
 
-RECT PlaceIn(HWND page, HWND control) {
-    RECT place;
-    ::GetWindowRect(control, &place);
-    ::MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&place), 2);
-    return place;
-}
-
 // Checks that fields and labels of a page do not overlap and are all inside its contents.
 void ExpectNoOverlap(HWND page) {
     std::vector<RECT> places;
