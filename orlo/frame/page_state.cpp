@@ -10,7 +10,6 @@
 #include "orlo/controls/control_items.h"
 #include "orlo/frame/control_notifications.h"
 #include "orlo/frame/graphic_property_sheet.h"
-#include "orlo/frame/sheet_objects.h"
 #include "orlo/frame/write_outcome.h"
 #include "orlo/win/child_windows.h"
 
@@ -36,7 +35,11 @@ GraphicStruct* OwnerOf(const GraphicStruct* graphic) {
 } // namespace
 
 ObjectSet PageState::Objects(int bPreview) const {
-    return ObjectsOf(m_page.GetSheet(), bPreview, m_page.m_pProperties);
+    CGraphicPropertySheet* sheet = m_page.GetSheet();
+    PropertyAccess* access = m_page.m_pProperties;
+    if (sheet == nullptr) return ObjectSet(nullptr, 0, bPreview != 0);
+    if (bPreview) return ObjectSet(sheet->GetPreviewGroup(), kAllGraphics, true, access);
+    return ObjectSet(static_cast<GraphicStruct*>(sheet->GetGraphics()), sheet->GetGraphicFlags(), false, access);
 }
 
 orlo::binding::WriteTarget PageState::Target(int bPreview) const {

@@ -17,11 +17,9 @@
 #include "orlo/host/table.h"
 #include "orlo/host/units.h"
 #include "orlo/host/viewport.h"
-#include "orlo/pages/angle_text.h"
+#include "orlo/pages/angle_and_scale.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/preview_rows.h"
-#include "orlo/pages/scale_limits.h"
-#include "orlo/pages/scale_text.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/hatch_scale.h"
@@ -80,8 +78,6 @@ CBrushPage::CBrushPage()
     : CGraphicPropertyPage(kTemplate, 0), m_pBrushStyles(CurrentTable(kTableBrushStyles)), m_dwColor(kColorOfPen),
       m_dAngle(0.0), m_dScale(1.0), m_nStyle(kBrushStyleNone), m_szStyleName(), m_nHatchCross(0), m_nLastCross(0),
       m_nDrawMode(0) {}
-
-CBrushPage::~CBrushPage() = default;
 
 BOOL CBrushPage::OnInitDialog() {
     if (m_hWnd != nullptr) {

@@ -15,7 +15,6 @@ public:
     static constexpr unsigned int kTemplate = IDD_BRUSH_PAGE;
 
     CBrushPage();
-    ~CBrushPage() override;
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;

@@ -24,10 +24,8 @@
 #include "orlo/frame/loaded_controls.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/units.h"
-#include "orlo/pages/angle_text.h"
+#include "orlo/pages/angle_and_scale.h"
 #include "orlo/pages/current_drawing.h"
-#include "orlo/pages/scale_limits.h"
-#include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/win/encoded_text.h"
 

@@ -71,8 +71,6 @@ END_MESSAGE_MAP()
 
 CGeneralPage::CGeneralPage() : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), m_nStyleTree(0), m_bStyleChecked(0) {}
 
-CGeneralPage::~CGeneralPage() = default;
-
 BOOL CGeneralPage::OnInitDialog() {
     CGraphicPropertyPage::OnInitDialog();
     // The template gives the layer list no tab stop.

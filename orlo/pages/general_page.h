@@ -16,7 +16,6 @@ public:
     static constexpr unsigned int kTemplate = IDD_GENERAL_PAGE;
 
     CGeneralPage();
-    ~CGeneralPage() override;
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;

@@ -15,7 +15,7 @@
 #include "orlo/exchange/window_text.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/loaded_controls.h"
-#include "orlo/frame/sheet_objects.h"
+#include "orlo/frame/page_state.h"
 #include "orlo/frame/write_outcome.h"
 #include "orlo/host/units.h"
 #include "orlo/pages/current_drawing.h"
@@ -85,12 +85,6 @@ CInsertPage::CInsertPage()
     : CGraphicPropertyPage(kTemplate, 0), m_dScaleX(1.0), m_dScaleY(1.0), m_dScaleZ(1.0), m_dRotateX(0.0),
       m_dRotateY(0.0), m_dRotateZ(0.0), m_dPositionX(0.0), m_dPositionY(0.0), m_dPositionZ(0.0) {}
 
-CInsertPage::~CInsertPage() = default;
-
-BOOL CInsertPage::OnInitDialog() {
-    return CGraphicPropertyPage::OnInitDialog();
-}
-
 void CInsertPage::ExchangeField(CDataExchange* pDX, const Field& field) {
     const int id = static_cast<int>(field.nID);
     double& value = this->*field.member;
@@ -121,14 +115,15 @@ void CInsertPage::DoDataExchange(CDataExchange* pDX) {
 void CInsertPage::LoadInsertParts(int bPreview) {
     InsertParts merged{};
     bool found = false, withRotationZ = true;
-    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), withRotationZ, [&](GraphicStruct*, const InsertParts& parts) {
-        if (!found) merged = parts;
-        found = true;
-        const bool position = Merge(parts.position, merged.position), scale = Merge(parts.scale, merged.scale),
-                   rotation = Merge(parts.rotation, merged.rotation);
-        withRotationZ = !IsIndeterminate(merged.rotation[2]);
-        return position || scale || rotation;
-    });
+    ForEachInsertion(
+        PageState::Of(*this).Objects(bPreview), withRotationZ, [&](GraphicStruct*, const InsertParts& parts) {
+            if (!found) merged = parts;
+            found = true;
+            const bool position = Merge(parts.position, merged.position), scale = Merge(parts.scale, merged.scale),
+                       rotation = Merge(parts.rotation, merged.rotation);
+            withRotationZ = !IsIndeterminate(merged.rotation[2]);
+            return position || scale || rotation;
+        });
     if (!found) return;
     for (const Field& field : kFields)
         this->*field.member = field.Of(merged);
@@ -140,14 +135,15 @@ void CInsertPage::ApplyInsertParts(int bPreview) {
         if (!IsIndeterminate(this->*field.member) && (bPreview || IsEdited(field.nID))) written.push_back(&field);
     WriteOutcome* outcome = WriteOutcome::Of(*this);
     auto* const changed = outcome != nullptr && !bPreview && !written.empty() ? outcome->Changed() : nullptr;
-    ForEachInsertion(ObjectsOf(GetSheet(), bPreview), true, [&](GraphicStruct* graphic, const InsertParts& parts) {
-        InsertParts wanted = parts;
-        for (const Field* field : written)
-            field->Of(wanted) = this->*field->member;
-        ChangeInsertParts(graphic, parts, wanted);
-        if (changed != nullptr) changed->insert(graphic);
-        return true;
-    });
+    ForEachInsertion(PageState::Of(*this).Objects(bPreview), true,
+                     [&](GraphicStruct* graphic, const InsertParts& parts) {
+                         InsertParts wanted = parts;
+                         for (const Field* field : written)
+                             field->Of(wanted) = this->*field->member;
+                         ChangeInsertParts(graphic, parts, wanted);
+                         if (changed != nullptr) changed->insert(graphic);
+                         return true;
+                     });
     if (bPreview) return;
     for (const Field* field : written)
         LoadedControls::Of(*this).Write(field->Name(), this->*field->member);

@@ -15,10 +15,8 @@ public:
     static constexpr unsigned int kTemplate = IDD_INSERT_PAGE;
 
     CInsertPage();
-    ~CInsertPage() override;
 
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
     // Creates an insertion of a pyramid with lettered axes, a block that exists in the current drawing while a page
     // uses it.
     void* CreatePreviewGraphic() override;

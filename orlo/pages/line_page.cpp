@@ -10,11 +10,10 @@
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/host/strings.h"
 #include "orlo/host/table.h"
+#include "orlo/pages/angle_and_scale.h"
 #include "orlo/pages/current_drawing.h"
 #include "orlo/pages/pen_width.h"
 #include "orlo/pages/preview_rows.h"
-#include "orlo/pages/scale_limits.h"
-#include "orlo/pages/scale_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/vertex_list.h"
 
@@ -36,8 +35,6 @@ CLinePage::CLinePage()
       m_nAlignment(1), m_nLastAlignment(0) {
     m_bScrollingCombos = TRUE; // for long widths
 }
-
-CLinePage::~CLinePage() = default;
 
 BOOL CLinePage::OnInitDialog() {
     if (m_hWnd != nullptr) {

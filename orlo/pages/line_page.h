@@ -14,7 +14,6 @@ public:
     static constexpr unsigned int kTemplate = IDD_PEN_PAGE;
 
     CLinePage();
-    ~CLinePage() override;
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;

@@ -36,13 +36,6 @@ CTextPage::CTextPage()
     : CGraphicPropertyPage(kTemplate, 0), m_dSize(kUsualSize), m_dwColor(kColorByLayer), m_wStyle{0, 0}, m_wFormat(0),
       m_bFirstExchange(1) {}
 
-CTextPage::~CTextPage() = default;
-
-BOOL CTextPage::OnInitDialog() {
-    CGraphicPropertyPage::OnInitDialog();
-    return TRUE;
-}
-
 void CTextPage::DoDataExchange(CDataExchange* pDX) {
     DDP_Text(pDX, IDC_FONT_FACE, m_strFont, kPropTextFont);
     DDX_CBString(1, pDX, IDC_FONT_FACE, m_strFont);

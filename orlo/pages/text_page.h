@@ -14,10 +14,8 @@ public:
     static constexpr unsigned int kTemplate = IDD_TEXT_PAGE;
 
     CTextPage();
-    ~CTextPage() override;
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
     // Creates a text graphic with the host's sample text.
     void* CreatePreviewGraphic() override;
     // Transfers everything but the height, since the preview is scaled to fit its frame.
