@@ -78,12 +78,11 @@ OrloResult ORLO_CALL OrloFillControls(HWND dialog, DrawingStruct* drawing, OrloF
 }
 
 OrloResult ORLO_CALL OrloGetSelected(HWND control, uint32_t* value) {
-    return orlo::GuardedCall([&] {
-        orlo::RequireNotNull(value, "the value") = 0;
+    return orlo::GuardedAnswer(value, "the value", [&] {
         const ControlItems items = RequireItems(control);
         const int index = items.Selected();
         if (index < 0) ThrowError(kOrloNotFound, "nothing is selected");
-        *value = NumberAt(items, index);
+        return NumberAt(items, index);
     });
 }
 

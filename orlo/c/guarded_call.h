@@ -34,6 +34,15 @@ T& RequireNotNull(T* pointer, const char* name) {
     return *pointer;
 }
 
+// Runs the body of a function that returns a value through a pointer: 0 if `work` throws, else its result.
+template <class T, class Work>
+OrloResult GuardedAnswer(T* answer, const char* name, const Work& work) {
+    return GuardedCall([&] {
+        RequireNotNull(answer, name) = T();
+        *answer = work();
+    });
+}
+
 // Returns *record. Throws Refusal if it is null or its `size` is not that of the record in this version.
 template <class Record>
 Record& RequireRecord(Record* record, const char* name) {

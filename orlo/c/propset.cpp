@@ -90,10 +90,7 @@ void CopyOut(const void* bytes, size_t count, void* buffer, size_t* size) {
 using namespace orlo;
 
 OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set) {
-    return GuardedCall([&] {
-        RequireNotNull(set, "the handle") = nullptr;
-        *set = AddSet({});
-    });
+    return GuardedAnswer(set, "the handle", [] { return AddSet({}); });
 }
 
 OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
@@ -101,10 +98,7 @@ OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
 }
 
 OrloResult ORLO_CALL OrloPropsetIsDamaged(OrloPropset set, uint32_t* isDamaged) {
-    return GuardedCall([&] {
-        RequireNotNull(isDamaged, "the result") = 0;
-        *isDamaged = RequireSet(set)->IsDamaged();
-    });
+    return GuardedAnswer(isDamaged, "the result", [&] { return RequireSet(set)->IsDamaged(); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, OrloFinding* finding, char* buffer,
@@ -123,10 +117,8 @@ OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, Orlo
 }
 
 OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count) {
-    return GuardedCall([&] {
-        RequireNotNull(count, "the count") = 0;
-        *count = static_cast<uint32_t>(RequireSet(set)->image.sections.size());
-    });
+    return GuardedAnswer(count, "the count",
+                         [&] { return static_cast<uint32_t>(RequireSet(set)->image.sections.size()); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetSection(OrloPropset set, uint32_t index, OrloSection* section) {

@@ -106,28 +106,24 @@ void Save(OpenSet& set, const Bytes& bytes, const std::filesystem::path& path, c
 } // namespace
 
 OrloResult ORLO_CALL OrloPropsetOpenMemory(const void* data, size_t size, OrloPropset* set) {
-    return GuardedCall([&] {
-        RequireNotNull(set, "the handle") = nullptr;
-        *set = Open(&RequireNotNull(static_cast<const uint8_t*>(data), "the data"), size);
-    });
+    return GuardedAnswer(set, "the handle",
+                         [&] { return Open(&RequireNotNull(static_cast<const uint8_t*>(data), "the data"), size); });
 }
 
 OrloResult ORLO_CALL OrloPropsetOpenStream(IStream* stream, OrloPropset* set) {
-    return GuardedCall([&] {
-        RequireNotNull(set, "the handle") = nullptr;
+    return GuardedAnswer(set, "the handle", [&] {
         const Bytes bytes = ReadToEnd(RequireNotNull(stream, "the stream"));
-        *set = Open(bytes.data(), bytes.size());
+        return Open(bytes.data(), bytes.size());
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName, OrloPropset* set) {
-    return GuardedCall([&] {
-        RequireNotNull(set, "the handle") = nullptr;
+    return GuardedAnswer(set, "the handle", [&] {
         const std::string stream = StreamName(streamName);
         Bytes bytes = ReadStream(&RequireNotNull(path, "the path"), stream);
         const uint8_t* data = bytes.data();
         const size_t size = bytes.size();
-        *set = Open(data, size, Origin{path, stream, std::move(bytes)});
+        return Open(data, size, Origin{path, stream, std::move(bytes)});
     });
 }
 

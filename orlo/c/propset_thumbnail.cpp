@@ -118,11 +118,10 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
 
 OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width, uint32_t* height,
                                                    HBITMAP__** bitmap) {
-    return GuardedCall([&] {
-        RequireNotNull(bitmap, "the bitmap") = nullptr;
+    return GuardedAnswer(bitmap, "the bitmap", [&] {
         const Bytes value = RequireThumbnail(set);
         const SIZE size =
             RequestedSize(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
-        *bitmap = Render(value, size).bitmap.release();
+        return Render(value, size).bitmap.release();
     });
 }

@@ -2,9 +2,7 @@
 
 #include <propidl.h>
 
-#include <algorithm>
 #include <cmath>
-#include <initializer_list>
 
 #include "orlo/c/guarded_call.h"
 #include "orlo/c/propset.h"
@@ -92,21 +90,16 @@ void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& va
     StoreBytes(open->image, format, id, value.type, std::move(*bytes));
 }
 
-bool Contains(std::initializer_list<uint32_t> types, uint32_t type) {
-    return std::find(types.begin(), types.end(), type) != types.end();
-}
-
 Value IntegerValue(uint32_t type, int64_t number) {
     if (type == VT_BOOL) {
         if (number != 0 && number != 1) ThrowError(kOrloWrongType, "a Boolean must be 0 or 1");
         return {type, number == 1, {}};
     }
-    if (Contains({VT_UI1, VT_UI2, VT_UI4, VT_UINT, VT_UI8, VT_FILETIME}, type)) {
+    if (IsUnsignedType(type)) {
         if (number < 0) ThrowError(kOrloWrongType, "the type is unsigned and the number is negative");
         return {type, static_cast<uint64_t>(number), {}};
     }
-    if (!Contains({VT_I1, VT_I2, VT_I4, VT_INT, VT_I8, VT_CY, VT_ERROR}, type))
-        ThrowError(kOrloWrongType, "not an integer type");
+    if (!IsSignedType(type)) ThrowError(kOrloWrongType, "not an integer type");
     return {type, number, {}};
 }
 
@@ -137,17 +130,11 @@ void StoreList(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t ty
 } // namespace
 
 OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id, int64_t* value) {
-    return GuardedCall([&] {
-        RequireNotNull(value, "the value") = 0;
-        *value = IntegerOf(ValueOf(set, format, id));
-    });
+    return GuardedAnswer(value, "the value", [&] { return IntegerOf(ValueOf(set, format, id)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id, double* value) {
-    return GuardedCall([&] {
-        RequireNotNull(value, "the value") = 0;
-        *value = RealOf(ValueOf(set, format, id));
-    });
+    return GuardedAnswer(value, "the value", [&] { return RealOf(ValueOf(set, format, id)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
@@ -200,34 +187,23 @@ OrloResult ORLO_CALL OrloPropsetSetTexts(OrloPropset set, const OrloGuid* format
 }
 
 OrloResult ORLO_CALL OrloPropsetCountItems(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t* count) {
-    return GuardedCall([&] {
-        RequireNotNull(count, "the count") = 0;
-        *count = static_cast<uint32_t>(ItemsOf(ValueOf(set, format, id)).size());
-    });
+    return GuardedAnswer(count, "the count",
+                         [&] { return static_cast<uint32_t>(ItemsOf(ValueOf(set, format, id)).size()); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemType(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
                                             uint32_t* type) {
-    return GuardedCall([&] {
-        RequireNotNull(type, "the type") = 0;
-        *type = ItemOf(ValueOf(set, format, id), index).type;
-    });
+    return GuardedAnswer(type, "the type", [&] { return ItemOf(ValueOf(set, format, id), index).type; });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemInteger(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
                                                int64_t* value) {
-    return GuardedCall([&] {
-        RequireNotNull(value, "the value") = 0;
-        *value = IntegerOf(ItemOf(ValueOf(set, format, id), index));
-    });
+    return GuardedAnswer(value, "the value", [&] { return IntegerOf(ItemOf(ValueOf(set, format, id), index)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
                                             double* value) {
-    return GuardedCall([&] {
-        RequireNotNull(value, "the value") = 0;
-        *value = RealOf(ItemOf(ValueOf(set, format, id), index));
-    });
+    return GuardedAnswer(value, "the value", [&] { return RealOf(ItemOf(ValueOf(set, format, id), index)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
@@ -290,12 +266,11 @@ OrloResult ORLO_CALL OrloPropsetGetNameAt(OrloPropset set, uint32_t section, uin
 }
 
 OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name, uint32_t* id) {
-    return GuardedCall([&] {
-        RequireNotNull(id, "the identifier") = 0;
+    return GuardedAnswer(id, "the identifier", [&] {
         const auto open = RequireSet(set);
         const DictionaryEntry* entry = FindName(RequireSection(open->image, format), &RequireNotNull(name, "the name"));
         if (entry == nullptr) ThrowError(kOrloNotFound, "no property has that name");
-        *id = entry->id;
+        return entry->id;
     });
 }
 

@@ -1,4 +1,4 @@
-// SheetRecord, and the filling of the controls of all sheets of a thread.
+// SheetRecord, OrloRunSheet, and the filling of the controls of all sheets of a thread.
 
 #include "orlo/c/sheet_record.h"
 
@@ -112,3 +112,10 @@ std::unique_ptr<CGraphicPropertySheet> SheetRecord::NewSheet() {
 }
 
 } // namespace orlo
+
+OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code) {
+    return orlo::GuardedAnswer(code, "code", [=] {
+        orlo::SheetRecord record(sheet);
+        return static_cast<int32_t>(record.NewSheet()->DoModal());
+    });
+}

@@ -124,12 +124,11 @@ OrloResult CallWindow(OrloSheetHandle handle, Work work) {
 } // namespace
 
 OrloResult ORLO_CALL OrloOpenSheet(const OrloSheet* sheet, OrloSheetHandle* handle) {
-    return orlo::GuardedCall([&] {
-        orlo::RequireNotNull(handle, "handle") = nullptr;
+    return orlo::GuardedAnswer(handle, "handle", [&] {
         thread_local uintptr_t last = 0;
         auto window = std::make_unique<SheetWindow>(sheet);
         WindowsOfThread()[++last] = std::move(window);
-        *handle = reinterpret_cast<OrloSheetHandle>(last);
+        return reinterpret_cast<OrloSheetHandle>(last);
     });
 }
 
@@ -149,10 +148,7 @@ int32_t ORLO_CALL OrloSheetTakesMessage(MSG* message) {
 }
 
 OrloResult ORLO_CALL OrloSheetGetWindow(OrloSheetHandle handle, HWND* window) {
-    return orlo::GuardedCall([&] {
-        orlo::RequireNotNull(window, "window") = nullptr;
-        *window = Find(handle)->second->m_hWnd;
-    });
+    return orlo::GuardedAnswer(window, "window", [=] { return Find(handle)->second->m_hWnd; });
 }
 
 OrloResult ORLO_CALL OrloSheetFollow(OrloSheetHandle handle, GraphicStruct* selection) {

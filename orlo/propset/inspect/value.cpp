@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <initializer_list>
 
 #include "orlo/propset/code_page.h"
 #include "orlo/propset/image_writer.h"
@@ -54,12 +55,8 @@ bool DecodeClipboard(std::string_view bytes, Value& value) {
     return true;
 }
 
-constexpr uint32_t kSigned[] = {VT_I1, VT_I2, VT_I4, VT_INT, VT_ERROR, VT_I8, VT_CY};
-constexpr uint32_t kUnsigned[] = {VT_UI1, VT_UI2, VT_UI4, VT_UINT, VT_UI8, VT_FILETIME};
-
-template <size_t count>
-bool IsOneOf(const uint32_t (&types)[count], uint32_t type) {
-    return std::find(types, types + count, type) != types + count;
+bool IsOneOf(std::initializer_list<uint32_t> types, uint32_t type) {
+    return std::find(types.begin(), types.end(), type) != types.end();
 }
 
 uint64_t LoadWhole(std::string_view bytes) {
@@ -80,9 +77,9 @@ bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, 
     if (type == VT_CF) return DecodeClipboard(bytes, value);
     if (type == VT_BOOL)
         value.data = LoadWhole(bytes) != 0;
-    else if (IsOneOf(kSigned, type))
+    else if (IsSignedType(type))
         value.data = LoadSigned(bytes);
-    else if (IsOneOf(kUnsigned, type))
+    else if (IsUnsignedType(type))
         value.data = LoadWhole(bytes);
     else if (type == VT_R4)
         value.data = double{Load<float>(bytes)};
@@ -190,6 +187,14 @@ bool EncodeElement(const Value& value, uint16_t codePage, ImageWriter& image) {
 }
 
 } // namespace
+
+bool IsSignedType(uint32_t type) {
+    return IsOneOf({VT_I1, VT_I2, VT_I4, VT_INT, VT_ERROR, VT_I8, VT_CY}, type);
+}
+
+bool IsUnsignedType(uint32_t type) {
+    return IsOneOf({VT_UI1, VT_UI2, VT_UI4, VT_UINT, VT_UI8, VT_FILETIME}, type);
+}
 
 bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std::optional<uint16_t> codePage, Value& value) {
     const std::optional<Extent> extent = MeasureValue(type, bytes, size);

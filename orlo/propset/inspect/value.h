@@ -48,6 +48,10 @@ ORLO_API bool DecodeValue(uint32_t type, const uint8_t* bytes, size_t size, std:
 // or the code page cannot represent a text. Texts include their length and NUL; elements of a vector are packed.
 ORLO_API std::optional<Bytes> EncodeValue(const Value& value, std::optional<uint16_t> codePage);
 
+// Returns whether the values of a type are stored as int64_t or as uint64_t.
+bool IsSignedType(uint32_t type);
+bool IsUnsignedType(uint32_t type);
+
 // Returns "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}".
 ORLO_API std::string GuidText(const GUID& guid);
 // Returns "VT_LPSTR", "VT_VECTOR | VT_I4", or "type 0x0019".
