@@ -2,19 +2,6 @@
 
 #include "demo/automation/control_text.h"
 
-namespace {
-
-std::string Item(HWND window, UINT length, UINT get, int index) {
-    const auto size = ::SendMessageA(window, length, static_cast<WPARAM>(index), 0);
-    if (size < 0) return "";
-    std::string text(static_cast<size_t>(size) + 1, '\0');
-    ::SendMessageA(window, get, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&text[0]));
-    text.resize(static_cast<size_t>(size));
-    return text;
-}
-
-} // namespace
-
 std::string WindowText(HWND window) {
     std::string text(static_cast<size_t>(::GetWindowTextLengthA(window)) + 1, '\0');
     text.resize(static_cast<size_t>(::GetWindowTextA(window, &text[0], static_cast<int>(text.size()))));
@@ -22,9 +9,10 @@ std::string WindowText(HWND window) {
 }
 
 std::string ComboItem(HWND combo, int index) {
-    return Item(combo, CB_GETLBTEXTLEN, CB_GETLBTEXT, index);
-}
-
-std::string ListItem(HWND list, int index) {
-    return Item(list, LB_GETTEXTLEN, LB_GETTEXT, index);
+    const auto size = ::SendMessageA(combo, CB_GETLBTEXTLEN, static_cast<WPARAM>(index), 0);
+    if (size < 0) return "";
+    std::string text(static_cast<size_t>(size) + 1, '\0');
+    ::SendMessageA(combo, CB_GETLBTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&text[0]));
+    text.resize(static_cast<size_t>(size));
+    return text;
 }

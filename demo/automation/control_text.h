@@ -1,4 +1,4 @@
-// Reads the texts of windows and of the items of combo boxes and lists, without a limit on their length.
+// Reads the texts of windows and of the items of combo boxes, without a limit on their length.
 #pragma once
 
 #include <windows.h>
@@ -8,4 +8,3 @@
 std::string WindowText(HWND window);
 // Returns an empty string if there is no such item.
 std::string ComboItem(HWND combo, int index);
-std::string ListItem(HWND list, int index);

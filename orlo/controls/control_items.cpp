@@ -5,19 +5,19 @@
 #include <cstring>
 
 struct ControlItems::Messages {
-    UINT count, getSelection, setSelection, reset, add, insert, findExact, findPrefix, selectPrefix, length, text,
-        rowHeight, remove;
+    UINT count, getSelection, setSelection, reset, add, insert, findExact, selectPrefix, length, text, rowHeight,
+        remove;
     LONG hasStrings; // style
 };
 
 const ControlItems::Messages ControlItems::kCombo = {
-    CB_GETCOUNT,     CB_GETCURSEL,       CB_SETCURSEL,    CB_RESETCONTENT, CB_ADDSTRING,
-    CB_INSERTSTRING, CB_FINDSTRINGEXACT, CB_FINDSTRING,   CB_SELECTSTRING, CB_GETLBTEXTLEN,
-    CB_GETLBTEXT,    CB_SETITEMHEIGHT,   CB_DELETESTRING, CBS_HASSTRINGS};
-const ControlItems::Messages ControlItems::kList = {
-    LB_GETCOUNT,     LB_GETCURSEL,       LB_SETCURSEL,    LB_RESETCONTENT, LB_ADDSTRING,
-    LB_INSERTSTRING, LB_FINDSTRINGEXACT, LB_FINDSTRING,   LB_SELECTSTRING, LB_GETTEXTLEN,
-    LB_GETTEXT,      LB_SETITEMHEIGHT,   LB_DELETESTRING, LBS_HASSTRINGS};
+    CB_GETCOUNT,      CB_GETCURSEL,       CB_SETCURSEL,    CB_RESETCONTENT, CB_ADDSTRING,
+    CB_INSERTSTRING,  CB_FINDSTRINGEXACT, CB_SELECTSTRING, CB_GETLBTEXTLEN, CB_GETLBTEXT,
+    CB_SETITEMHEIGHT, CB_DELETESTRING,    CBS_HASSTRINGS};
+const ControlItems::Messages ControlItems::kList = {LB_GETCOUNT,   LB_GETCURSEL,    LB_SETCURSEL,       LB_RESETCONTENT,
+                                                    LB_ADDSTRING,  LB_INSERTSTRING, LB_FINDSTRINGEXACT, LB_SELECTSTRING,
+                                                    LB_GETTEXTLEN, LB_GETTEXT,      LB_SETITEMHEIGHT,   LB_DELETESTRING,
+                                                    LBS_HASSTRINGS};
 
 ControlItems ControlItems::OfCombo(HWND window) {
     return {window, kCombo};
@@ -56,9 +56,6 @@ int ControlItems::Insert(int index, const char* text) const {
 
 int ControlItems::FindExact(const char* text) const {
     return SendText(messages_->findExact, -1, text);
-}
-int ControlItems::FindPrefix(const char* prefix) const {
-    return SendText(messages_->findPrefix, -1, prefix);
 }
 
 bool ControlItems::SelectPrefix(int from, const char* prefix) const {

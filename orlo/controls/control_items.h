@@ -24,7 +24,6 @@ public:
 
     // Returns the index of the item with that text, ignoring case, or -1.
     int FindExact(const char* text) const;
-    int FindPrefix(const char* prefix) const;
     // Returns the index of the item with that text, ignoring case. If there is none, adds it first, with add(text) if
     // given.
     int FindOrAdd(const char* text) const {

@@ -6,10 +6,10 @@
 
 #include "orlo/win/encoded_text.h"
 #include "orlo/win/gdi.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 
-constexpr int kPointsPerInch = 72;
 constexpr WORD kOrdinal = 0xFFFF; // marks a number in place of a name
 constexpr size_t kFaceSize = 128;
 
@@ -98,7 +98,7 @@ DialogTemplate ReadTemplate(const void* resource) {
 CSize BaseUnits(const DialogFont& font) {
     const orlo::OwnedDC screen(::CreateCompatibleDC(nullptr));
     LOGFONTA description = {};
-    description.lfHeight = -::MulDiv(font.points, ::GetDeviceCaps(screen.get(), LOGPIXELSY), kPointsPerInch);
+    description.lfHeight = FontHeight(screen.get(), font.points);
     description.lfWeight = FW_BOLD;
     description.lfCharSet = DEFAULT_CHARSET;
     lstrcpynA(description.lfFaceName, font.face, LF_FACESIZE);
@@ -110,14 +110,8 @@ CSize BaseUnits(const DialogFont& font) {
     const orlo::SelectedObject selected(screen.get(), created.m_hObject);
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen.get(), &metrics);
-    int width = metrics.tmAveCharWidth;
-    if (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) { // the bit is set for fonts of variable pitch
-        static const char letters[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
-        SIZE extent;
-        ::GetTextExtentPointA(screen.get(), letters, static_cast<int>(std::strlen(letters)), &extent);
-        width = (extent.cx / 26 + 1) / 2;
-    }
-    return CSize(width, metrics.tmHeight);
+    const bool isVariable = (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) != 0; // the name of the bit is wrong
+    return CSize(isVariable ? AverageLetterWidth(screen.get()) : metrics.tmAveCharWidth, metrics.tmHeight);
 }
 
 } // namespace

@@ -6,9 +6,8 @@
 #include <afxext.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <cstring>
 
+#include "orlo/win/child_windows.h"
 #include "orlo/win/gdi.h"
 
 namespace {
@@ -24,27 +23,16 @@ CRect WindowRect(HWND window) {
     return rect;
 }
 
-// Returns the width in pixels that a button's string specifies, else the standard width.
-int ButtonWidth(unsigned int nIDText, HWND page, int standard) {
-    char text[256];
-    if (AfxLoadString(nIDText, text, sizeof text) == 0) return standard;
-    const char* feed = std::strchr(text, '\n');
-    if (feed == nullptr) return standard;
-    CRect rect(0, 0, std::atoi(feed + 1), 0);
-    ::MapDialogRect(page, &rect);
-    return rect.right - rect.left;
-}
-
 } // namespace
 
 int CGraphicPropertySheet::ButtonColumnWidth(int (&widths)[3]) {
     int widest = 0;
     const CPropertyPage* page = GetActivePage();
     for (int i = 0; i < 3; ++i) {
-        widths[i] = ButtonWidth(kButtonTexts + i, page->m_hWnd, m_sizeButton.cx);
-        const HWND button = ::GetDlgItem(m_hWnd, kButtonIds[i]);
-        if (button != nullptr && (::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE))
-            widest = std::max(widest, widths[i]);
+        char text[256] = "";
+        AfxLoadString(kButtonTexts + i, text, sizeof text);
+        widths[i] = ButtonWidth(page->m_hWnd, text, m_sizeButton.cx);
+        if (IsShown(::GetDlgItem(m_hWnd, kButtonIds[i]))) widest = std::max(widest, widths[i]);
     }
     return widest;
 }
@@ -52,7 +40,7 @@ int CGraphicPropertySheet::ButtonColumnWidth(int (&widths)[3]) {
 void CGraphicPropertySheet::PlaceButtons(int left, int top, const int (&widths)[3]) {
     for (int i = 0; i < 3; ++i) {
         const HWND button = ::GetDlgItem(m_hWnd, kButtonIds[i]);
-        if (button == nullptr || !(::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE)) continue;
+        if (!IsShown(button)) continue;
         ::MoveWindow(button, left, top, widths[i], m_sizeButton.cy, TRUE);
         top += m_cxButtonGap + m_sizeButton.cy;
     }

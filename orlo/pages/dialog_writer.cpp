@@ -7,13 +7,13 @@
 #include <utility>
 
 #include "orlo/win/encoded_text.h"
+#include "orlo/win/screen_scale.h"
 
 namespace {
 
 constexpr char kFace[] = "MS Sans Serif";
-constexpr int kPoints = 8, kPointsPerInch = 72;
+constexpr int kPoints = 8;
 constexpr DWORD kPageStyle = WS_CHILD | WS_DISABLED | WS_CAPTION | DS_SETFONT;
-constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
 class Writer {
 public:
@@ -39,9 +39,8 @@ private:
 };
 
 HFONT CreateDialogFont(HDC screen) {
-    const int height = -::MulDiv(kPoints, ::GetDeviceCaps(screen, LOGPIXELSY), kPointsPerInch);
-    return ::CreateFontA(height, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
-                         CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH, kFace);
+    return ::CreateFontA(FontHeight(screen, kPoints), 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, PROOF_QUALITY, DEFAULT_PITCH, kFace);
 }
 
 } // namespace
@@ -78,9 +77,7 @@ void SetTemplateDirection(std::vector<BYTE>& dialog, bool fromRightToLeft) {
 DialogFont::DialogFont()
     : m_screen(::CreateCompatibleDC(nullptr)), m_font(CreateDialogFont(m_screen.get())),
       m_selected(m_screen.get(), m_font.get()) {
-    SIZE letters = {};
-    ::GetTextExtentPoint32A(m_screen.get(), kLetters, static_cast<int>(std::strlen(kLetters)), &letters);
-    m_unitsWidth = std::max<int>((letters.cx / 26 + 1) / 2, 1); // same formula as the system's for dialog units
+    m_unitsWidth = std::max(AverageLetterWidth(m_screen.get()), 1);
 }
 
 int DialogFont::Width(const std::string& text) const {

@@ -1,8 +1,18 @@
-// ChildWindows.
+// ChildWindows and ButtonWidth.
 
 #include "orlo/win/child_windows.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+int ButtonWidth(HWND page, const char* text, int standard) {
+    const char* feed = std::strchr(text, '\n');
+    if (feed == nullptr) return standard;
+    RECT width = {0, 0, std::atoi(feed + 1), 0};
+    ::MapDialogRect(page, &width);
+    return width.right - width.left;
+}
 
 bool ChildWindows::AreThoseOf(HWND window) const {
     if (m_parent != window) return false;

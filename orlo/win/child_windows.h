@@ -1,4 +1,4 @@
-// Child windows: iteration, a cached list, class and place.
+// Child windows: iteration, a cached list, class, place and size.
 #pragma once
 
 #include <windows.h>
@@ -39,6 +39,14 @@ inline RECT PlaceIn(HWND parent, HWND window) {
     ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
     return rect;
 }
+
+// Returns false for null too.
+inline bool IsShown(HWND window) {
+    return window != nullptr && (::GetWindowLongA(window, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+// Returns the width in pixels of a button whose text is "caption\nwidth", in dialog units of the page; else `standard`.
+int ButtonWidth(HWND page, const char* text, int standard);
 
 // The child windows of a window, cached: listing them queries the children of each one, and searching for one lists
 // all; a dialog does both for every field whenever it is shown.

@@ -1,4 +1,4 @@
-// Conversion of sizes from 96 dpi to the resolution of the screen.
+// Sizes at the resolution of the screen and in the font of a dialog.
 
 #include "orlo/win/screen_scale.h"
 
@@ -7,4 +7,16 @@
 int ScreenPixels(int at96) {
     const orlo::OwnedDC screen(::CreateCompatibleDC(nullptr));
     return screen ? ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96) : at96;
+}
+
+int FontHeight(HDC dc, int points) {
+    constexpr int kPointsPerInch = 72;
+    return -::MulDiv(points, ::GetDeviceCaps(dc, LOGPIXELSY), kPointsPerInch);
+}
+
+int AverageLetterWidth(HDC dc) {
+    static constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    SIZE letters = {};
+    ::GetTextExtentPoint32A(dc, kLetters, sizeof kLetters - 1, &letters);
+    return (letters.cx / 26 + 1) / 2;
 }

@@ -5,7 +5,6 @@
 #include <afxext.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 
 #include "orlo/resources/library_text.h"
@@ -27,10 +26,6 @@ struct Button {
 
 constexpr Button kButtons[] = {{kBackId, IDS_WIZARD_BACK}, {kNextId, IDS_WIZARD_NEXT}, {IDCANCEL, IDS_WIZARD_CANCEL}};
 constexpr int kButtonCount = static_cast<int>(std::size(kButtons));
-
-bool IsShown(HWND button) {
-    return button != nullptr && (::GetWindowLongA(button, GWL_STYLE) & WS_VISIBLE) != 0;
-}
 
 bool IsPushButton(HWND control) {
     constexpr LRESULT kPushButton = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON;
@@ -88,16 +83,6 @@ CPoint PlaceOnScreen(HWND window, CPoint place, CSize size) {
                   std::max(work.top, std::min(place.y, work.bottom - size.cy)));
 }
 
-// Returns the width in pixels that a button's string specifies, else the standard width.
-int ButtonWidth(HWND page, UINT text, int standard) {
-    char string[256];
-    const char* feed = LoadLibraryText(text, string, sizeof string) != 0 ? std::strchr(string, '\n') : nullptr;
-    if (feed == nullptr) return standard;
-    CRect width(0, 0, std::atoi(feed + 1), 0);
-    ::MapDialogRect(page, &width);
-    return width.right;
-}
-
 // Leaves only the commands Move and Close.
 void TrimSystemMenu(HWND sheet) {
     const HMENU menu = ::GetSystemMenu(sheet, FALSE);
@@ -125,7 +110,7 @@ struct Row {
 Row MeasureRow(HWND sheet, HWND page, int standardWidth, int gap) {
     Row row;
     for (int i = 0; i < kButtonCount; ++i) {
-        row.widths[i] = ButtonWidth(page, kButtons[i].text, standardWidth);
+        row.widths[i] = ButtonWidth(page, LibraryText(kButtons[i].text), standardWidth);
         if (!IsShown(::GetDlgItem(sheet, kButtons[i].id))) continue;
         row.sum += row.widths[i];
         if (kButtons[i].id == IDCANCEL) row.gap = gap;
