@@ -13,8 +13,6 @@ IMPLEMENT_DYNAMIC(CDemoApp, CWinApp)
 
 CDemoApp::CDemoApp(const DemoOptions& options) : CWinApp("Orlo Demo"), m_options(options) {}
 
-CDemoApp::~CDemoApp() = default;
-
 std::string ProgramFolder() {
     char path[MAX_PATH] = "";
     ::GetModuleFileNameA(nullptr, path, sizeof path);

@@ -14,7 +14,6 @@ class CDemoApp : public CWinApp {
     DECLARE_DYNAMIC(CDemoApp)
 public:
     explicit CDemoApp(const DemoOptions& options);
-    ~CDemoApp() override;
 
     BOOL InitInstance() override;
     int Run() override;

@@ -6,19 +6,25 @@
 
 #include "demo/viewer/counted.h"
 #include "demo/viewer/file_name.h"
+#include "demo/viewer/value_counts.h"
 #include "drawcore/application.h"
 #include "drawcore/dxf.h"
 #include "drawcore/layer.h"
 #include "drawcore/undo.h"
-#include "orlo/host/property.h"
 #include "orlo/host/viewport.h"
 #include "orlo/host/walk.h"
 
 namespace {
 
-bool IsSelectable(DrawingStruct* drawing, GraphicStruct* graphic) {
-    const uint16_t layer = orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
-    return layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer));
+template <class Range>
+std::vector<GraphicStruct*> SelectableOf(DrawingStruct* drawing, const Range& graphics) {
+    std::vector<GraphicStruct*> selectable;
+    for (GraphicStruct* graphic : graphics) {
+        const uint16_t layer = LayerOf(graphic);
+        if (layer == 0 || (::LayerGetVisible(drawing, layer) && !::LayerGetReadOnly(drawing, layer)))
+            selectable.push_back(graphic);
+    }
+    return selectable;
 }
 
 // State of the listener while a drawing is opened or saved.
@@ -58,7 +64,7 @@ Document::Document(const std::string& path, OwnedDrawing drawing)
     : m_path(path), m_drawing(std::move(drawing)), m_root(::DrawingGetRoot(Drawing())), m_styles(Drawing()) {}
 
 std::string Document::Name() const {
-    return m_path.substr(m_path.find_last_of("\\/") + 1);
+    return WithoutFolder(m_path);
 }
 
 bool Document::IsModified() const {
@@ -85,17 +91,11 @@ bool Document::Save(const std::string& path, bool overChanged, const Progress& p
 }
 
 std::vector<GraphicStruct*> Document::Selectable() const {
-    std::vector<GraphicStruct*> graphics;
-    for (GraphicStruct* graphic : orlo::host::Members(m_root))
-        if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
-    return graphics;
+    return SelectableOf(Drawing(), orlo::host::Members(m_root));
 }
 
 std::vector<GraphicStruct*> Document::CurrentlySelectable() const {
-    std::vector<GraphicStruct*> graphics;
-    for (GraphicStruct* graphic : m_selection.Members())
-        if (IsSelectable(Drawing(), graphic)) graphics.push_back(graphic);
-    return graphics;
+    return SelectableOf(Drawing(), m_selection.Members());
 }
 
 GraphicStruct* Document::Next(bool forward) const {

@@ -9,8 +9,6 @@
 // The commands of a submenu, one for each text in order.
 struct CommandRange {
     UINT first, last;
-
-    bool Contains(UINT command) const { return first <= command && command <= last; }
 };
 
 // Replaces the items. Ampersands in texts are displayed. Texts beyond the range are omitted; without texts there is a

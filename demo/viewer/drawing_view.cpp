@@ -26,8 +26,6 @@ Selection::Way WayOf(UINT mouseFlags) {
 
 } // namespace
 
-DrawingViewClient::~DrawingViewClient() = default;
-
 IMPLEMENT_DYNAMIC(CDrawingView, CWnd)
 
 BEGIN_MESSAGE_MAP(CDrawingView, CWnd)
@@ -49,8 +47,6 @@ END_MESSAGE_MAP()
 CDrawingView::CDrawingView(DrawingViewClient& client) : m_client(client) {
     SetBackground(kDarkBackground);
 }
-
-CDrawingView::~CDrawingView() = default;
 
 BOOL CDrawingView::Create(CWnd* parent, UINT id) {
     return CWnd::Create(nullptr, "Drawing", WS_CHILD | WS_VISIBLE, CRect(), parent, id);

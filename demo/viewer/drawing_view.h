@@ -15,7 +15,7 @@
 
 class DrawingViewClient {
 public:
-    virtual ~DrawingViewClient();
+    virtual ~DrawingViewClient() = default;
     // Returns whether the selection may change; called before each change.
     virtual bool MayChangeSelection() = 0;
     // Called before the first of several changes of graphics.
@@ -32,7 +32,6 @@ public:
     static constexpr COLORREF kLightBackground = RGB(255, 255, 255);
 
     explicit CDrawingView(DrawingViewClient& client);
-    ~CDrawingView() override;
 
     BOOL Create(CWnd* parent, UINT id);
     // Shows the whole document, which must outlive the view or be replaced first. Null shows nothing.

@@ -102,6 +102,14 @@ std::string FaultOf(HWND window, DrawingStruct* drawing) {
     return item >= 0 ? "" : std::string(field->name) + ": \"" + text + "\" is not a length";
 }
 
+TOOLINFOA ToolOf(HWND window) {
+    TOOLINFOA tool = {};
+    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    tool.uFlags = TTF_IDISHWND;
+    tool.uId = reinterpret_cast<UINT_PTR>(window);
+    return tool;
+}
+
 } // namespace
 
 FieldHints::~FieldHints() {
@@ -131,23 +139,17 @@ void FieldHints::ShowFocused(const Document* document) {
 }
 
 void FieldHints::Renew() {
-    TOOLINFOA tool = {};
-    tool.cbSize = TTTOOLINFOA_V1_SIZE;
-    tool.uFlags = TTF_IDISHWND;
-    tool.uId = reinterpret_cast<UINT_PTR>(std::exchange(m_hovered, nullptr));
+    TOOLINFOA tool = ToolOf(std::exchange(m_hovered, nullptr));
     ::SendMessageA(m_tip, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 // The tooltip is created for one window at a time, and its text updated each time the pointer enters.
 void FieldHints::ShowTip(const MSG& message, const Document& document) {
-    TOOLINFOA tool = {};
-    tool.cbSize = TTTOOLINFOA_V1_SIZE;
-    tool.uFlags = TTF_IDISHWND;
     if (message.hwnd != m_hovered) {
         Renew();
         m_hovered = message.hwnd;
         std::string hint = HintFor(m_hovered, document);
-        tool.uId = reinterpret_cast<UINT_PTR>(m_hovered);
+        TOOLINFOA tool = ToolOf(m_hovered);
         tool.lpszText = hint.data();
         if (!hint.empty()) ::SendMessageA(m_tip, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
     }

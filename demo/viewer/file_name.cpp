@@ -12,6 +12,10 @@ std::wstring Wide(const std::string& utf8) {
     return orlo::Widen(utf8, CP_UTF8);
 }
 
+std::string WithoutFolder(const std::string& path) {
+    return path.substr(path.find_last_of("\\/") + 1);
+}
+
 std::string Utf8FromSystem(const char* text) {
     return orlo::Narrow(orlo::Widen(text, CP_ACP), CP_UTF8);
 }

@@ -7,6 +7,9 @@
 std::string Utf8(const wchar_t* text);
 std::wstring Wide(const std::string& utf8);
 
+// Returns the name without the folder.
+std::string WithoutFolder(const std::string& path);
+
 std::string Utf8FromSystem(const char* text);
 // Characters that the code page cannot represent become question marks.
 std::string SystemText(const std::string& utf8);

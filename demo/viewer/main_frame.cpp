@@ -128,8 +128,6 @@ CMainFrame::CMainFrame()
       m_splitter([this](int left, bool done) { SizePane(left, done); }),
       m_paneKeys(::LoadAcceleratorsA(AfxGetInstanceHandle(), MAKEINTRESOURCEA(IDR_PANE))) {}
 
-CMainFrame::~CMainFrame() = default;
-
 BOOL CMainFrame::Create() {
     return LoadFrame(IDR_MAINFRAME);
 }
@@ -213,8 +211,7 @@ LRESULT CMainFrame::OnGetMinMaxInfo(WPARAM, LPARAM lParam) {
 
 void CMainFrame::ShowSettings() {
     m_view.ShowLineWeights(Settings::Number(kSettingLineWeights).value_or(1) != 0);
-    const bool light = Settings::Number(kSettingLightBackground).value_or(IsSystemLight());
-    SetBackground(light ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground);
+    SetBackground(Settings::Number(kSettingLightBackground).value_or(IsSystemLight()) != 0);
     m_paneWidth = Settings::Number(kSettingPaneWidth).value_or(0);
     ShowDecimalMark();
     if (Settings::Number(kSettingPaneOpen).value_or(0)) m_pane.Open();
@@ -269,8 +266,7 @@ void CMainFrame::ShowDecimalMark() {
 }
 
 LRESULT CMainFrame::OnSettingChange(WPARAM, LPARAM) {
-    if (!Settings::Number(kSettingLightBackground))
-        SetBackground(IsSystemLight() ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground);
+    if (!Settings::Number(kSettingLightBackground)) SetBackground(IsSystemLight());
     return Default();
 }
 
@@ -478,11 +474,12 @@ void CMainFrame::OnLightBackground() {
 }
 
 void CMainFrame::ChooseBackground(bool light) {
-    SetBackground(light ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground);
+    SetBackground(light);
     Settings::SetNumber(kSettingLightBackground, light);
 }
 
-void CMainFrame::SetBackground(COLORREF color) {
+void CMainFrame::SetBackground(bool light) {
+    const COLORREF color = light ? CDrawingView::kLightBackground : CDrawingView::kDarkBackground;
     m_view.SetBackground(color);
     ::TableSetIntVar(::AppGetCurrentApp()->pVariables, kVarPreviewBackground, static_cast<int>(color));
 }

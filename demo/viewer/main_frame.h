@@ -20,7 +20,6 @@ class CMainFrame : public CFrameWnd, private DrawingViewClient {
     DECLARE_DYNAMIC(CMainFrame)
 public:
     CMainFrame();
-    ~CMainFrame() override;
 
     // Returns false if the window could not be created; the object is then deleted.
     BOOL Create();
@@ -122,7 +121,7 @@ private:
     static int MarkOf(UINT command);
     void ShowDecimalMark();
     void SaveWindowPlace() const;
-    void SetBackground(COLORREF color); // of view and previews
+    void SetBackground(bool light); // of view and previews
     void ChooseBackground(bool light);
     bool OpenMenuByKey(const MSG& message);
     bool IsKeyOfFocus(const MSG& message) const;

@@ -45,7 +45,7 @@ std::vector<std::string> DroppedFiles(HDROP drop) {
 
 bool CMainFrame::Open(const std::string& path) {
     if (!CanCloseDocument()) return false;
-    const std::string name = SystemText(path.substr(path.find_last_of("\\/") + 1));
+    const std::string name = SystemText(WithoutFolder(path));
     try {
         std::unique_ptr<Document> opened;
         {

@@ -13,8 +13,6 @@ CPropertiesPane::Edited::Edited(CWnd* owner, const Document& document)
 
 CPropertiesPane::CPropertiesPane(Applied applied) : m_applied(std::move(applied)) {}
 
-CPropertiesPane::~CPropertiesPane() = default;
-
 void CPropertiesPane::SetDocument(Document* document) {
     if (IsOpen()) OnClose();
     DropSheet();

@@ -18,7 +18,6 @@ public:
     using Applied = std::function<void(int changed)>;
 
     explicit CPropertiesPane(Applied applied);
-    ~CPropertiesPane() override;
 
     // Must be called before the displayed document is deleted; null for none.
     void SetDocument(Document* document);

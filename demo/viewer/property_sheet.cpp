@@ -8,12 +8,12 @@
 #include "demo/viewer/extended_data_page.h"
 #include "demo/viewer/geometry_page.h"
 #include "demo/viewer/settings.h"
+#include "demo/viewer/value_counts.h"
 #include "drawcore/application.h"
 #include "drawcore/regen.h"
 #include "orlo/entry/entry.h"
 #include "orlo/frame/graphic_property_page.h"
 #include "orlo/host/application.h"
-#include "orlo/host/property.h"
 #include "orlo/host/table.h"
 #include "orlo/host/walk.h"
 
@@ -22,7 +22,7 @@ namespace {
 uint16_t SharedLayer(GraphicStruct* set) {
     std::optional<uint16_t> shared;
     for (GraphicStruct* graphic : orlo::host::Members(set)) {
-        const uint16_t layer = orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
+        const uint16_t layer = LayerOf(graphic);
         if (shared && *shared != layer) return 0;
         shared = layer;
     }

@@ -27,10 +27,6 @@ constexpr KindName kKinds[] = {{kKindText, "text"},
                                {kKindInsert, "insertion"},
                                {kKindGroup, "group"}};
 
-uint16_t LayerOf(GraphicStruct* graphic) {
-    return orlo::host::ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
-}
-
 using SimilarityKey = std::tuple<uint32_t, uint16_t, uint32_t>;
 
 SimilarityKey SimilarityKeyOf(GraphicStruct* graphic) {

@@ -14,8 +14,6 @@ END_MESSAGE_MAP()
 
 CSplitter::CSplitter(Dragged dragged) : m_dragged(std::move(dragged)) {}
 
-CSplitter::~CSplitter() = default;
-
 BOOL CSplitter::Create(CWnd* parent, UINT id) {
     const HBRUSH face = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     const LPCSTR windowClass = AfxRegisterWndClass(0, ::LoadCursorA(nullptr, IDC_SIZEWE), face);

@@ -12,7 +12,6 @@ public:
     using Dragged = std::function<void(int left, bool done)>;
 
     explicit CSplitter(Dragged dragged);
-    ~CSplitter() override;
 
     BOOL Create(CWnd* parent, UINT id); // creates it hidden
 

@@ -19,9 +19,6 @@ constexpr char kEllipsis[] = "...";
 
 IMPLEMENT_DYNAMIC(CStatusBar, CStatusBarCtrl)
 
-CStatusBar::CStatusBar() = default;
-CStatusBar::~CStatusBar() = default;
-
 BOOL CStatusBar::Create(CWnd* parent, UINT id) {
     if (!CStatusBarCtrl::Create(WS_CHILD | WS_VISIBLE | SBARS_SIZEGRIP | SBARS_TOOLTIPS, CRect(), parent, id))
         return FALSE;

@@ -16,9 +16,6 @@ struct StatusText {
 class CStatusBar : public CStatusBarCtrl {
     DECLARE_DYNAMIC(CStatusBar)
 public:
-    CStatusBar();
-    ~CStatusBar() override;
-
     BOOL Create(CWnd* parent, UINT id);
     int Height() const;
     // Must be called when the size of the parent has changed.

@@ -2,6 +2,7 @@
 
 #include "demo/viewer/style_commands.h"
 
+#include "demo/viewer/counted.h"
 #include "demo/viewer/document.h"
 #include "demo/viewer/property_sheet.h"
 #include "demo/viewer/style_states.h"
@@ -35,8 +36,8 @@ int EditStyle(CWnd* owner, Document& document, uint16_t style) {
 std::string DeleteStyle(CWnd* owner, Document& document, uint16_t style) {
     const std::string name = Quoted(document, style);
     if (const int uses = document.Styles().Uses(style)) {
-        const std::string text = "The style " + name + " cannot be deleted: " + std::to_string(uses) +
-                                 (uses == 1 ? " graphic uses it." : " graphics use it.");
+        const std::string text = "The style " + name + " cannot be deleted: " + Counted(uses, "graphic") +
+                                 (uses == 1 ? " uses it." : " use it.");
         owner->MessageBox(text.c_str(), "Delete Style", MB_OK | MB_ICONEXCLAMATION);
         return "";
     }
@@ -84,6 +85,5 @@ std::string EditStyles(CWnd* owner, Document& document) {
 
 std::string ApplyStyle(Document& document) {
     const int changed = document.Change([&] { document.Styles().ApplyCurrent(document.Selected().Members()); });
-    return "Style " + Quoted(document, document.Styles().Current()) + " applied to " + std::to_string(changed) +
-           (changed == 1 ? " graphic" : " graphics");
+    return "Style " + Quoted(document, document.Styles().Current()) + " applied to " + Counted(changed, "graphic");
 }

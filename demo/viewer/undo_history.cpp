@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <utility>
 
-UndoableChange::~UndoableChange() = default;
-
 void UndoHistory::Add(Step step) {
     m_done.push_back(std::move(step));
     m_undone.clear();

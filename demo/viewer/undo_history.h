@@ -11,7 +11,7 @@
 // A change that the database does not record.
 class UndoableChange {
 public:
-    virtual ~UndoableChange();
+    virtual ~UndoableChange() = default;
     virtual void Undo() = 0;
     virtual void Redo() = 0;
     virtual std::string Description() const = 0; // Returns text for the status bar, such as "layers".

@@ -34,8 +34,7 @@ std::optional<Value> ValueOf(DrawingStruct* drawing, GraphicStruct* graphic, con
             return Value{*real, property.meaning == PropertyMeaning::Width ? system : 0};
     } else if (const auto whole = ReadProperty<uint32_t>(graphic, property.name)) {
         const bool byLayer = property.meaning == PropertyMeaning::Color && *whole == kColorByLayer;
-        const auto layer = ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
-        return Value{*whole & mask, byLayer ? ::LayerGetColor(drawing, layer) : 0};
+        return Value{*whole & mask, byLayer ? ::LayerGetColor(drawing, LayerOf(graphic)) : 0};
     }
     return std::nullopt;
 }
@@ -64,6 +63,10 @@ std::string ValueText(DrawingStruct* drawing, const char* property, uint32_t val
     char text[256] = "";
     ::PropertyGetValueText(drawing, property, value, text, sizeof text);
     return text;
+}
+
+uint16_t LayerOf(GraphicStruct* graphic) {
+    return ReadProperty<uint16_t>(graphic, kPropLayer).value_or(0);
 }
 
 std::vector<ValueCount> CountValues(DrawingStruct* drawing, const std::vector<GraphicStruct*>& graphics,

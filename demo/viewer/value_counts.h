@@ -12,6 +12,9 @@ std::string PropertyText(GraphicStruct* graphic, const char* property);
 // Returns an integer as the value of a property: the name of a color or of a layer.
 std::string ValueText(DrawingStruct* drawing, const char* property, uint32_t value);
 
+// Returns the layer of a graphic; 0 if it has none.
+uint16_t LayerOf(GraphicStruct* graphic);
+
 // A value and the number of graphics that have it.
 struct ValueCount {
     std::string value;
