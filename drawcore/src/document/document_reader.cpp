@@ -1,6 +1,5 @@
 // Reads the contents of a document and the properties of its entities.
 #include <algorithm>
-#include <charconv>
 #include <cstdlib>
 
 #include "drawcore/src/document/contents.h"
@@ -61,8 +60,8 @@ void DocumentReader::AddEntities(const Block* block, std::vector<EntityRef>& to,
     for (const Entity& entity : entities) {
         if (!block && entity.inPaperSpace != (space == Space::paper)) continue;
         add(entity, nullptr);
-        if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
-            for (const Entity& attribute : (*insert)->attributes)
+        if (const auto* insert = As<Insert>(entity))
+            for (const Entity& attribute : insert->attributes)
                 add(attribute, &entity);
     }
 }
@@ -156,11 +155,7 @@ std::string DocumentReader::Normalized(const EntityRef& entity, std::string_view
 
 std::optional<double> DocumentReader::NumberOf(const EntityRef& entity, std::string_view name,
                                                const std::string& text) const {
-    double number = 0;
-    const auto [stopped, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (EntityTexts::IsName(name))
-        return error == std::errc() && stopped == text.data() + text.size() ? std::optional<double>(number)
-                                                                            : std::nullopt;
+    if (EntityTexts::IsName(name)) return ParseNumber<double>(text);
     Appearance appearance = AppearanceOf(*document_, *entity.entity_);
     try {
         texts_->Set(name, text, appearance);
@@ -207,10 +202,8 @@ bool IsOfShape(int code) {
 // Normalizes numbers, which programs write in different ways.
 std::string Comparable(const Tag& tag) {
     const std::string_view text = tag.Trimmed();
-    double number = 0;
-    const auto [stopped, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool isNumber = tag.code >= 10 && error == std::errc() && stopped == text.data() + text.size();
-    return std::to_string(tag.code) + " " + (isNumber ? std::to_string(number) : std::string(text));
+    const auto number = tag.code >= 10 ? ParseNumber<double>(text) : std::nullopt;
+    return std::to_string(tag.code) + " " + (number ? std::to_string(*number) : std::string(text));
 }
 
 // Calls visit for each group of the entity and its vertices, and returns the offset of the end.

@@ -113,8 +113,8 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
 
 Appearance DocumentWriter::Parts::AppearanceWith(const std::string& contents, const Entity& entity) {
     Entity changed = patch.EntityAt(entity.offset);
-    if (auto* text = std::get_if<Boxed<Text>>(&changed.shape)) (*text)->text = contents;
-    if (auto* text = std::get_if<Boxed<MText>>(&changed.shape)) (*text)->text = contents;
+    if (auto* text = As<Text>(changed)) text->text = contents;
+    if (auto* text = As<MText>(changed)) text->text = contents;
     return AppearanceOf(known, changed);
 }
 

@@ -42,21 +42,6 @@ std::string PointText(const Vec3& point) {
     return NumberText(point.x) + "," + NumberText(point.y) + "," + NumberText(point.z);
 }
 
-const Insert* InsertOf(const Entity& entity) {
-    const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape);
-    return insert ? insert->get() : nullptr;
-}
-
-const Text* TextOf(const Entity& entity) {
-    const auto* text = std::get_if<Boxed<Text>>(&entity.shape);
-    return text ? text->get() : nullptr;
-}
-
-const MText* ParagraphsOf(const Entity& entity) {
-    const auto* text = std::get_if<Boxed<MText>>(&entity.shape);
-    return text ? text->get() : nullptr;
-}
-
 Vec3 ReadScale(const std::string& text) {
     std::vector<double> factors = ReadNumbers(text);
     if (factors.size() == 1) factors.resize(3, factors[0]);
@@ -79,27 +64,30 @@ struct Row {
 };
 
 bool IsText(const Entity& entity) {
-    return TextOf(entity) || ParagraphsOf(entity);
+    return As<Text>(entity) || As<MText>(entity);
 }
 
 bool IsTagged(const Entity& entity) {
-    return TextOf(entity) && TextOf(entity)->role != Text::Role::text;
+    const Text* text = As<Text>(entity);
+    return text && text->role != Text::Role::text;
 }
 
 bool IsInsert(const Entity& entity) {
-    return InsertOf(entity) && InsertOf(entity)->block != BlockIndex::none;
+    const Insert* insert = As<Insert>(entity);
+    return insert && insert->block != BlockIndex::none;
 }
 
 constexpr Row kRows[] = {
-    {"Tag", IsTagged, [](const Document&, const Entity& entity) { return TextOf(entity)->tag; }, nullptr},
+    {"Tag", IsTagged, [](const Document&, const Entity& entity) { return As<Text>(entity)->tag; }, nullptr},
     {"Text", IsText,
      [](const Document&, const Entity& entity) {
-         return TextOf(entity) ? TextOf(entity)->text : ParagraphsOf(entity)->text;
+         const Text* line = As<Text>(entity);
+         return line ? line->text : As<MText>(entity)->text;
      },
      [](const std::string& text, EntityEdit& edit) { edit.text = text; }},
     {"BlockName", IsInsert,
      [](const Document& document, const Entity& entity) {
-         return ToDisplayText(document.At(InsertOf(entity)->block).name);
+         return ToDisplayText(document.At(As<Insert>(entity)->block).name);
      },
      nullptr},
     {"Position", [](const Entity& entity) { return PositionOf(entity).has_value(); },
@@ -107,11 +95,12 @@ constexpr Row kRows[] = {
      [](const std::string& text, EntityEdit& edit) { edit.position = ReadPoint(text); }},
     {"Scale", IsInsert,
      [](const Document&, const Entity& entity) {
-         const Insert& insert = *InsertOf(entity);
+         const Insert& insert = *As<Insert>(entity);
          return PointText({insert.scaleX, insert.scaleY, insert.scaleZ});
      },
      [](const std::string& text, EntityEdit& edit) { edit.scale = ReadScale(text); }},
-    {"Rotation", IsInsert, [](const Document&, const Entity& entity) { return NumberText(InsertOf(entity)->rotation); },
+    {"Rotation", IsInsert,
+     [](const Document&, const Entity& entity) { return NumberText(As<Insert>(entity)->rotation); },
      [](const std::string& text, EntityEdit& edit) { edit.rotation = ReadRotation(text); }},
 };
 
@@ -124,11 +113,11 @@ const Row* Find(std::string_view name) {
 } // namespace
 
 std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
-    if (!InsertOf(entity) || (!position && !scale && !rotation)) return std::nullopt;
+    if (!As<Insert>(entity) || (!position && !scale && !rotation)) return std::nullopt;
     AxisEnds ends = AxisEndsOf(entity);
     const Vec3 to = position.value_or(ends[0]);
     if (scale || rotation) { // without a placement of its own, which would contradict them
-        const Insert& was = *InsertOf(entity);
+        const Insert& was = *As<Insert>(entity);
         const Vec3 factors = scale.value_or(Vec3{was.scaleX, was.scaleY, was.scaleZ});
         auto insert = std::make_unique<Insert>();
         insert->at = was.at;
@@ -149,7 +138,7 @@ std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
 
 bool EntityEdit::Moves(const Entity& entity) const {
     const std::optional<Vec3> was = PositionOf(entity);
-    return position && was && !InsertOf(entity) && !(*was == *position);
+    return position && was && !As<Insert>(entity) && !(*was == *position);
 }
 
 Vec3 ReadPoint(const std::string& text) {

@@ -77,11 +77,9 @@ std::optional<uint32_t> ReadComponents(const std::string& text) {
 
 // Parses a color number as stored in group 62.
 std::optional<uint32_t> ReadColorNumber(const std::string& text) {
-    int number = 0;
-    const char* const end = text.data() + text.size();
-    const auto [stopped, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stopped != end || number < kIndexByBlock || number > kIndexByLayer) return std::nullopt;
-    return number == kIndexByBlock ? kColorByBlock : number == kIndexByLayer ? kColorByLayer : ColorOfIndex(number);
+    const std::optional<int> number = ParseNumber<int>(text);
+    if (!number || *number < kIndexByBlock || *number > kIndexByLayer) return std::nullopt;
+    return *number == kIndexByBlock ? kColorByBlock : *number == kIndexByLayer ? kColorByLayer : ColorOfIndex(*number);
 }
 
 } // namespace
@@ -94,10 +92,8 @@ uint32_t ReadColor(const std::string& text, bool ofBrush) {
         if (IsSameName(text, NameOfIndex(index))) return ColorOfIndex(index);
     if (const auto color = ReadColorNumber(text)) return *color;
     if (const auto components = ReadComponents(text)) return ColorOf(0, static_cast<int32_t>(*components));
-    uint32_t rgb = 0;
-    const char* const end = text.data() + text.size();
-    if (text.size() == 7 && text[0] == '#' && std::from_chars(text.data() + 1, end, rgb, 16).ptr == end)
-        return ColorOf(0, static_cast<int32_t>(rgb));
+    if (text.size() == 7 && text[0] == '#')
+        if (const auto rgb = ParseNumber<uint32_t>(text.substr(1), 16)) return ColorOf(0, static_cast<int32_t>(*rgb));
     std::vector<std::string> allowed = TextsOf(markers);
     for (int index = 1; index <= 7; ++index)
         allowed.push_back(NameOfIndex(index));
@@ -351,7 +347,7 @@ PropertyTexts::PropertyTexts(const Document& document)
 
 void PropertyTexts::AddPatterns(const std::vector<Entity>& entities) {
     for (const Entity& entity : entities) {
-        if (!std::holds_alternative<Boxed<Hatch>>(entity.shape)) continue;
+        if (!As<Hatch>(entity)) continue;
         BrushAppearance brush = AppearanceOf(document_, entity).brush;
         const auto known = [&](const BrushAppearance& other) { return other.style == brush.style; };
         if (!brush.lines.empty() && std::none_of(patterns_.begin(), patterns_.end(), known))
@@ -388,7 +384,7 @@ std::optional<double> PropertyTexts::NumberOf(std::string_view name, const Appea
 }
 
 bool PropertyTexts::HasAny(const Entity& entity) {
-    return !std::holds_alternative<Boxed<Viewport>>(entity.shape);
+    return !As<Viewport>(entity);
 }
 
 bool PropertyTexts::Has(const Entity& entity, std::string_view name) {

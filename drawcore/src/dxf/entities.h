@@ -231,4 +231,15 @@ struct Entity {
     Boxed<ExtendedData> own; // null if there are none
 };
 
+// Returns the shape of the entity if it is of that boxed kind, else null.
+template <class Kind>
+Kind* As(Entity& entity) {
+    auto* boxed = std::get_if<Boxed<Kind>>(&entity.shape);
+    return boxed ? boxed->get() : nullptr;
+}
+template <class Kind>
+const Kind* As(const Entity& entity) {
+    return As<Kind>(const_cast<Entity&>(entity));
+}
+
 } // namespace dxf

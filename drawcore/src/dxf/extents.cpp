@@ -40,14 +40,14 @@ private:
     // References of a document are acyclic and bounded, so that this ends.
     void Add(const Entity& entity, const Matrix& toWorld) {
         if (entity.invisible) return;
-        if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
-            AddInsert(entity, **insert, toWorld);
-        else if (const auto* dimension = std::get_if<Boxed<Dimension>>(&entity.shape))
-            AddDimension(**dimension, toWorld);
-        else if (const auto* text = std::get_if<Boxed<Text>>(&entity.shape))
-            AddText(entity, **text, toWorld);
-        else if (const auto* mtext = std::get_if<Boxed<MText>>(&entity.shape))
-            MoveTo(toWorld.Apply((*mtext)->insertion));
+        if (const auto* insert = As<Insert>(entity))
+            AddInsert(entity, *insert, toWorld);
+        else if (const auto* dimension = As<Dimension>(entity))
+            AddDimension(*dimension, toWorld);
+        else if (const auto* text = As<Text>(entity))
+            AddText(entity, *text, toWorld);
+        else if (const auto* mtext = As<MText>(entity))
+            MoveTo(toWorld.Apply(mtext->insertion));
         else
             Trace(entity, toWorld, *this);
     }
@@ -87,8 +87,8 @@ private:
 
     void AddEntities(const Block& block, const Matrix& toWorld) {
         for (const Entity& entity : block.entities) {
-            const auto* text = std::get_if<Boxed<Text>>(&entity.shape);
-            if (!text || (*text)->role != Text::Role::definition) Add(entity, toWorld);
+            const auto* text = As<Text>(entity);
+            if (!text || text->role != Text::Role::definition) Add(entity, toWorld);
         }
     }
 

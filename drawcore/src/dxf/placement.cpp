@@ -76,10 +76,8 @@ Matrix InsertMatrix(const Entity& entity, const Insert& insert, const Block& blo
 namespace {
 
 Matrix PlacementByGroups(const Entity& entity) {
-    if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
-        return InsertMatrix(entity, **insert, Block(), 0, 0);
-    if (const auto* dimension = std::get_if<Boxed<Dimension>>(&entity.shape))
-        return Matrix::Translation((*dimension)->offset);
+    if (const auto* insert = As<Insert>(entity)) return InsertMatrix(entity, *insert, Block(), 0, 0);
+    if (const auto* dimension = As<Dimension>(entity)) return Matrix::Translation(dimension->offset);
     return {};
 }
 
@@ -87,12 +85,13 @@ Matrix PlacementByGroups(const Entity& entity) {
 using GroupNumbers = std::array<double, 10>;
 GroupNumbers GroupNumbersOf(const Entity& entity) {
     const Vec3& normal = entity.normal;
-    if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape)) {
-        const Insert& by = **insert;
-        return {by.at.x, by.at.y, by.at.z, by.scaleX, by.scaleY, by.scaleZ, by.rotation, normal.x, normal.y, normal.z};
+    if (const auto* insert = As<Insert>(entity)) {
+        const Vec3& at = insert->at;
+        return {at.x,     at.y,     at.z,    insert->scaleX, insert->scaleY, insert->scaleZ, insert->rotation,
+                normal.x, normal.y, normal.z};
     }
-    const auto* dimension = std::get_if<Boxed<Dimension>>(&entity.shape);
-    const Vec3 offset = dimension ? (*dimension)->offset : Vec3();
+    const auto* dimension = As<Dimension>(entity);
+    const Vec3 offset = dimension ? dimension->offset : Vec3();
     return {offset.x, offset.y, offset.z, 1, 1, 1, 0, normal.x, normal.y, normal.z};
 }
 

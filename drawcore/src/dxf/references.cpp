@@ -12,9 +12,8 @@ struct Reference {
 };
 
 Reference ReferenceOf(Entity& entity) {
-    if (auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
-        return {&(*insert)->block, double((*insert)->columns) * (*insert)->rows};
-    if (auto* dimension = std::get_if<Boxed<Dimension>>(&entity.shape)) return {&(*dimension)->block};
+    if (auto* insert = As<Insert>(entity)) return {&insert->block, double(insert->columns) * insert->rows};
+    if (auto* dimension = As<Dimension>(entity)) return {&dimension->block};
     return {};
 }
 

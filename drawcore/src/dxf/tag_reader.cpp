@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+#include "drawcore/src/dxf/text_decoding.h"
+
 namespace dxf {
 
 namespace {
@@ -67,11 +69,7 @@ double Tag::Real() const {
 }
 
 int Tag::Integer() const {
-    const std::string_view text = TrimNumber(value);
-    const char* const end = text.data() + text.size();
-    int number = 0;
-    const auto [rest, error] = std::from_chars(text.data(), end, number);
-    if (error == std::errc() && rest == end) return number;
+    if (const auto number = ParseNumber<int>(TrimNumber(value))) return *number;
     const double real = Real();
     if (std::isnan(real)) return 0;
     constexpr double kLow = std::numeric_limits<int>::min();
@@ -95,13 +93,11 @@ bool TagReader::NextLine(std::string_view& line) {
 }
 
 int TagReader::ParseCode(std::string_view text) const {
-    const std::string_view digits = Trim(text);
-    int code = 0;
-    const auto [rest, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code);
-    if (error != std::errc() || rest != digits.data() + digits.size())
-        throw ReadError(line_, "group code " + Quoted(text) + " is not a number");
-    if (code < kLowestCode || code > kHighestCode) throw ReadError(line_, "invalid group code " + std::to_string(code));
-    return code;
+    const std::optional<int> code = ParseNumber<int>(Trim(text));
+    if (!code) throw ReadError(line_, "group code " + Quoted(text) + " is not a number");
+    if (*code < kLowestCode || *code > kHighestCode)
+        throw ReadError(line_, "invalid group code " + std::to_string(*code));
+    return *code;
 }
 
 void TagReader::FailAtEnd() const {

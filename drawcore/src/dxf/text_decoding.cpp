@@ -3,7 +3,6 @@
 #include "drawcore/src/dxf/text_decoding.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 
 #include "codepages/conversion.h"
@@ -35,9 +34,9 @@ size_t CharacterLength(std::string_view utf8) {
 
 // Parses a number with exactly that many digits. Returns false if there is none.
 bool ReadDigits(std::string_view text, size_t digits, int base, uint32_t& number) {
-    if (text.size() < digits) return false;
-    const auto [rest, error] = std::from_chars(text.data(), text.data() + digits, number, base);
-    return error == std::errc() && rest == text.data() + digits;
+    const auto parsed = text.size() < digits ? std::nullopt : ParseNumber<uint32_t>(text.substr(0, digits), base);
+    number = parsed.value_or(number);
+    return parsed.has_value();
 }
 
 bool ReadUnicodeEscape(std::string_view text, uint32_t& unit) {

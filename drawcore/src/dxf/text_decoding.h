@@ -2,12 +2,23 @@
 // inline_codes.h.
 #pragma once
 
+#include <charconv>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace dxf {
+
+// Parses a number that makes up the whole text. base: of an integer, if not 10.
+template <class Number, class... Base>
+std::optional<Number> ParseNumber(std::string_view text, Base... base) {
+    Number number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [rest, error] = std::from_chars(text.data(), end, number, base...);
+    return error == std::errc() && rest == end ? std::optional<Number>(number) : std::nullopt;
+}
 
 // Converts between the bytes of a file and UTF-8: by the file's code page, or unchanged from version AC1021 on.
 class TextDecoder {

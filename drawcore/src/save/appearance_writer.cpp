@@ -44,8 +44,8 @@ void AppearanceWriter::Write(const Appearance& wanted) {
         WriteDashes(wanted);
         WriteExtended(wanted);
     }
-    if (const auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) PutText(**text);
-    if (const auto* text = std::get_if<Boxed<MText>>(&entity_.shape)) PutText(**text);
+    if (const auto* text = As<Text>(entity_)) PutText(*text);
+    if (const auto* text = As<MText>(entity_)) PutText(*text);
     WriteExtendedValue();
 }
 
@@ -124,7 +124,7 @@ void AppearanceWriter::PutColor(uint32_t color) {
 void AppearanceWriter::WriteColor(const Appearance& wanted) {
     const Appearance now = Now();
     if (now.color == wanted.color && now.brush.color == wanted.brush.color) return;
-    const bool isHatch = std::holds_alternative<Boxed<Hatch>>(entity_.shape);
+    const bool isHatch = As<Hatch>(entity_) != nullptr;
     const uint32_t brush = wanted.brush.color;
     RemoveExtended(kPropPenColor);
     RemoveExtended(kPropBrushColor);

@@ -47,7 +47,7 @@ void AppearanceWriter::WriteBrush(const Appearance& wanted) {
     for (const char* name : {kPropBrushStyle, kPropBrushScale, kPropBrushAngle, kPropHatchCross, kPropBrushDrawMode})
         RemoveExtended(name);
     const BrushAppearance& brush = wanted.brush;
-    if (auto* hatch = std::get_if<Boxed<Hatch>>(&entity_.shape)) PutBrush(**hatch, brush);
+    if (auto* hatch = As<Hatch>(entity_)) PutBrush(*hatch, brush);
     const BrushAppearance inGroups = AppearanceByGroups(drawing_.Known(), entity_).brush;
     const bool sameLines = brush.lines.empty() && inGroups.lines.empty() ? brush.style == inGroups.style
                                                                          : SameLines(brush.lines, inGroups.lines);

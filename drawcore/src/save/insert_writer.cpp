@@ -80,16 +80,16 @@ void AppearanceWriter::Place(const AxisEnds& ends) {
     if (AxisEndsOf(entity_) == ends) return;
     const Matrix placement = PlacementOf(ends), motion = MotionBetween(PlacementOf(entity_), placement);
     RemoveExtended(kExtendedPlacement);
-    if (auto* insert = std::get_if<Boxed<Insert>>(&entity_.shape)) {
-        const Matrix axes = AxesOf(entity_, **insert);
-        PutPlacement(**insert, placement);
-        if ((*insert)->columns > 1 || (*insert)->rows > 1) MoveArray(**insert, axes * motion);
-        for (const Entity& attribute : (*insert)->attributes)
+    if (auto* insert = As<Insert>(entity_)) {
+        const Matrix axes = AxesOf(entity_, *insert);
+        PutPlacement(*insert, placement);
+        if (insert->columns > 1 || insert->rows > 1) MoveArray(*insert, axes * motion);
+        for (const Entity& attribute : insert->attributes)
             drawing_.moved_[attribute.offset] = motion;
-    } else if (auto* dimension = std::get_if<Boxed<Dimension>>(&entity_.shape)) {
+    } else if (auto* dimension = As<Dimension>(entity_)) {
         const Vec3 to = placement.Apply({});
-        PutPoint(12, (*dimension)->offset, to);
-        (*dimension)->offset = to;
+        PutPoint(12, dimension->offset, to);
+        dimension->offset = to;
     }
     if (AxisEndsOf(entity_) == ends) return;
     if (IsSamePlacement(PlacementOf(entity_), placement)) exact_.insert(kExtendedPlacement);

@@ -40,14 +40,14 @@ void AppearanceWriter::MoveTo(const Vec3& position) {
     const auto moved = [&](const Vec3& point) { return point == *from ? position : point + by; }; // without rounding
     const auto movedInObject = [&](const Vec3& point) { return back.Apply(moved(system.Apply(point))); };
     std::vector<Vec3> vertices = VerticesInWorld(entity_);
-    if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) {
-        const bool usesAlignment = !IsPlacedByInsertion(**text) || record_.Find(11);
-        (*text)->insertion = movedInObject((*text)->insertion);
-        if (usesAlignment) (*text)->alignment = movedInObject((*text)->alignment);
+    if (auto* text = As<Text>(entity_)) {
+        const bool usesAlignment = !IsPlacedByInsertion(*text) || record_.Find(11);
+        text->insertion = movedInObject(text->insertion);
+        if (usesAlignment) text->alignment = movedInObject(text->alignment);
     } else if (!vertices.empty()) {
         std::transform(vertices.begin(), vertices.end(), vertices.begin(), moved);
         MoveVertices(vertices);
-    } else if (std::holds_alternative<Boxed<MText>>(entity_.shape) || std::holds_alternative<Ellipse>(entity_.shape)) {
+    } else if (As<MText>(entity_) || std::holds_alternative<Ellipse>(entity_.shape)) {
         PutPoint(10, *from, position);
     } else {
         PutPoint(10, back.Apply(*from), back.Apply(position));
@@ -60,8 +60,8 @@ void AppearanceWriter::MoveVertices(const std::vector<Vec3>& to) {
         PutPoint(11, line->end, to[1]);
     } else if (auto* mark = std::get_if<PointMark>(&entity_.shape); mark && to.size() == 2) {
         PutPoint(10, mark->at, to[0]);
-    } else if (auto* face = std::get_if<Boxed<Face>>(&entity_.shape); face && to.size() == 5) {
-        MoveCorners(**face, to);
+    } else if (auto* face = As<Face>(entity_); face && to.size() == 5) {
+        MoveCorners(*face, to);
     } else if (auto* leader = std::get_if<Leader>(&entity_.shape)) {
         PutPoints(leader->vertices, to, true);
     } else if (auto* polyline = std::get_if<Polyline>(&entity_.shape)) {

@@ -2,11 +2,11 @@
 #include "drawcore/src/save/table_patch.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/appearance.h"
+#include "drawcore/src/dxf/text_decoding.h"
 
 namespace dxf {
 
@@ -20,18 +20,11 @@ std::string Hex(uint64_t number) {
     return text;
 }
 
-std::optional<uint64_t> HandleOf(std::string_view text) {
-    uint64_t number = 0;
-    const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), number, 16);
-    if (error != std::errc() || rest != text.data() + text.size()) return std::nullopt;
-    return number;
-}
-
 } // namespace
 
 void TablePatch::NoteHandle(const Tag& tag) {
     if (tag.code != kHandle && tag.code != kDimensionStyleHandle) return;
-    if (const auto handle = HandleOf(tag.Trimmed())) highest_ = std::max(highest_, *handle);
+    if (const auto handle = ParseNumber<uint64_t>(tag.Trimmed(), 16)) highest_ = std::max(highest_, *handle);
 }
 
 void TablePatch::ScanTables(TagReader& tags) {
@@ -108,7 +101,7 @@ void TablePatch::Scan() {
     sections_.fileEnd = tag.offset;
     if (!firstBody_) firstBody_ = tag.offset;
     if (!seed_) return;
-    if (const auto seed = HandleOf(Tag{kHandle, seed_->value}.Trimmed()); seed && *seed > 0)
+    if (const auto seed = ParseNumber<uint64_t>(Tag{kHandle, seed_->value}.Trimmed(), 16); seed && *seed > 0)
         highest_ = std::max(highest_, *seed - 1);
 }
 

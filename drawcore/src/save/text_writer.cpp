@@ -47,13 +47,13 @@ bool IsNameForCode(const std::string& family) {
 } // namespace
 
 void AppearanceWriter::PutContents(const std::string& contents) {
-    if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) (*text)->text = contents;
-    if (auto* text = std::get_if<Boxed<MText>>(&entity_.shape)) (*text)->text = contents;
+    if (auto* text = As<Text>(entity_)) text->text = contents;
+    if (auto* text = As<MText>(entity_)) text->text = contents;
 }
 
 void AppearanceWriter::WriteText(const Appearance& wanted) {
-    if (auto* text = std::get_if<Boxed<Text>>(&entity_.shape)) WriteLine(**text, wanted);
-    if (auto* text = std::get_if<Boxed<MText>>(&entity_.shape)) WriteParagraphs(**text, wanted);
+    if (auto* text = As<Text>(entity_)) WriteLine(*text, wanted);
+    if (auto* text = As<MText>(entity_)) WriteParagraphs(*text, wanted);
 }
 
 void AppearanceWriter::WriteEffects(const TextAppearance& wanted) {
@@ -154,9 +154,8 @@ void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
 
 // Rotates, mirrors and slants the text, also into another plane.
 void AppearanceWriter::Move(const Matrix& motion) {
-    auto* shape = std::get_if<Boxed<Text>>(&entity_.shape);
-    if (!shape) return;
-    Text& text = **shape;
+    if (!As<Text>(entity_)) return;
+    Text& text = *As<Text>(entity_);
     const Matrix system = ObjectSystem(entity_.normal);
     const double angle = Radians(text.rotation), up = angle + kPi / 2 - Radians(text.oblique);
     Vec3 along = motion.Turn(system.Turn(Direction(angle))), rise = motion.Turn(system.Turn(Direction(up)));
