@@ -239,8 +239,7 @@ void AppearanceWriter::WriteDashes(const Appearance& wanted) {
         return;
     }
     polyline->dashesThrough = !wanted.dashesFitted;
-    const Group* group = record_.Find(70);
-    const int flags = group ? Tag{70, group->value}.Integer() : 0;
+    const int flags = record_.Integer(70);
     record_.Set(70, std::to_string(wanted.dashesFitted ? flags & ~kThrough : flags | kThrough), {90, 66, 30});
 }
 

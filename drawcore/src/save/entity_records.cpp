@@ -34,18 +34,20 @@ void Put(Values& to, int code, const Vec3& point) {
     Put(to, code + 20, point.z);
 }
 
-// Writes the text in pieces that every program can read: code 3, and code 1 for the last one.
-void PutParagraphs(Values& to, const std::string& text) {
-    constexpr size_t kLongest = 240;
-    size_t at = 0;
-    while (text.size() - at > kLongest) {
-        size_t end = at + kLongest;
-        while (end > at && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) // not within a character
-            --end;
-        to.push_back({3, text.substr(at, end - at)});
-        at = end;
+// Writes the text in pieces: code 3, and code 1 for the last one.
+void PutParagraphs(Values& to, const std::vector<std::string>& pieces) {
+    for (const std::string& piece : pieces)
+        to.push_back({&piece == &pieces.back() ? 1 : 3, piece, true});
+    if (pieces.empty()) to.push_back({1, ""});
+}
+
+// Writes widths and bulge of the segment after a vertex.
+void PutSegment(Values& to, const Polyline::Vertex& vertex) {
+    if (vertex.startWidth != 0 || vertex.endWidth != 0) {
+        Put(to, 40, vertex.startWidth);
+        Put(to, 41, vertex.endWidth);
     }
-    to.push_back({1, text.substr(at)});
+    if (vertex.bulge != 0) Put(to, 42, vertex.bulge);
 }
 
 } // namespace
@@ -119,11 +121,7 @@ struct EntityRecords::Shapes {
         if (polyline.vertices[0].at.z != 0) Put(values, 38, polyline.vertices[0].at.z);
         for (const Polyline::Vertex& vertex : polyline.vertices) {
             PutFlat(values, 10, vertex.at);
-            if (vertex.startWidth != 0 || vertex.endWidth != 0) {
-                Put(values, 40, vertex.startWidth);
-                Put(values, 41, vertex.endWidth);
-            }
-            if (vertex.bulge != 0) Put(values, 42, vertex.bulge);
+            PutSegment(values, vertex);
         }
     }
 
@@ -167,7 +165,7 @@ struct EntityRecords::Shapes {
         Put(values, 41, text->width);
         Put(values, 71, text->attachment);
         Put(values, 72, 1); // from left to right
-        PutParagraphs(values, text->text);
+        PutParagraphs(values, records.tables_.Decoder().EncodePieces(text->text));
         Put(values, 11, text->direction);
         Put(values, 73, 1); // exact line spacing
         Put(values, 44, text->lineSpacing);
@@ -266,11 +264,7 @@ void EntityRecords::AppendVertices(Values& to, const Polyline& polyline, const s
         Begin(to, {"VERTEX", "AcDbVertex"}, owner);
         Mark(to, flat ? "AcDb2dVertex" : "AcDb3dPolylineVertex");
         Put(to, 10, vertex.at);
-        if (vertex.startWidth != 0 || vertex.endWidth != 0) {
-            Put(to, 40, vertex.startWidth);
-            Put(to, 41, vertex.endWidth);
-        }
-        if (vertex.bulge != 0) Put(to, 42, vertex.bulge);
+        PutSegment(to, vertex);
         Put(to, 70, flat ? 0 : kSpatialVertex);
     }
     Begin(to, {"SEQEND", nullptr}, owner);

@@ -75,6 +75,11 @@ const Group* RecordPatch::Find(int code, bool common) const {
     return found == groups_.rend() ? nullptr : &*found;
 }
 
+int RecordPatch::Integer(int code) const {
+    const Group* group = Find(code);
+    return group ? Tag{code, group->value}.Integer() : 0;
+}
+
 void RecordPatch::SetValue(const Group& group, const std::string& value) {
     if (group.value == value) return;
     std::string text = value;

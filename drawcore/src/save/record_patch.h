@@ -36,6 +36,7 @@ public:
 
     // Groups of the kind. A missing group is added after the last of the listed codes that exists, else at the end.
     const Group* Find(int code) const { return Find(code, false); }
+    int Integer(int code) const; // 0 if the group is missing
     void Set(int code, const std::string& value, std::initializer_list<int> after = {});
     void Remove(int code);
 

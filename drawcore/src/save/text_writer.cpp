@@ -222,9 +222,7 @@ void AppearanceWriter::PutText(const Text& now) {
     if (was.style != now.style)
         record_.Set(7, drawing_.in_.textStyles.Stored(drawing_.Known().At(now.style)), {51, 41, 50, 1, 40});
     const auto setBits = [&](int code, int bits, int mask) {
-        const Group* group = record_.Find(code);
-        const int old = group ? Tag{code, group->value}.Integer() : 0;
-        record_.Set(code, std::to_string((old & ~mask) | bits), {7, 51, 41, 50, 1, 40});
+        record_.Set(code, std::to_string((record_.Integer(code) & ~mask) | bits), {7, 51, 41, 50, 1, 40});
     };
     if (was.backward != now.backward || was.upsideDown != now.upsideDown)
         setBits(71, (now.backward ? kBackward : 0) | (now.upsideDown ? kUpsideDown : 0), kBackward | kUpsideDown);
