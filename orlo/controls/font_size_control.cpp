@@ -103,6 +103,12 @@ CFontSizeControl::CFontSizeControl(HWND hWnd) : CComboControl(kKind, hWnd) {}
 
 CFontSizeControl::~CFontSizeControl() = default;
 
+CFontSizeControl* FontSizeControlOf(HWND window) {
+    CComboControl* const combo = ComboControlOf(window);
+    const bool isSize = combo && combo->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
+    return isSize ? static_cast<CFontSizeControl*>(combo) : nullptr;
+}
+
 int CFontSizeControl::OnCreate(LPCREATESTRUCT) {
     const int result = static_cast<int>(Default());
     if (result == -1) return -1;

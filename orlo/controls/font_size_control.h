@@ -59,3 +59,6 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 };
+
+// Returns the object of the window if it is a CFontSizeControl, else null.
+CFontSizeControl* FontSizeControlOf(HWND window);

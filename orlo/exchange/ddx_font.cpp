@@ -51,12 +51,6 @@ void LoadEffect(CDataExchange* pDX, const Effect& effect, unsigned short mask, u
     DDX_Check(1, pDX, effect.nIDC, state);
 }
 
-CFontSizeControl* SizeControlOf(HWND window) {
-    CWnd* const object = CWnd::FromHandlePermanent(window);
-    if (!object || !object->IsKindOf(RUNTIME_CLASS(CFontSizeControl))) return nullptr;
-    return static_cast<CFontSizeControl*>(object);
-}
-
 void SaveSize(CFontSizeControl& control, double& size) {
     size = Indeterminate<double>::Value();
     control.ReConvertFontSize(ShownText(control.m_hWnd), size);
@@ -89,7 +83,7 @@ int DDX_CBFontStyle(int, CDataExchange* pDX, unsigned int nIDC, unsigned short* 
 }
 
 int DDX_CBFontSize(int bReport, CDataExchange* pDX, unsigned int nIDC, double& size) {
-    CFontSizeControl* const control = SizeControlOf(pDX->PrepareCtrl(static_cast<int>(nIDC)));
+    CFontSizeControl* const control = FontSizeControlOf(pDX->PrepareCtrl(static_cast<int>(nIDC)));
     if (!control) return FailExchange(bReport, pDX);
     if (pDX->m_bSaveAndValidate) {
         SaveSize(*control, size);

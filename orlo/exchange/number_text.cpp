@@ -31,13 +31,19 @@ bool ScanTextValue(const char* text, bool isUnsigned, long& value) {
     return true;
 }
 
-bool ScanRealText(const char* text, float& value) {
+bool ScanNumber(const char* text, double& value) {
     const char* const first = SkipBlanks(text);
     char* end = nullptr;
     const double result = ::StringToDouble(0, first, &end);
-    if (!end || end == first || *SkipBlanks(end) != '\0') return false;
-    if (!(std::fabs(result) <= FLT_MAX)) return false;
-    value = static_cast<float>(result);
+    if (!end || end == first || *SkipBlanks(end) != '\0' || !std::isfinite(result)) return false;
+    value = result;
+    return true;
+}
+
+bool ScanRealText(const char* text, float& value) {
+    double number = 0.0;
+    if (!ScanNumber(text, number) || std::fabs(number) > FLT_MAX) return false;
+    value = static_cast<float>(number);
     return true;
 }
 

@@ -6,8 +6,9 @@
 // text beside the number.
 bool ScanTextValue(const char* text, bool isUnsigned, long& value);
 
-// Parses a real number that makes up the whole text, using the host's parser. Returns false, with value unchanged, if
-// the host does not parse the text completely or the number is too large for a float.
+// Parse a real number that makes up the whole text, using the host's parser. Return false, with value unchanged, if the
+// host does not parse the text completely or the number is too large for the type.
+bool ScanNumber(const char* text, double& value);
 bool ScanRealText(const char* text, float& value);
 
 // Returns whether the text is not a number but becomes one with another digit and closing brackets: "", "-", ".",

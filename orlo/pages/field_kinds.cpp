@@ -20,6 +20,7 @@
 #include "orlo/exchange/ddx.h"
 #include "orlo/exchange/failure.h"
 #include "orlo/exchange/indeterminate_text.h"
+#include "orlo/exchange/number_text.h"
 #include "orlo/exchange/window_text.h"
 #include "orlo/frame/loaded_controls.h"
 #include "orlo/host/drawing.h"
@@ -43,18 +44,6 @@ std::string NumberText(double value) {
     char text[kTextSize] = "";
     ::DoubleToString(0, value, kDigits, text, 0, exponentForm, 1);
     return text;
-}
-
-// Parses the whole text as a number with the precision of a double. Returns false if it is not one.
-bool ReadNumber(const char* text, double& value) {
-    char* end = nullptr;
-    const double number = ::StringToDouble(0, text, &end);
-    if (end == nullptr || end == text || !std::isfinite(number)) return false;
-    while (*end == ' ' || *end == '\t')
-        ++end;
-    if (*end != '\0') return false;
-    value = number;
-    return true;
 }
 
 std::string LengthText(double value) {
@@ -350,7 +339,7 @@ constexpr double kMinHeight = 1e-7, kMaxHeight = 1e38;
 
 using Text = Value<CString, TransferText>;
 using Integer = Value<int, TransferInteger>;
-using Number = Value<double, TransferNumber<NumberText, ReadNumber, AFX_IDP_PARSE_REAL>>;
+using Number = Value<double, TransferNumber<NumberText, ScanNumber, AFX_IDP_PARSE_REAL>>;
 using Length = Value<double, TransferLength>;
 using Angle = Value<double, TransferAngle>;
 using Scale = Value<double, TransferScale>;

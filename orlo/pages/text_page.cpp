@@ -82,9 +82,7 @@ void CTextPage::OnFontChange() {
 
     const int selected = sizeItems.Selected();
     const CString size = ShownText(sizes);
-    CWnd* const object = CWnd::FromHandlePermanent(sizes);
-    const bool isSizes = object && object->IsKindOf(RUNTIME_CLASS(CFontSizeControl));
-    const FontListRequest request = {isSizes ? static_cast<CFontSizeControl*>(object) : nullptr, face};
+    const FontListRequest request = {FontSizeControlOf(sizes), face};
     FillFontDropDown(sizes, reinterpret_cast<LPARAM>(&request));
     sizeItems.Select(size.IsEmpty() ? selected : sizeItems.FindOrAdd(size));
 }
