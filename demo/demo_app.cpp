@@ -7,7 +7,6 @@
 #include "demo/viewer/settings.h"
 #include "drawcore/application.h"
 #include "orlo/entry/entry.h"
-#include "orlo/host/application.h"
 
 IMPLEMENT_DYNAMIC(CDemoApp, CWinApp)
 

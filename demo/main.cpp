@@ -3,9 +3,9 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cstdio>
 #include <fcntl.h>
 #include <io.h>
-#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>

@@ -1,6 +1,5 @@
 // Tables: entries with identifiers from 1, and variables. A freed table behaves like an empty one.
 
-#include <cstring>
 #include <set>
 
 #include "database.h"

@@ -11,7 +11,6 @@
 #include <afxres.h>
 
 #include <algorithm>
-#include <utility>
 
 IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 

@@ -4,8 +4,6 @@
 #include <afxdlgs.h>
 #include <afxres.h>
 
-#include <cstdlib>
-
 namespace {
 
 struct Button {

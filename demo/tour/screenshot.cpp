@@ -2,7 +2,6 @@
 
 #include "demo/tour/screenshot.h"
 
-#include <cstring>
 #include <stdexcept>
 #include <vector>
 

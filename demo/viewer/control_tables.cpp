@@ -9,7 +9,6 @@
 #include "orlo/host/drawing.h"
 #include "orlo/host/property.h"
 #include "orlo/host/table.h"
-#include "orlo/host/units.h"
 
 namespace {
 

@@ -11,7 +11,6 @@
 #include "drawcore/dxf.h"
 #include "drawcore/layer.h"
 #include "drawcore/undo.h"
-#include "orlo/host/viewport.h"
 #include "orlo/host/walk.h"
 
 namespace {

@@ -1,7 +1,6 @@
 // A drawing that is open in the viewer: the database's drawing, its graphics, selection, styles, undo and redo.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>

@@ -4,7 +4,6 @@
 
 #include <afxwin.h>
 
-#include <optional>
 #include <vector>
 
 #include "demo/viewer/cached_view.h"

@@ -11,7 +11,6 @@
 
 #include "demo/viewer/control_tables.h"
 #include "demo/viewer/counted.h"
-#include "demo/viewer/file_name.h"
 #include "demo/viewer/help.h"
 #include "demo/viewer/keys_dialog.h"
 #include "demo/viewer/layer_states.h"

@@ -11,7 +11,6 @@
 #include "drawcore/graphic.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/property.h"
-#include "orlo/host/table.h"
 #include "orlo/host/walk.h"
 #include "orlo/host/words.h"
 

@@ -6,7 +6,6 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
-#include <utility>
 
 #include "orlo/c/busy_scope.h"
 #include "orlo/c/guarded_call.h"

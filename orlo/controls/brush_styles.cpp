@@ -7,7 +7,6 @@
 #include "orlo/controls/control_font.h"
 #include "orlo/controls/item_drawing.h"
 #include "orlo/controls/paint.h"
-#include "orlo/host/strings.h"
 #include "orlo/host/walk.h"
 #include "orlo/samples/hatch_scale.h"
 #include "orlo/samples/vertex_list.h"

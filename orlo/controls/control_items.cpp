@@ -2,8 +2,6 @@
 
 #include "orlo/controls/control_items.h"
 
-#include <cstring>
-
 struct ControlItems::Messages {
     UINT count, getSelection, setSelection, reset, add, insert, findExact, selectPrefix, length, text, rowHeight,
         remove;

@@ -8,7 +8,6 @@
 #include "orlo/controls/fill_scope.h"
 #include "orlo/controls/font_size_control.h"
 #include "orlo/host/drawing.h"
-#include "orlo/host/units.h"
 #include "orlo/resources/library_text.h"
 #include "orlo/resources/resource.h"
 #include "orlo/samples/pen_width_list.h"

@@ -11,7 +11,6 @@
 #include "orlo/controls/table_control.h"
 #include "orlo/host/drawing.h"
 #include "orlo/host/table.h"
-#include "orlo/host/units.h"
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "orlo/controls/line_styles.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstring>
 #include <iterator>
 

@@ -3,7 +3,6 @@
 #include "orlo/frame/control_notifications.h"
 
 #include <algorithm>
-#include <cstring>
 #include <iterator>
 
 namespace {

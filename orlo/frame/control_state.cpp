@@ -4,7 +4,6 @@
 
 #include <afxwin.h>
 
-#include <iterator>
 #include <vector>
 
 #include "orlo/controls/control_items.h"

@@ -5,7 +5,6 @@
 // drawing and selection. DoModal returns 1 after OK, IDCANCEL after Cancel, or a code set by a page.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <utility>
 

@@ -6,7 +6,6 @@
 
 #include <afxres.h>
 
-#include <algorithm>
 #include <optional>
 
 #include "orlo/frame/graphic_property_sheet.h"

@@ -5,7 +5,6 @@
 #include <oleauto.h>
 
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "orlo/binding/indeterminate.h"

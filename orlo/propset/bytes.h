@@ -1,7 +1,6 @@
 // Reads and writes little-endian numbers at unaligned addresses. The caller has checked the bounds.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 

@@ -2,7 +2,6 @@
 
 #include "orlo/propset/property_section.h"
 
-#include <cstring>
 #include <iterator>
 #include <new>
 #include <vector>

@@ -2,7 +2,6 @@
 
 #include "orlo/propset/rc_file.h"
 
-#include <cstring>
 #include <string>
 
 namespace {

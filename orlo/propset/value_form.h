@@ -3,8 +3,6 @@
 
 #include <objidl.h>
 
-#include <optional>
-
 #include "orlo/propset/bytes.h"
 
 namespace orlo {

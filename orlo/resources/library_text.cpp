@@ -4,7 +4,6 @@
 
 #include <afxwin.h>
 
-#include <cstring>
 #include <string>
 
 extern "C" IMAGE_DOS_HEADER __ImageBase; // start of the module

@@ -3,7 +3,6 @@
 #include "orlo/summary/compound_reader.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <utility>
 

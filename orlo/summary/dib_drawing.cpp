@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 #include "orlo/propset/bytes.h"
 #include "orlo/summary/dib_layout.h"

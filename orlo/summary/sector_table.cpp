@@ -2,8 +2,6 @@
 
 #include "orlo/summary/sector_table.h"
 
-#include <algorithm>
-
 namespace orlo {
 
 const char* InWords(ChainFault fault) {

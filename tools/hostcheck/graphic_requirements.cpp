@@ -1,7 +1,5 @@
 // Requirements of graphics: creation, ownership, copies, iteration, attributes.
 
-#include <cstring>
-
 #include "requirement.h"
 
 namespace {

@@ -1,8 +1,6 @@
 // A white bitmap in memory on which the database draws, and coarse measures of the result.
 #pragma once
 
-#include <algorithm>
-
 #include "requirement.h"
 
 // A drawing is measured by the nearest of these colors, so that smoothed edges do not matter.

@@ -1,6 +1,5 @@
 // Requirements of tables: entries, names, data, variables.
 
-#include <algorithm>
 #include <cstring>
 #include <set>
 

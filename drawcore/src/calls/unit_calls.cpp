@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "drawcore/include/drawcore/units.h"
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/tables/unit_variables.h"
 #include "drawcore/src/units/length_text.h"

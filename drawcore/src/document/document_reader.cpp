@@ -1,5 +1,4 @@
 // Reads the contents of a document and the properties of its entities.
-#include <algorithm>
 #include <cstdlib>
 
 #include "drawcore/src/document/contents.h"

@@ -1,7 +1,5 @@
 // Reads HATCH, the only entity in which the meaning of a group code depends on the preceding groups.
 
-#include <utility>
-
 #include "drawcore/src/dxf/entity_reader.h"
 
 namespace dxf {

@@ -8,9 +8,7 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
-#include <string>
 #include <string_view>
 
 #include "drawcore/include/drawcore/dxf_document.h"

@@ -2,8 +2,6 @@
 
 #include "drawcore/src/dxf/table_reader.h"
 
-#include <algorithm>
-
 namespace dxf {
 
 namespace {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <map>
-#include <vector>
 
 #include "drawcore/src/database/drawing.h"
 #include "drawcore/src/export/graphic_comparison.h"

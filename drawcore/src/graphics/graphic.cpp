@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "drawcore/include/drawcore/graphic.h"
 #include "drawcore/src/graphics/drawing_contents.h"
 #include "drawcore/src/graphics/extents_sink.h"
 #include "drawcore/src/graphics/object_counts.h"

@@ -2,7 +2,6 @@
 #include "drawcore/src/graphics/spline_graphic.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "drawcore/src/geometry/flatten.h"
 #include "drawcore/src/graphics/properties.h"

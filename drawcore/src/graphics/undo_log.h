@@ -9,7 +9,6 @@
 #include <deque>
 #include <memory>
 #include <unordered_set>
-#include <vector>
 
 #include "drawcore/include/drawcore/undo.h"
 #include "drawcore/src/graphics/attributes.h"

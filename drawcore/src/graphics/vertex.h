@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstring>
-#include <memory>
 
 #include "drawcore/src/geometry/matrix.h"
 #include "orlo/host/records.h"

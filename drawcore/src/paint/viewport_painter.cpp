@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "drawcore/include/drawcore/units.h"
 #include "drawcore/src/database/application.h"
 #include "drawcore/src/graphics/vertex_graphic.h"
 #include "drawcore/src/tables/unit_variables.h"

@@ -1,8 +1,6 @@
 // Writes each kind of entity.
 #include "drawcore/src/save/entity_records.h"
 
-#include <algorithm>
-
 #include "drawcore/include/drawcore/dxf_document.h"
 #include "drawcore/src/dxf/appearance.h"
 

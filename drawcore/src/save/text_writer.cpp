@@ -1,5 +1,4 @@
 // Writes texts: face, height, effects, justification and position.
-#include <algorithm>
 #include <cmath>
 
 #include "drawcore/include/drawcore/dxf_document.h"

@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "drawcore/include/drawcore/units.h"
-#include "orlo/host/units.h"
 
 namespace drawcore {
 

@@ -1,7 +1,6 @@
 // Formats and parses lengths.
 #include "drawcore/src/units/length_text.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "drawcore/src/units/calculation.h"
