@@ -76,6 +76,7 @@ int CControls::commands = 0;
 TEST_F(CControls, ShowTheTablesOfTheDrawing) {
     const auto selectRed = [](void* context, OrloFill* fill) {
         ++*static_cast<int*>(context);
+        EXPECT_EQ(fill->selected, fill->kind == kOrloControlColors ? kColorNone : 0) << "nothing; 0 is black";
         if (fill->kind == kOrloControlColors) fill->selected = RGB(255, 0, 0);
     };
     int filled = 0;
