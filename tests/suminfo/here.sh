@@ -86,7 +86,14 @@ suminfo copy one.doc some/inner/plan.doc two.doc
 suminfo remove -r some/inner/plan.doc two.doc title --custom Client
 expect "a missing title" "$(ended suminfo get two.doc title; cat out err)" $'1\nsuminfo: two.doc: the document has no title'
 expect "a missing list" "$(ended suminfo show @nowhere; cat err)" \
-    $'2\nsuminfo: cannot read the list of arguments: the file cannot be opened: no such file'
+    $'2\nsuminfo: cannot read the list of arguments: @nowhere: the file cannot be opened: no such file'
+expect "a folder as a list" "$(ended suminfo show @some; cat err)" \
+    $'2\nsuminfo: cannot read the list of arguments: @some: is a folder'
+printf '\xEF\xBB\xBFone.doc\r\ntwo.doc' >list # as editors on Windows save it
+expect "a list with a byte order mark" "$(ended suminfo show @list; grep -c '\.doc$' out; cat err)" $'0\n2'
+printf '\xFF\xFEo\0n\0e\0' >list
+expect "a list in UTF-16" "$(ended suminfo show @list; cat err)" \
+    $'2\nsuminfo: cannot read the list of arguments: @list: is UTF-16; save it as UTF-8'
 expect "a name like a value" "$(ended suminfo set ./a=b.doc title=x; cat err)" \
     $'1\nsuminfo: ./a=b.doc: the file cannot be opened: no such file'
 

@@ -8,6 +8,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "files/file_error.h"
 #include "files/open_file.h"
 #include "tools/cli/wildcard.h"
 
@@ -24,18 +25,23 @@ std::string ContentsOf(const std::string& name) {
     const auto contents = [](std::istream& stream) { return std::string(std::istreambuf_iterator<char>(stream), {}); };
     if (name == "-") return contents(std::cin);
     const fs::path path = fs::u8path(name);
+    std::error_code unknown;
+    if (fs::is_directory(path, unknown)) throw files::FileError("is a folder");
     files::OpenToRead(path); // throws an error with the reason
     std::ifstream stream(path, std::ios::binary);
     return contents(stream);
 }
 
-void AppendLines(const std::string& contents, std::vector<std::string>& lines) {
-    const char end = contents.find('\0') == std::string::npos ? '\n' : '\0';
+void AppendLines(std::string_view contents, std::vector<std::string>& lines) {
+    for (const std::string_view mark : {"\xFF\xFE", "\xFE\xFF"})
+        if (contents.substr(0, mark.size()) == mark) throw files::FileError("is UTF-16; save it as UTF-8");
+    contents = WithoutMark(contents);
+    const char end = contents.find('\0') == std::string_view::npos ? '\n' : '\0';
     for (size_t at = 0; at < contents.size();) {
         const size_t ended = std::min(contents.find(end, at), contents.size());
         size_t size = ended - at;
         if (end == '\n' && size > 0 && contents[ended - 1] == '\r') --size;
-        if (end == '\0' || size > 0) lines.push_back(contents.substr(at, size));
+        if (end == '\0' || size > 0) lines.emplace_back(contents.substr(at, size));
         at = ended + 1;
     }
 }
@@ -70,12 +76,22 @@ std::vector<std::string> Matching(const std::string& name) {
 std::vector<std::string> WithListedArguments(const std::vector<std::string>& arguments) {
     std::vector<std::string> all;
     for (const std::string& argument : arguments) {
-        if (argument.size() > 1 && argument[0] == '@')
-            AppendLines(ContentsOf(argument.substr(1)), all);
-        else
+        if (argument.size() < 2 || argument[0] != '@') {
             all.push_back(argument);
+            continue;
+        }
+        try {
+            AppendLines(ContentsOf(argument.substr(1)), all);
+        } catch (const files::FileError& error) {
+            throw files::FileError(argument + ": " + error.what());
+        }
     }
     return all;
+}
+
+std::string_view WithoutMark(std::string_view utf8) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    return utf8.substr(0, kMark.size()) == kMark ? utf8.substr(kMark.size()) : utf8;
 }
 
 std::vector<std::string> WithoutWildcards(const std::vector<std::string>& names) {

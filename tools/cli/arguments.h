@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace cli {
@@ -10,6 +11,9 @@ namespace cli {
 // command line. If the contents include a NUL, NULs end the arguments instead of line ends. Throws files::FileError if
 // a file cannot be read.
 std::vector<std::string> WithListedArguments(const std::vector<std::string>& arguments);
+
+// Returns the text without the byte order mark that editors on Windows add.
+std::string_view WithoutMark(std::string_view utf8);
 
 // Replaces names with wildcards by the matching files, sorted by name; a name without a match is kept. For Windows,
 // where the shell does not do it; elsewhere all names are kept.
