@@ -44,6 +44,14 @@ for target, kind in targets:
 done = run("set", "plan.dxf", "PenColor=red", "-o", "-")
 expect("standard output", done.returncode == 0 and done.stdout == read("red.dxf") and b"changed" in done.stderr, done)
 
+with open("/dev/full", "wb") as full:
+    for arguments in (["--help"], ["list", "plan.dxf"], ["get", "plan.dxf", "--json"], ["layers", "plan.dxf"],
+                      ["diff", "plan.dxf", "red.dxf"], ["set", "plan.dxf", "PenColor=red", "--dry-run"]):
+        done = subprocess.run([DXFPROPS, *arguments], cwd=WORK, stdout=full, stderr=subprocess.PIPE, check=False)
+        is_reported = done.returncode == 2 and done.stderr == b"dxfprops: cannot write the output\n"
+        if not is_reported:
+            failures.append(f"a full disk: {arguments} {done}")
+
 os.symlink("plan.dxf", os.path.join(WORK, "link.dxf"))
 before = os.stat(os.path.join(WORK, "plan.dxf"))
 for arguments in (["--where", "kind=NONE", "PenColor=red"], ["--where", "kind=NONE", "PenColor=red", "--in-place"]):

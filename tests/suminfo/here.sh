@@ -120,6 +120,10 @@ expect "a full disk" "$(suminfo set - title=x <one.doc 2>&1 >/dev/full || echo $
 expect "a missing folder" "$(ended suminfo set one.doc title=x -o nowhere/new.doc; cat err)" \
     $'1\nsuminfo: nowhere/new.doc: cannot create a file in its folder: no such folder'
 cmp one.doc before.doc
+expect "an output without a name" "$(ended suminfo set one.doc title=x -o ''; cat err)" \
+    $'2\nsuminfo: --output: the value is empty\nRun with --help for more information.'
+cmp one.doc before.doc
+expect "a size without a value" "$(ended suminfo thumbnail "$picture" none.png --size '')" 2
 expect "a script" "$(suminfo rc --stream "$stream" - | grep -c RCDATA)" 1
 expect "a full disk" "$(suminfo thumbnail --original "$picture" - 2>&1 >/dev/full || echo $?)" \
     $'suminfo: -: the output cannot be written: the disk is full\n1'

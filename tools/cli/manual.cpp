@@ -132,6 +132,10 @@ void AddCommonOptions(CLI::App& app, const std::string& version, const Completed
                [&app, words] { return BashCompletion(app, words); });
 }
 
+std::string NotEmpty(const std::string& value) {
+    return value.empty() ? "the value is empty" : "";
+}
+
 ParseResult Parse(CLI::App& app, std::vector<std::string> arguments) {
     ParseResult result;
     const std::string name = app.get_name() + ": ";

@@ -15,6 +15,9 @@ using CompletedWords = std::map<std::string, std::vector<std::string>>;
 // Adds --version, --man and --completion. Must be called before commands are added, which inherit settings.
 void AddCommonOptions(CLI::App& app, const std::string& version, const CompletedWords& words = {});
 
+// A check for options: rejects an empty value, which usually comes from a variable of a script that is not set.
+std::string NotEmpty(const std::string& value);
+
 // The result of parsing a command line. If isParsed is false, `output` is the text to print (help, manual page), or
 // `error` is the error message, preceded by the program's name.
 struct ParseResult {

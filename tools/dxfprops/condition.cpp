@@ -42,8 +42,14 @@ std::vector<std::string> Split(const std::string& text, char separator) {
     return parts;
 }
 
+std::string Trimmed(const std::string& text) {
+    const size_t first = text.find_first_not_of(' ');
+    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
+// Spaces around a value do not belong to it unless they are within quotes.
 std::string Unquoted(const std::string& text) {
-    std::string plain = text;
+    std::string plain = Trimmed(text);
     plain.erase(std::remove(plain.begin(), plain.end(), '"'), plain.end());
     return plain;
 }
@@ -58,8 +64,10 @@ Condition ReadCondition(const std::string& text) {
     for (const Operator& candidate : kOperators)
         if (!found && at != text.npos && at > 0 && text.compare(at, candidate.text.size(), candidate.text) == 0)
             found = &candidate;
-    if (!found) throw std::invalid_argument("'" + text + "' is not a condition, such as kind=LINE or PenWidth>0.5");
-    Condition condition = {RequireName(text.substr(0, at), true), found->comparison, {}};
+    if (!found)
+        throw std::invalid_argument("'" + text + "' is not a condition, such as kind=LINE or PenWidth>0.5; a value with " +
+                                    "a comma needs quotes: 'PenColor=\"0,0,255\"'");
+    Condition condition = {RequireName(Trimmed(text.substr(0, at)), true), found->comparison, {}};
     for (const std::string& value : Split(text.substr(at + found->text.size()), '|'))
         condition.values.push_back(Unquoted(value));
     const auto isIt = [&](const char* name) { return condition.name == name; };
@@ -140,7 +148,8 @@ bool ConditionTest::Fits(const dxf::EntityRef& entity, const Condition& conditio
     if (IsOrdering(condition.comparison)) {
         const auto is = drawing_.NumberOf(entity, condition.name, text);
         const auto limit = drawing_.NumberOf(entity, condition.name, wanted);
-        return is && limit && IsInOrder(condition.comparison, *is, *limit);
+        if (is && !limit) throw dxf::SaveError("'" + wanted + "' is not a number that " + condition.name + " can have");
+        return is && IsInOrder(condition.comparison, *is, *limit);
     }
     const bool isProperty = !IsConditionName(condition.name);
     return dxf::IsSameName(text, wanted) ||

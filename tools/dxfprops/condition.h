@@ -31,7 +31,8 @@ public:
     ConditionTest(const dxf::DocumentReader& drawing, const std::vector<Condition>& where)
         : drawing_(drawing), where_(where) {}
 
-    // Returns whether the entity meets all conditions; one without the property does not.
+    // Returns whether the entity meets all conditions; one without the property does not. Throws SaveError if the value
+    // of a condition that compares numbers is not a number.
     bool Meets(const dxf::EntityRef& entity);
 
 private:

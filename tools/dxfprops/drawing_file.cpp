@@ -64,20 +64,28 @@ std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) cons
         found.insert(found.end(), some.begin(), some.end());
     };
     constexpr char kBlockIs[] = "block=";
-    const std::string& space = selection.space;
-    const auto named = std::find_if(selection.where.begin(), selection.where.end(), [](const Condition& some) {
-        return some.name == kBlock && some.comparison == Comparison::equal;
-    });
+    const auto find = [&selection](Comparison comparison) -> const Condition* {
+        for (const Condition& condition : selection.where)
+            if (condition.name == kBlock && condition.comparison == comparison) return &condition;
+        return nullptr;
+    };
+    const Condition* named = selection.space.empty() ? find(Comparison::equal) : nullptr;
+    const bool isLike = selection.space.empty() && !named && find(Comparison::like);
+    const std::string space = isLike ? "all" : selection.space.empty() ? "model" : selection.space;
     if (space.rfind(kBlockIs, 0) == 0) return EntitiesOf(space.substr(sizeof kBlockIs - 1));
-    if (space.empty() && named != selection.where.end())
-        for (const std::string& block : named->values)
+    if (named) {
+        std::vector<std::string> added;
+        for (const std::string& block : named->values) {
+            const auto isIt = [&block](const std::string& other) { return dxf::IsSameName(block, other); };
+            if (std::any_of(added.begin(), added.end(), isIt)) continue;
             add(EntitiesOf(block));
-    else if (space == "all" || space == "paper")
-        add(PaperEntities());
-    if (space == "all")
-        add(Entities());
-    else if (space == "model" || (space.empty() && named == selection.where.end()))
-        add(EntitiesOf(""));
+            added.push_back(block);
+        }
+        return found;
+    }
+    if (space != "model") add(PaperEntities());
+    if (space == "all") add(Entities());
+    if (space == "model") add(EntitiesOf(""));
     return found;
 }
 

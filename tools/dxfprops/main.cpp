@@ -69,7 +69,7 @@ std::array<double, 4> ReadBox(const std::string& text) {
     std::array<double, 4> box = {};
     int used = 0;
     const int read = std::sscanf(text.c_str(), "%lf,%lf,%lf,%lf%n", &box[0], &box[1], &box[2], &box[3], &used);
-    if (read != 4 || static_cast<size_t>(used) != text.size() || box[0] > box[2] || box[1] > box[3])
+    if (read != 4 || static_cast<size_t>(used) != text.size() || !(box[0] <= box[2]) || !(box[1] <= box[3]))
         throw UsageError("--within: '" + text + "' is not of the form LEFT,BOTTOM,RIGHT,TOP");
     return box;
 }
@@ -421,11 +421,12 @@ private:
                         "kind, handle, block or a property, compared with = != < <= > >= or ~ (wildcards); A|B: one "
                         "of several values; conditions separated by commas or repeated: all must match")
             ->allow_extra_args(false);
-        sub->add_option("--in", line_.space, "model (the default), paper, all, or block=NAME");
-        sub->add_option("--within", line_.within, "LEFT,BOTTOM,RIGHT,TOP: entities inside this box");
+        sub->add_option("--in", line_.space, "model (the default), paper, all, or block=NAME")->check(cli::NotEmpty);
+        sub->add_option("--within", line_.within, "LEFT,BOTTOM,RIGHT,TOP: entities inside this box")
+            ->check(cli::NotEmpty);
     }
     void AddTarget(CLI::App* sub) {
-        sub->add_option("-o", line_.output, "output file; - is standard output");
+        sub->add_option("-o", line_.output, "output file; - is standard output")->check(cli::NotEmpty);
         sub->add_flag("--in-place", line_.isInPlace, "overwrite each input file");
         sub->add_flag("--dry-run", line_.isDry, "print the changes without writing them");
         sub->add_flag("--backup", line_.keepsBackup, "keep the previous contents as FILE.bak");
@@ -477,7 +478,10 @@ int RunWith(const std::vector<std::string>& words) {
     files::RemoveTemporaryFileOnInterrupt();
     std::ios::sync_with_stdio(false);
     try {
-        return Parser().Execute(cli::WithListedArguments(words));
+        const int result = Parser().Execute(cli::WithListedArguments(words));
+        if (std::cout.flush()) return result;
+        std::cerr << "dxfprops: cannot write the output\n";
+        return kFailed;
     } catch (const files::FileError& unreadable) {
         std::cerr << "dxfprops: cannot read the list of arguments: " << unreadable.what() << "\n";
         return kFailed;

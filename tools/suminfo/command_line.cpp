@@ -240,7 +240,8 @@ private:
 
     void AddOutput(CLI::App* sub) {
         sub->add_option("-o,--output", line_.output,
-                        "write the changed document to this file; - is standard output, the default if FILE is -");
+                        "write the changed document to this file; - is standard output, the default if FILE is -")
+            ->check(cli::NotEmpty);
     }
 
     // Takes exactly one argument per option, so that fields can follow it.
@@ -285,7 +286,8 @@ private:
         CLI::App* sub = Add("thumbnail", Command::thumbnail, "Save the thumbnail as a picture");
         AddFile(sub);
         sub->add_option("OUT.png", line_.output, "the picture; - is standard output")->required();
-        sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (default: the original size; 256 for a metafile)");
+        sub->add_option("--size", size_, "WIDTHxHEIGHT in pixels (default: the original size; 256 for a metafile)")
+            ->check(cli::NotEmpty);
         sub->add_flag("--original", line_.original, "save the picture in its stored format instead of PNG");
     }
     void AddScript() {
