@@ -73,7 +73,8 @@ def check_conditions():
         (["PenWidth>=0.25 mm"], 3), (["PenWidth>0.25 mm", "kind=LINE"], 2), (["PenWidth<0.5 mm,kind=LINE"], 2),
         (["TextSize>=2"], 4), (['Text="old, text"'], 1), (["Text~*text"], 1), (["BlockName=door"], 1),
         (["Rotation>20"], 1), (["Rotation=30.0"], 1), (['Position="3,4"'], 1),
-        (["Tag=title"], 1), (["block=FRAME"], 3)]:
+        (["Tag=title"], 1), (["block=FRAME"], 3), (["block=FRAME|frame|DOOR"], 4), (["block~f*"], 3),
+        (["kind = LINE | CIRCLE , Layer ~ W*"], 4), (['Text=" old, text"'], 0)]:
         expect(f"where {where}", count(*where) == wanted, count(*where))
     found = json.loads(run("get", "plan.dxf", "--where", "kind=CIRCLE", "--json").stdout)
     handle = found[0]["entities"][0]["handle"]
@@ -83,10 +84,15 @@ def check_conditions():
     expect("a block", count(space=["--in", "block=frame"]) == 3)
     expect("a box", count(space=["--within", "16,16,24,24"]) == 1 and count(space=["--within", "16,16,22,24"]) == 0)
     for wrong in (["--where", "kind"], ["--where", "Layer<3"], ["--where", 'Text="open'], ["--in", "nowhere"],
-                  ["--within", "1,2,3"], ["--hue"]):
+                  ["--within", "1,2,3"], ["--within", "nan,0,1,1"], ["--within", ""], ["--in", ""], ["--where", ""],
+                  ["--hue"], ["--where", "TextSize>small"], ["--where", "PenWidth<=By Layer"]):
         done = run("get", "plan.dxf", *wrong)
         is_reported = done.stderr.startswith(b"dxfprops: ") and not done.stdout
         expect(f"invalid {wrong}", done.returncode == 2 and is_reported, done)
+    done = run("get", "plan.dxf", "--where", "PenColor=255,0,0")
+    expect("a comma without quotes", done.returncode == 2 and b"quotes" in done.stderr, done)
+    done = run("set", "plan.dxf", "PenColor=red", "-o", "")
+    expect("an output without a name", done.returncode == 2 and b"-o" in done.stderr, done)
 
 
 def check_forms():
@@ -184,6 +190,52 @@ def check_apply():
     expect("invalid JSON", run("apply", "-", "--dry-run", stdin=b"[1").returncode == 2)
 
 
+def check_rejected_values():
+    """Values that apply cannot use are reported; values for the same entity are combined."""
+    shown = json.loads(run("get", "plan.dxf", "--where", "kind=LINE|CIRCLE", "--json", "--show", "PenColor").stdout)[0]
+    line, circle = shown["entities"][0], shown["entities"][-1]
+
+    def applied(*entities, file="plan.dxf", encoding="utf-8"):
+        parts = [{"file": file, "entities": [entity]} for entity in entities]
+        parts[1:1] = [{"file": "copy.dxf", "entities": []}] if len(parts) > 1 else []
+        return run("apply", "-", "--dry-run", stdin=json.dumps(parts).encode(encoding))
+
+    def with_values(entity, **values):
+        return {**entity, "properties": values}
+
+    make("copy.dxf")
+    for values, message in [({"Hue": "x"}, b"'Hue'"), ({"PenScale": 2}, b"PenScale"), ({"PenColor": None}, b"PenColor")]:
+        done = applied(with_values(line, **values))
+        expect(f"{values}", done.returncode == 2 and message in done.stderr and not done.stdout, done)
+    done = run("apply", "-", "--dry-run", stdin=run("get", "none.dxf", "plan.dxf", "--json").stdout)
+    expect("an error in place of entities", done.returncode == 2 and b"none.dxf" in done.stderr, done)
+    red, blue = (with_values(line, PenColor=color) for color in ("Color 12", "Blue"))
+    done = applied(red, with_values(circle, PenColor="Green"))
+    expect("a file that is listed twice", b"plan.dxf: 2 entities would change" in done.stdout, done)
+    expect("the same values twice", b"plan.dxf: 1 entity would change" in applied(red, red).stdout, applied(red, red))
+    done = applied(red, blue)
+    expect("two values of an entity", done.returncode == 2 and b"two values" in done.stderr, done)
+    expect("a byte order mark", b"1 entity would" in applied(red, encoding="utf-8-sig").stdout, done)
+
+
+def check_repeated_handles():
+    """In damaged drawings, several entities have the same handle."""
+    first = read("plan.dxf").partition(b"\n  0\nCIRCLE\n")[2].partition(b"\n  0\n")[0]
+    with open("twice.dxf", "wb") as file:
+        other = first.replace(b"\n  8\n", b"\n 62\n6\n  8\n")
+        file.write(read("plan.dxf").replace(first, first + b"\n  0\nCIRCLE\n" + other))
+    shown = run("get", "twice.dxf", "--json").stdout
+    done = run("apply", "-", "-o", "out.dxf", stdin=shown)
+    expect("unchanged values", b" 0 entities" in done.stdout and read("out.dxf") == read("twice.dxf"), done)
+    found = json.loads(shown)
+    circles = [entity for entity in found[0]["entities"] if entity["kind"] == "CIRCLE"]
+    circles[1]["properties"]["PenColor"] = "Blue"
+    run("apply", "-", "-o", "out.dxf", stdin=json.dumps(found).encode())
+    done = run("get", "out.dxf", "--where", "kind=CIRCLE", "--show", "PenColor", "--json-lines")
+    colors = [json.loads(line)["properties"]["PenColor"] for line in done.stdout.splitlines()]
+    expect("the second one", colors == ["By Layer", "Blue"], colors)
+
+
 def check_layers():
     listed = run("layers", "plan.dxf", "--csv").stdout.decode().splitlines()
     expect("layers", len(listed) >= 6 and any(",WALLS-NEW,Yes,No,No,Yes,Red," in line for line in listed), listed)
@@ -243,7 +295,8 @@ def check_differences():
 
 
 make("plan.dxf")
-for check in (check_conditions, check_forms, check_values, check_targets, check_apply, check_layers, check_differences):
+for check in (check_conditions, check_forms, check_values, check_targets, check_apply, check_rejected_values,
+              check_repeated_handles, check_layers, check_differences):
     check()
 if failures:
     sys.exit("\n".join(failures))

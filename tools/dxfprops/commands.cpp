@@ -27,11 +27,13 @@ public:
     }
 
     const std::vector<dxf::EntityRef>& All() const { return entities_; }
-    const dxf::EntityRef* Find(const dxf::RecordName& name) const {
+    // Returns the position of the entity, or size(). Of several with its handle, it is the one of that line.
+    size_t Find(const dxf::DocumentReader& drawing, const dxf::RecordName& name) const {
         const auto line = byLine_.find(name.line);
-        if (name.handle.empty()) return line != byLine_.end() ? &entities_[line->second] : nullptr;
-        const size_t found = FindHandle(name.handle, [](size_t) { return true; });
-        return found < entities_.size() ? &entities_[found] : nullptr;
+        if (name.handle.empty()) return line != byLine_.end() ? line->second : entities_.size();
+        const bool isOne = byHandle_.count(name.handle) == 1;
+        return FindHandle(name.handle,
+                          [&](size_t at) { return isOne || drawing.NameOf(entities_[at]).line == name.line; });
     }
     // The position of the first such entity of that handle, which damaged drawings have several times, or size().
     template <class IsIt>
@@ -237,19 +239,23 @@ SetResult SetProperties(const DrawingFile& drawing, const Selection& selection, 
 SetResult ApplyProperties(const DrawingFile& drawing, const std::vector<EntityProperties>& wanted,
                           const Target& target) {
     const EntityIndex index(drawing);
+    const std::vector<dxf::EntityRef>& entities = index.All();
+    std::map<size_t, std::map<std::string, std::string>> changes; // in the order of the file
+    for (const EntityProperties& entity : wanted) {
+        const size_t at = index.Find(drawing, entity.name);
+        if (at == entities.size() || drawing.NameOf(entities[at]).kind != entity.name.kind)
+            throw dxf::SaveError("the drawing has no " + entity.name.Text());
+        for (const auto& [name, value] : entity.values) {
+            if (dxf::DocumentReader::Has(entities[at], name) && drawing.Get(entities[at], name) == value) continue;
+            if (changes[at].emplace(name, value).first->second != value)
+                throw dxf::SaveError(entity.name.Text() + ": two values of " + name);
+        }
+    }
     dxf::DocumentWriter writer(drawing, {});
     SetResult result;
-    for (const EntityProperties& entity : wanted) {
-        const dxf::EntityRef* found = index.Find(entity.name);
-        if (!found || drawing.NameOf(*found).kind != entity.name.kind)
-            throw dxf::SaveError("the drawing has no " + entity.name.Text());
-        Values values;
-        for (const auto& [name, value] : entity.values)
-            if (!dxf::DocumentReader::Has(*found, name) || drawing.Get(*found, name) != value)
-                values.emplace_back(name, value);
-        ++result.matches.count;
-        if (!values.empty()) result.changed += writer.Change(*found, values);
-    }
+    result.matches.count = wanted.size();
+    for (const auto& [at, values] : changes)
+        result.changed += writer.Change(entities[at], Values(values.begin(), values.end()));
     Finish(drawing, writer, target, result);
     return result;
 }

@@ -1,6 +1,7 @@
 // Lines, JSON and CSV.
 #include "tools/dxfprops/output.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <new>
@@ -8,6 +9,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tools/cli/arguments.h"
 #include "tools/cli/csv.h"
 #include "tools/dxfprops/list_drawings.h"
 
@@ -81,14 +83,26 @@ const char* ListName(ResultPrinter::Items items) {
                                                    : "differences";
 }
 
+// What get prints for a file that failed.
+void RequireNoError(const Json& json) {
+    if (!json.contains("error")) return;
+    const std::string file = json.at("file").get<std::string>();
+    throw dxf::ReadError(0, "contains an error in place of the entities of " + file + "; remove it to apply the others");
+}
+
 EntityProperties EntityIn(const Json& json) {
     EntityProperties entity;
     entity.name.kind = json.at("kind").get<std::string>();
     if (json.at("handle").is_string()) entity.name.handle = json["handle"].get<std::string>();
     entity.name.line = json.value("line", 0u);
     entity.name.block = json.value("block", "");
-    for (const auto& [property, value] : json.at("properties").items())
-        entity.values.emplace_back(property, value.get<std::string>());
+    for (const auto& [property, value] : json.at("properties").items()) {
+        const std::string what = "'" + property + "' of " + entity.name.Text();
+        const auto name = dxf::DocumentReader::FindPropertyName(property);
+        if (!name) throw dxf::ReadError(0, what + " is not a property; see dxfprops --help");
+        if (!value.is_string()) throw dxf::ReadError(0, what + " is not a text; put it in quotes");
+        entity.values.emplace_back(*name, value.get<std::string>());
+    }
     return entity;
 }
 
@@ -244,18 +258,23 @@ bool PrintObjects(const std::vector<std::string>& files, Form form,
     return allRead;
 }
 
-std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(const std::string& text) {
+std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(const std::string& marked) {
     std::vector<std::pair<std::string, std::vector<EntityProperties>>> files;
-    const auto add = [&files](const std::string& file, const Json& entity) {
-        if (files.empty() || files.back().first != file) files.push_back({file, {}});
-        if (!entity.is_null()) files.back().second.push_back(EntityIn(entity));
+    const auto entitiesOf = [&files](const Json& json) -> std::vector<EntityProperties>& {
+        RequireNoError(json);
+        const std::string file = json.at("file").get<std::string>();
+        const auto isIt = [&file](const auto& known) { return known.first == file; };
+        const auto known = std::find_if(files.rbegin(), files.rend(), isIt); // usually the last one
+        return known != files.rend() ? known->second : files.emplace_back(file, std::vector<EntityProperties>()).second;
     };
+    const std::string_view text = cli::WithoutMark(marked);
     try {
-        if (text.find_first_not_of(" \t\r\n") != text.npos && text[text.find_first_not_of(" \t\r\n")] == '[') {
+        const size_t first = text.find_first_not_of(" \t\r\n");
+        if (first != text.npos && text[first] == '[') {
             for (const Json& file : Json::parse(text)) {
-                add(file.at("file").get<std::string>(), nullptr);
+                std::vector<EntityProperties>& entities = entitiesOf(file);
                 for (const Json& entity : file.at("entities"))
-                    add(file["file"].get<std::string>(), entity);
+                    entities.push_back(EntityIn(entity));
             }
             return files;
         }
@@ -263,7 +282,7 @@ std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(
             const size_t end = std::min(text.find('\n', at), text.size());
             if (text.find_first_not_of(" \t\r", at) < end) {
                 const Json line = Json::parse(text.substr(at, end - at));
-                add(line.at("file").get<std::string>(), line);
+                entitiesOf(line).push_back(EntityIn(line));
             }
             at = end + 1;
         }
