@@ -71,8 +71,9 @@ double WidthOf(int lineWeight) {
     return std::max(lineWeight, 0) / kWeightsPerInch;
 }
 
+// Inherited widths have the numbers of line weights.
 bool IsWidth(double number) {
-    return number >= 0 || number == kPenWidthByLayer || number == kPenWidthByBlock;
+    return number >= 0 || number == kLineWeightByLayer || number == kLineWeightByBlock;
 }
 
 uint32_t ToColor(double number, uint32_t otherwise) {
@@ -103,7 +104,7 @@ constexpr ExtendedRow kExtendedRows[] = {
     {kPropPenWidth, 3,
      [](const ExtendedValue& own, const Document&, const Entity& entity, Appearance& appearance) {
          if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
-         appearance.width = own.numbers[0];
+         appearance.width = own.numbers[0] < 0 ? WidthOf(static_cast<int>(own.numbers[0])) : own.numbers[0];
          appearance.worldWidth = own.numbers[1] != 0;
      }},
     {kPropBrushStyle, 0,

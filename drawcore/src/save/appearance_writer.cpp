@@ -188,8 +188,10 @@ void AppearanceWriter::WriteWidth(const Appearance& wanted) {
     }
     if (isWritten()) return;
     if (Near(Now().width, wanted.width) && Now().worldWidth == wanted.worldWidth) exact_.insert(kPropPenWidth);
-    ExtendedNumbers(kPropPenWidth,
-                    {wanted.width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
+    const double width = wanted.width == kPenWidthByLayer   ? kLineWeightByLayer
+                         : wanted.width == kPenWidthByBlock ? kLineWeightByBlock
+                                                            : wanted.width;
+    ExtendedNumbers(kPropPenWidth, {width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
 }
 
 void AppearanceWriter::WritePaperWidth(const Appearance& wanted) {
