@@ -236,6 +236,65 @@ def check_repeated_handles():
     expect("the second one", colors == ["By Layer", "Blue"], colors)
 
 
+def check_stored_texts():
+    """Characters that the code page lacks are stored as escapes; a line break would end the group."""
+    done = run("set", "plan.dxf", "--where", "kind=TEXT|MTEXT", "Text=Zażółć", "-o", "out.dxf")
+    space = audited("out.dxf").modelspace()
+    texts = [space.query("TEXT")[0].dxf.text, space.query("MTEXT")[0].text]
+    expect("characters of another code page", texts == ["Zażółć"] * 2, (texts, done))
+    before = read("out.dxf")
+    done = run("set", "out.dxf", "--where", "Text=Zażółć", "Text=Zażółć", "--in-place")
+    expect("the same text again", read("out.dxf") == before and b" 0 entities" in done.stdout, done)
+    for text in ("Text=a\nb", "Text=a\r", "attribute:TITLE=x\n 62\n1"):
+        done = run("set", "plan.dxf", text, "--dry-run")
+        expect(f"{text!r}", done.returncode == 2 and b"\\P" in done.stderr, done)
+    for arguments in (["--layer", "NOTES", "Name=a\nb"], ["--layer", "a\nb", "--new"], ["--layer", "a<b", "--new"]):
+        done = run("set-layer", "plan.dxf", *arguments, "--dry-run")
+        expect(f"layer {arguments}", done.returncode == 2 and b"not a valid layer name" in done.stderr, done)
+
+
+def check_placements():
+    """The numbers of an insertion become those that are requested; its attributes are scaled with it."""
+    drawing = ezdxf.readfile("plan.dxf")
+    door = drawing.modelspace().query('INSERT[name=="DOOR"]')[0]
+    for scales, rotation in [((-2, -2, 1), 0), ((1, -1.5, 1), 15), ((-1, 1, 1), 390)]:
+        door.dxf.xscale, door.dxf.yscale, door.dxf.zscale = scales
+        door.dxf.rotation = rotation
+        drawing.saveas("mirrored.dxf")
+        for values in (["Scale=2"], ["Scale=-1,2,3"], ["Scale=2,-2,1", "Rotation=200"]):
+            done = run("set", "mirrored.dxf", "--where", "BlockName=DOOR", *values, "-o", "out.dxf")
+            placed = audited("out.dxf").modelspace().query('INSERT[name=="DOOR"]')[0].dxf
+            scale = values[0].partition("=")[2].split(",") * (3 if len(values[0]) == 7 else 1)
+            wanted = [*map(float, scale), 200 if len(values) == 2 else rotation]
+            found = [placed.xscale, placed.yscale, placed.zscale, placed.rotation]
+            expect(f"{values} of {scales}", found == wanted, (found, done))
+    for values, height in [(["Scale=2"], 4), (["Scale=2", "PenColor=12"], 4), (["Scale=2", "TextSize=3"], 3)]:
+        done = run("set", "plan.dxf", *values, "-o", "out.dxf")
+        frame = audited("out.dxf").modelspace().query('INSERT[name=="FRAME"]')[0]
+        heights = [attribute.dxf.height for attribute in frame.attribs]
+        places = [(attribute.dxf.insert - frame.dxf.insert) for attribute in frame.attribs]
+        is_done = heights == [height] * 2 and places[0].isclose((20, 20))
+        expect(f"attributes with {values}", is_done, (heights, places, done))
+    shown = json.loads(run("get", "plan.dxf", "--json").stdout)
+    shown[0]["entities"].reverse()  # attributes before their insertion
+    for entity in shown[0]["entities"]:
+        if entity["kind"] in ("INSERT", "ATTRIB"):
+            entity["properties"].update({"PenColor": "Blue", **({"Scale": "2,2,2"} if entity["kind"] == "INSERT" else {})})
+    done = run("apply", "-", "-o", "out.dxf", stdin=json.dumps(shown).encode())
+    attribute = audited("out.dxf").modelspace().query('INSERT[name=="FRAME"]')[0].attribs[0].dxf
+    expect("entities in another order", (attribute.height, attribute.color) == (4, 5), (attribute.height, done))
+
+
+def check_old_versions():
+    drawing = ezdxf.new("R12")
+    drawing.modelspace().add_line((0, 0), (1, 0))
+    drawing.saveas("r12.dxf")
+    for width in ("By Block", "0.5 mm", "By Layer"):
+        done = run("set", "r12.dxf", f"PenWidth={width}", "--in-place")
+        shown = json.loads(run("get", "r12.dxf", "--json-lines", "--show", "PenWidth").stdout)
+        expect(f"{width} in R12", shown["properties"]["PenWidth"] == width, (shown, done))
+
+
 def check_layers():
     listed = run("layers", "plan.dxf", "--csv").stdout.decode().splitlines()
     expect("layers", len(listed) >= 6 and any(",WALLS-NEW,Yes,No,No,Yes,Red," in line for line in listed), listed)
@@ -296,7 +355,7 @@ def check_differences():
 
 make("plan.dxf")
 for check in (check_conditions, check_forms, check_values, check_targets, check_apply, check_rejected_values,
-              check_repeated_handles, check_layers, check_differences):
+              check_repeated_handles, check_stored_texts, check_placements, check_old_versions, check_layers, check_differences):
     check()
 if failures:
     sys.exit("\n".join(failures))

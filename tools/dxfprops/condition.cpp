@@ -65,7 +65,8 @@ Condition ReadCondition(const std::string& text) {
         if (!found && at != text.npos && at > 0 && text.compare(at, candidate.text.size(), candidate.text) == 0)
             found = &candidate;
     if (!found)
-        throw std::invalid_argument("'" + text + "' is not a condition, such as kind=LINE or PenWidth>0.5; a value with " +
+        throw std::invalid_argument("'" + text +
+                                    "' is not a condition, such as kind=LINE or PenWidth>0.5; a value with " +
                                     "a comma needs quotes: 'PenColor=\"0,0,255\"'");
     Condition condition = {RequireName(Trimmed(text.substr(0, at)), true), found->comparison, {}};
     for (const std::string& value : Split(text.substr(at + found->text.size()), '|'))

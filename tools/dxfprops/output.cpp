@@ -87,7 +87,8 @@ const char* ListName(ResultPrinter::Items items) {
 void RequireNoError(const Json& json) {
     if (!json.contains("error")) return;
     const std::string file = json.at("file").get<std::string>();
-    throw dxf::ReadError(0, "contains an error in place of the entities of " + file + "; remove it to apply the others");
+    throw dxf::ReadError(0,
+                         "contains an error in place of the entities of " + file + "; remove it to apply the others");
 }
 
 EntityProperties EntityIn(const Json& json) {

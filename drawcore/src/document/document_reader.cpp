@@ -142,7 +142,7 @@ std::vector<std::pair<std::string, std::string>> DocumentReader::GetAll(const En
 }
 
 std::string DocumentReader::Normalized(const EntityRef& entity, std::string_view name, const std::string& text) const {
-    if (EntityTexts::IsName(name)) return EntityTexts::Normalized(name, text);
+    if (EntityTexts::IsName(name)) return entityTexts_->Normalized(name, text);
     Appearance appearance = AppearanceOf(*document_, *entity.entity_);
     try {
         texts_->Set(name, text, appearance);

@@ -87,11 +87,15 @@ bool DocumentWriter::Change(const EntityRef& entity, const Values& values) {
 bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) {
     const Entity& entity = *ref.entity_;
     EntityEdit edit;
-    for (const auto& [name, text] : values.others)
-        if (EntityTexts::Has(entity, name) && reader.Get(ref, name) != EntityTexts::Normalized(name, text))
-            EntityTexts::Set(name, text, edit);
+    for (const auto& [name, text] : values.others) {
+        if (!EntityTexts::Has(entity, name)) continue;
+        const std::string value = reader.entityTexts_->Normalized(name, text);
+        if (reader.Get(ref, name) != value) EntityTexts::Set(name, value, edit);
+    }
+    const auto moved = wanted.find(entity.offset); // an attribute that moves with its insertion
     // Inline codes of a new text are part of the appearance that the other values change.
-    const Appearance was = edit.text ? AppearanceWith(*edit.text, entity) : AppearanceOf(known, entity);
+    Appearance was = edit.text ? AppearanceWith(*edit.text, entity) : AppearanceOf(known, entity);
+    if (moved != wanted.end()) was.text.height = moved->second.appearance.text.height;
     Appearance appearance = was;
     for (const auto& [property, text] : values.properties)
         if (PropertyTexts::Has(entity, property)) reader.texts_->Set(property, text, appearance);
@@ -99,7 +103,13 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     const bool isMoved = edit.Moves(entity);
     if (appearance == was && !edit.text && !ends && !isMoved) return false;
     EntityChange entityChange;
-    if (ends) entityChange.ends = &*ends;
+    Insert numbers;
+    const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape);
+    if (ends) {
+        numbers = edit.NumbersOf(**insert);
+        entityChange.ends = &*ends;
+        entityChange.numbers = &numbers;
+    }
     if (isMoved) entityChange.position = &*edit.position;
     if (edit.text) entityChange.text = &*edit.text;
     try {
@@ -107,7 +117,10 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     } catch (const SaveError& error) {
         throw SaveError(reader.NameOf(ref).Text() + ": " + error.what());
     }
-    wanted.emplace(entity.offset, Wanted{std::move(appearance), std::move(edit)});
+    wanted.insert_or_assign(entity.offset, Wanted{std::move(appearance), std::move(edit)});
+    if (ends)
+        for (const Entity& attribute : (*insert)->attributes)
+            wanted.emplace(attribute.offset, Wanted{patch.AppearanceAt(attribute.offset), {}});
     return true;
 }
 
@@ -119,6 +132,12 @@ Appearance DocumentWriter::Parts::AppearanceWith(const std::string& contents, co
 }
 
 namespace {
+
+void RequireLayerName(const std::string& name) {
+    if (name.empty() || name.find_first_of("<>/\\\":;?*|=`") != std::string::npos || HasControlCharacter(name) ||
+        name.front() == ' ' || name.back() == ' ')
+        throw SaveError("'" + name + "' is not a valid layer name");
+}
 
 int WithFlag(int flags, int flag, std::optional<bool> wanted) {
     return wanted.value_or((flags & flag) != 0) ? flags | flag : flags & ~flag;
@@ -151,6 +170,7 @@ bool DocumentWriter::ChangeLayer(const std::string& name, const LayerValues& wan
     DrawingPatch& patch = parts_->patch;
     const LayerIndex index = patch.FindLayer(name);
     const Layer was = patch.Describe(index);
+    if (static_cast<size_t>(index) >= parts_->known.layers.size()) RequireLayerName(name); // a new one
     Layer layer = was;
     if (wanted.color) SetColor(*wanted.color, layer);
     if (wanted.isOn) layer.color = *wanted.isOn ? std::abs(layer.color) : -std::abs(layer.color);
@@ -179,8 +199,7 @@ std::string DocumentWriter::Parts::LineTypeNamed(const std::string& name) const 
 }
 
 void DocumentWriter::Parts::Rename(LayerIndex index, const std::string& name) {
-    if (name.empty() || name.find_first_of("<>/\\\":;?*|=`") != std::string::npos)
-        throw SaveError("'" + name + "' is not a valid layer name");
+    RequireLayerName(name);
     if (patch.Describe(index).name == "0") throw SaveError("layer 0 cannot be renamed");
     for (const Layer& layer : known.layers)
         if (layer.declared && IsSameName(ToDisplayText(layer.name), name) &&

@@ -42,6 +42,14 @@ std::string PointText(const Vec3& point) {
     return NumberText(point.x) + "," + NumberText(point.y) + "," + NumberText(point.z);
 }
 
+// Returns the text as it is read from the file again: characters that its code page lacks are escapes.
+std::string StoredText(const Document& document, const std::string& text) {
+    TextDecoder decoder;
+    decoder.SetVersion(document.header.version);
+    decoder.SetCodePage(document.header.codePage);
+    return decoder.Decode(decoder.Encode(text));
+}
+
 Vec3 ReadScale(const std::string& text) {
     std::vector<double> factors = ReadNumbers(text);
     if (factors.size() == 1) factors.resize(3, factors[0]);
@@ -54,6 +62,14 @@ double ReadRotation(const std::string& text) {
     const std::vector<double> angle = ReadNumbers(text);
     if (angle.size() != 1) throw SaveError("'" + text + "' is not an angle in degrees");
     return angle[0];
+}
+
+// In the file, a control character would end the text.
+const std::string& RequireLine(const std::string& text) {
+    if (HasControlCharacter(text))
+        throw SaveError(
+            "the text contains a line break or another control character; \\P starts a new line of a paragraph");
+    return text;
 }
 
 struct Row {
@@ -84,7 +100,7 @@ constexpr Row kRows[] = {
          const Text* line = As<Text>(entity);
          return line ? line->text : As<MText>(entity)->text;
      },
-     [](const std::string& text, EntityEdit& edit) { edit.text = text; }},
+     [](const std::string& text, EntityEdit& edit) { edit.text = RequireLine(text); }},
     {"BlockName", IsInsert,
      [](const Document& document, const Entity& entity) {
          return ToDisplayText(document.At(As<Insert>(entity)->block).name);
@@ -112,22 +128,25 @@ const Row* Find(std::string_view name) {
 
 } // namespace
 
+Insert EntityEdit::NumbersOf(const Insert& was) const {
+    Insert insert;
+    const Vec3 factors = scale.value_or(Vec3{was.scaleX, was.scaleY, was.scaleZ});
+    insert.at = was.at;
+    insert.scaleX = factors.x;
+    insert.scaleY = factors.y;
+    insert.scaleZ = factors.z;
+    insert.rotation = rotation.value_or(was.rotation);
+    return insert;
+}
+
 std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
     if (!As<Insert>(entity) || (!position && !scale && !rotation)) return std::nullopt;
     AxisEnds ends = AxisEndsOf(entity);
     const Vec3 to = position.value_or(ends[0]);
     if (scale || rotation) { // without a placement of its own, which would contradict them
-        const Insert& was = *As<Insert>(entity);
-        const Vec3 factors = scale.value_or(Vec3{was.scaleX, was.scaleY, was.scaleZ});
-        auto insert = std::make_unique<Insert>();
-        insert->at = was.at;
-        insert->scaleX = factors.x;
-        insert->scaleY = factors.y;
-        insert->scaleZ = factors.z;
-        insert->rotation = rotation.value_or(was.rotation);
         Entity placed;
         placed.normal = entity.normal;
-        placed.shape = std::move(insert);
+        placed.shape = std::make_unique<Insert>(NumbersOf(*As<Insert>(entity)));
         ends = AxisEndsOf(placed);
     }
     const Vec3 motion = to - ends[0];
@@ -173,7 +192,7 @@ std::string EntityTexts::Get(std::string_view name, const Entity& entity) const 
     return Find(name)->get(document_, entity);
 }
 
-std::string EntityTexts::Normalized(std::string_view name, const std::string& text) {
+std::string EntityTexts::Normalized(std::string_view name, const std::string& text) const {
     const Row& row = *Find(name);
     if (!row.set) return text;
     EntityEdit edit;
@@ -185,6 +204,7 @@ std::string EntityTexts::Normalized(std::string_view name, const std::string& te
     return edit.position   ? PointText(*edit.position)
            : edit.scale    ? PointText(*edit.scale)
            : edit.rotation ? NumberText(*edit.rotation)
+           : edit.text     ? StoredText(document_, *edit.text)
                            : text;
 }
 

@@ -18,6 +18,8 @@ struct EntityEdit {
     std::optional<Vec3> scale;
     std::optional<double> rotation; // degrees
 
+    // Returns the insertion point of `was` with the requested scales and rotation.
+    Insert NumbersOf(const Insert& was) const;
     // Returns the requested axes of the insertion; nothing if they stay.
     std::optional<AxisEnds> EndsOf(const Entity& entity) const;
     // Returns whether another entity gets a new position.
@@ -36,7 +38,7 @@ public:
 
     std::string Get(std::string_view name, const Entity& entity) const;
     // Returns the text in the form that Get returns; as it is if it is not a value.
-    static std::string Normalized(std::string_view name, const std::string& text);
+    std::string Normalized(std::string_view name, const std::string& text) const;
     // Throws SaveError if the text is not a value or the value cannot be set.
     static void Set(std::string_view name, const std::string& text, EntityEdit& edit);
 

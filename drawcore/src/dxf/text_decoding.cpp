@@ -127,6 +127,11 @@ std::vector<std::string> TextDecoder::EncodePieces(std::string_view utf8) const 
     return pieces;
 }
 
+bool HasControlCharacter(std::string_view text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < ' ' && c != '\t'; });
+}
+
 size_t AppendEscape(std::string& text, std::string_view stored) {
     if (stored.size() < 7 || stored[0] != '\\') return 0;
     uint32_t unit = 0;

@@ -52,6 +52,9 @@ std::string ToDisplayText(std::string_view stored);
 std::string ReadExtendedText(std::string_view stored);
 std::string WriteExtendedText(std::string_view text);
 
+// Returns whether the text contains a character that no line of a file can store.
+bool HasControlCharacter(std::string_view text);
+
 // Appends the character of the escape at the start of the text and returns its length, or 0 if there is no escape.
 size_t AppendEscape(std::string& text, std::string_view stored);
 

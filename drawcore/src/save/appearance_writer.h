@@ -16,11 +16,11 @@ class AppearanceWriter {
 public:
     AppearanceWriter(DrawingPatch& drawing, size_t offset);
 
-    // Move a text, place an insertion, move any other entity with a position, or move vertices. At
-    // most one call, before Write.
+    // Move a text, place an insertion, move any other entity with a position, or move vertices. At most one call,
+    // before Write. An insertion gets the scales and the rotation of `numbers` if they have that result.
     void Move(const Matrix& motion);
     void MoveTo(const Vec3& position);
-    void Place(const AxisEnds& ends);
+    void Place(const AxisEnds& ends, const Insert* numbers);
     void PutContents(const std::string& text);
     // `to` has the vertices of the graphic created from the entity, in order. Vertices that cannot be moved are left
     // unchanged.
@@ -75,7 +75,7 @@ private:
     void MoveVertexRecords(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool flat);
     void PutPoints(const std::vector<Vec3>& was, const std::vector<Vec3>& now, bool inSpace);
 
-    void PutPlacement(Insert& insert, const Matrix& placement);
+    void PutPlacement(Insert& insert, const Matrix& placement, const Insert& numbers);
     void MoveArray(Insert& insert, const Matrix& moved);
     void PutPoint(int code, const Vec3& was, const Vec3& now);
     void PutReal(int code, double was, double now, std::initializer_list<int> after = {});

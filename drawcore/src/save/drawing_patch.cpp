@@ -20,6 +20,13 @@ Entity DrawingPatch::EntityAt(size_t offset) {
     return std::move(read[0]);
 }
 
+Appearance DrawingPatch::AppearanceAt(size_t offset) {
+    AppearanceWriter writer(*this, offset);
+    const auto moved = moved_.find(offset);
+    if (moved != moved_.end()) writer.Move(moved->second);
+    return writer.Now();
+}
+
 void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityChange& change) {
     const auto moved = moved_.find(offset);
     AppearanceWriter writer(*this, offset);
@@ -27,7 +34,7 @@ void DrawingPatch::Change(size_t offset, const Appearance& wanted, const EntityC
         writer.Move(moved->second);
         moved_.erase(moved);
     }
-    if (change.ends) writer.Place(*change.ends);
+    if (change.ends) writer.Place(*change.ends, change.numbers);
     if (change.position) writer.MoveTo(*change.position);
     if (change.vertices) writer.MoveVertices(*change.vertices);
     if (change.text) writer.PutContents(*change.text);

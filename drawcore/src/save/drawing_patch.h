@@ -22,6 +22,9 @@ namespace dxf {
 struct EntityChange {
     // For an insertion. Its attributes move with it, even those without other changes.
     const AxisEnds* ends = nullptr;
+    // With `ends`: has the requested scales and rotation, which others could replace: two mirrored axes are a half
+    // turn.
+    const Insert* numbers = nullptr;
     // In world coordinates, for an entity with a position (placement.h) that is not an insertion.
     const Vec3* position = nullptr;
     // For lines and polylines: all of its vertices, in world coordinates.
@@ -47,7 +50,8 @@ public:
 
     // Returns the entity whose record is at the offset. Throws ReadError or SaveError if there is no readable entity.
     Entity EntityAt(size_t offset);
-    Appearance AppearanceAt(size_t offset) { return AppearanceOf(Known(), EntityAt(offset)); }
+    // Returns the appearance of that entity; of an attribute, after it has moved with its insertion.
+    Appearance AppearanceAt(size_t offset);
 
     // May be called once per entity.
     void Change(size_t offset, const Appearance& wanted, const EntityChange& change = {});

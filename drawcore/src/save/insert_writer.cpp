@@ -31,8 +31,9 @@ double Turned(double was, double now, double rounding) {
     return std::fabs(std::remainder(now - was, 360)) <= rounding ? was : now;
 }
 
-// Returns the numbers of an insertion in its object coordinates that approximate the placement. A mirrored x axis and a
-// half turn differ only in the y axis: what was mirrored remains so, and what becomes mirrored keeps its angle.
+// Returns the numbers of an insertion in its object coordinates that approximate the placement, close to those given. A
+// mirrored x axis and a half turn differ only in the y axis: what was mirrored remains so, and what becomes mirrored
+// keeps its angle.
 Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& placement) {
     Insert placed;
     Matrix back;
@@ -76,13 +77,13 @@ Matrix AxesOf(const Entity& entity, const Insert& insert) {
 
 } // namespace
 
-void AppearanceWriter::Place(const AxisEnds& ends) {
+void AppearanceWriter::Place(const AxisEnds& ends, const Insert* numbers) {
     if (AxisEndsOf(entity_) == ends) return;
     const Matrix placement = PlacementOf(ends), motion = MotionBetween(PlacementOf(entity_), placement);
     RemoveExtended(kExtendedPlacement);
     if (auto* insert = As<Insert>(entity_)) {
         const Matrix axes = AxesOf(entity_, *insert);
-        PutPlacement(*insert, placement);
+        PutPlacement(*insert, placement, numbers ? *numbers : *insert);
         if (insert->columns > 1 || insert->rows > 1) MoveArray(*insert, axes * motion);
         for (const Entity& attribute : insert->attributes)
             drawing_.moved_[attribute.offset] = motion;
@@ -96,13 +97,13 @@ void AppearanceWriter::Place(const AxisEnds& ends) {
     ExtendedNumbers(kExtendedPlacement, NumbersOf(ends, entity_));
 }
 
-void AppearanceWriter::PutPlacement(Insert& insert, const Matrix& placement) {
+void AppearanceWriter::PutPlacement(Insert& insert, const Matrix& placement, const Insert& numbers) {
     const bool isTable = record_.Groups()[0].value.find("TABLE") != std::string_view::npos;
     Vec3 normal = entity_.normal;
-    Insert placed = PlacedInsert(normal, insert, placement);
+    Insert placed = PlacedInsert(normal, numbers, placement);
     if (!isTable && !IsSamePlacement(MatrixOf(normal, placed), placement)) { // it has left its plane
-        const Vec3 tilted = NormalOf(placement, insert);
-        Insert other = PlacedInsert(tilted, insert, placement);
+        const Vec3 tilted = NormalOf(placement, numbers);
+        Insert other = PlacedInsert(tilted, numbers, placement);
         if (IsSamePlacement(MatrixOf(tilted, other), placement)) {
             normal = tilted;
             placed = std::move(other);
