@@ -223,14 +223,14 @@ bool RequireReplaceable(const fs::path& target) {
     return FindFile(target).exists;
 }
 
-FileReplacement::FileReplacement(const fs::path& target) {
+FileReplacement::FileReplacement(const fs::path& target, const fs::path& original) {
     TargetFile found = FindFile(target);
     target_ = std::move(found.path);
-    exists_ = found.exists;
+    original_ = original.empty() && found.exists ? target_ : original;
     for (int number = 0;; ++number) { // a file may remain from an earlier process with the same identifier
         path_ = target_.parent_path() / ("orlo-" + std::to_string(ProcessId()) + "-" + std::to_string(number) + ".tmp");
         const BlockedSignals blocked;
-        if (Create(path_, exists_)) {
+        if (Create(path_, !original_.empty())) {
             temporaryFile = path_.c_str();
             return;
         }
@@ -261,7 +261,7 @@ void FileReplacement::Write(std::string_view bytes, const std::function<void(siz
 }
 
 void FileReplacement::Commit() {
-    if (exists_) CopyAttributes(target_, path_);
+    if (!original_.empty()) CopyAttributes(original_, path_);
     Flush(OpenToWrite(path_).get());
     Rename(path_, target_);
     temporaryFile = nullptr;
@@ -275,6 +275,7 @@ void RemoveTemporaryFileOnInterrupt() {
     for (const int signal : {SIGINT, SIGTERM, SIGHUP})
         if (std::signal(signal, RemoveAndEnd) == SIG_IGN)
             std::signal(signal, SIG_IGN); // keep ignored signals ignored, as set by nohup
+    std::signal(SIGXFSZ, SIG_IGN);
 #endif
 }
 

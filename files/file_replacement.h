@@ -23,7 +23,8 @@ class FileReplacement {
 public:
     // Creates the empty temporary file. Throws FileError if the target is read-only or not a regular file, or if no
     // file can be created in its folder.
-    explicit FileReplacement(const std::filesystem::path& target);
+    // A copy gets the attributes of `original`, which are preserved of the target if that is empty.
+    explicit FileReplacement(const std::filesystem::path& target, const std::filesystem::path& original = {});
     // Removes the temporary file unless it has replaced the target.
     ~FileReplacement();
     FileReplacement(const FileReplacement&) = delete;
@@ -41,8 +42,8 @@ public:
 
 private:
     std::filesystem::path target_;
-    bool exists_;                // the target exists
-    std::filesystem::path path_; // empty after the temporary file has been renamed or removed
+    std::filesystem::path original_; // whose attributes the file gets; empty for a new file
+    std::filesystem::path path_;     // empty after the temporary file has been renamed or removed
 };
 
 // Installs handlers that remove the temporary file if the program is interrupted or ended. For command-line

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Checks the files and streams that dxfprops writes to: check_output.py DXFPROPS DRAWING"""
 import os
+import resource
 import shutil
 import stat
 import subprocess
@@ -63,7 +64,18 @@ for arguments in (["--where", "kind=NONE", "PenColor=red"], ["--where", "kind=NO
 done = run("set", "link.dxf", "PenColor=red", "--in-place")
 is_link = os.path.islink(os.path.join(WORK, "link.dxf"))
 expect("a link", done.returncode == 0 and is_link and read("plan.dxf") == read("red.dxf"), done)
-left = set(os.listdir(WORK)) - {"plan.dxf", "red.dxf", "link.dxf", "pipe", "dangling", "null"}
+os.chmod(os.path.join(WORK, "plan.dxf"), 0o640)
+done = run("set", "plan.dxf", "PenColor=12", "--in-place", "--backup")
+mode = os.stat(os.path.join(WORK, "plan.dxf.bak")).st_mode & 0o777
+expect(f"the permissions of a backup: {mode:o}", mode == 0o640 and read("plan.dxf.bak") == read("red.dxf"), done)
+
+before = read("plan.dxf")
+limit = (len(before) // 2, resource.RLIM_INFINITY)
+done = subprocess.run([DXFPROPS, "set", "plan.dxf", "PenColor=13", "--in-place"], cwd=WORK, capture_output=True,
+                      preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, limit), check=False)
+expect("a limit of the size of files", done.returncode == 2 and b"written" in done.stderr, done)
+expect("an unchanged file", read("plan.dxf") == before, done)
+left = set(os.listdir(WORK)) - {"plan.dxf", "plan.dxf.bak", "red.dxf", "link.dxf", "pipe", "dangling", "null"}
 expect(f"other files: {left}", not left, done)
 shutil.rmtree(WORK)
 if failures:

@@ -24,7 +24,7 @@ void KeepBackup(const std::filesystem::path& file) {
     if (!std::filesystem::exists(file, isMissing)) return;
     std::filesystem::path backup = file;
     backup += ".bak";
-    files::FileReplacement replacement(backup);
+    files::FileReplacement replacement(backup, file);
     replacement.Write(dxf::ReadBytes(file));
     replacement.Commit();
 }
