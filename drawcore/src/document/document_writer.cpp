@@ -22,8 +22,9 @@ struct DocumentWriter::Parts {
 
     // Throws SaveError unless the changed document has the requested values.
     void RequireRequestedValues(const DocumentReader& after) const;
-    void RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
+    void RequireEntities(const Block* block, const std::vector<Entity>& before, const std::vector<Entity>& now,
                          const DocumentReader& after) const;
+    void RequireEntity(const EntityRef& before, const EntityRef& now, const DocumentReader& after) const;
     void RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
                      const DocumentReader& after) const;
     void RequireAppearance(const EntityRef& entity, const Appearance& appearance, const EntityRef& now,
@@ -216,8 +217,11 @@ std::vector<std::string> DocumentWriter::Notes() const {
 }
 
 void DocumentWriter::Parts::RequireRequestedValues(const DocumentReader& after) const {
-    RequireEntities(reader.Entities(), after.Entities(), after);
-    RequireEntities(reader.PaperEntities(), after.PaperEntities(), after);
+    const std::vector<Block>&blocks = known.blocks, &changed = after.document_->blocks;
+    if (blocks.size() != changed.size()) FailVerification("the number of blocks");
+    RequireEntities(nullptr, known.entities, after.document_->entities, after);
+    for (size_t i = 0; i < blocks.size(); ++i)
+        RequireEntities(&blocks[i], blocks[i].entities, changed[i].entities, after);
     for (const Layer& layer : patch.Known().layers) {
         if (!layer.declared) continue;
         const auto isIt = [&](const Layer& other) {
@@ -232,16 +236,25 @@ void DocumentWriter::Parts::FailVerification(const std::string& what) {
     throw SaveError("verification of the changed drawing failed: " + what + " differs");
 }
 
-void DocumentWriter::Parts::RequireEntities(const std::vector<EntityRef>& before, const std::vector<EntityRef>& now,
-                                            const DocumentReader& after) const {
+void DocumentWriter::Parts::RequireEntities(const Block* block, const std::vector<Entity>& before,
+                                            const std::vector<Entity>& now, const DocumentReader& after) const {
     if (before.size() != now.size()) FailVerification("the number of entities");
     for (size_t i = 0; i < before.size(); ++i) {
-        const auto change = wanted.find(before[i].entity_->offset);
-        if (change != wanted.end()) RequireEdit(before[i], change->second.edit, now[i], after);
-        RequireAppearance(before[i],
-                          change != wanted.end() ? change->second.appearance : AppearanceOf(known, *before[i].entity_),
-                          now[i], after);
+        const Entity &entity = before[i], &changed = now[i];
+        if (entity.shape.index() != changed.shape.index() || entity.inPaperSpace != changed.inPaperSpace)
+            FailVerification(reader.NameOf({entity, block}).Text());
+        if (PropertyTexts::HasAny(entity)) RequireEntity({entity, block}, {changed, block}, after);
+        if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
+            RequireEntities(block, (*insert)->attributes, std::get<Boxed<Insert>>(changed.shape)->attributes, after);
     }
+}
+
+void DocumentWriter::Parts::RequireEntity(const EntityRef& before, const EntityRef& now,
+                                          const DocumentReader& after) const {
+    const auto change = wanted.find(before.entity_->offset);
+    if (change == wanted.end()) return RequireAppearance(before, AppearanceOf(known, *before.entity_), now, after);
+    RequireEdit(before, change->second.edit, now, after);
+    RequireAppearance(before, change->second.appearance, now, after);
 }
 
 void DocumentWriter::Parts::RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
