@@ -23,7 +23,8 @@ std::string TextPatch::Result() {
         at = edit.at + edit.length;
         shifts_.push_back(static_cast<ptrdiff_t>(result.size()) - static_cast<ptrdiff_t>(at));
     }
-    return result.append(text_, at);
+    result.append(text_, at);
+    return result; // the value of append would be copied
 }
 
 size_t TextPatch::Moved(size_t at) const {
