@@ -253,6 +253,26 @@ def check_stored_texts():
         expect(f"layer {arguments}", done.returncode == 2 and b"not a valid layer name" in done.stderr, done)
 
 
+def check_inline_codes():
+    """A value for a text as a whole leaves the other values of its parts."""
+    drawing = ezdxf.new("R2000")
+    bold, plain = "{\\fTimes|b1|i0;a}", "{\\fArial|b0|i0;b\\FTXT;cde}"
+    drawing.modelspace().add_mtext(bold + "\\P" + plain + "\\P{\\fArial|b0|i0;longest}")
+    drawing.saveas("codes.dxf")
+    for value, wanted in [
+        ("TextFont=Courier", "\\fCourier|b0|i0|c0|p0;{\\fCourier|b1|i0;a}\\P{\\fCourier|b0|i0;b\\fCourier;cde}\\P"
+                             "{\\fCourier|b0|i0;longest}"),
+        ("TextStyle=Italic", "{\\fTimes|b0|i1|c0|p0;a}\\P{\\fArial|b0|i1|c0|p0;b\\fTXT|b0|i1|c0|p0;cde}\\P"
+                             "{\\fArial|b0|i1|c0|p0;longest}")]:
+        done = run("set", "codes.dxf", value, "-o", "out.dxf")
+        text = audited("out.dxf").modelspace().query("MTEXT")[0].text
+        expect(value, text == wanted, (text, done))
+        done = run("set", "out.dxf", value, "--dry-run")
+        expect(f"{value} again", b" 0 entities" in done.stdout, done)
+    done = run("set", "codes.dxf", "TextFont=a;b", "-o", "none.dxf")
+    expect("a font that ends its code", done.returncode == 2 and b"inline codes" in done.stderr, done)
+
+
 def check_placements():
     """The numbers of an insertion become those that are requested; its attributes are scaled with it."""
     drawing = ezdxf.readfile("plan.dxf")
@@ -355,7 +375,8 @@ def check_differences():
 
 make("plan.dxf")
 for check in (check_conditions, check_forms, check_values, check_targets, check_apply, check_rejected_values,
-              check_repeated_handles, check_stored_texts, check_placements, check_old_versions, check_layers, check_differences):
+              check_repeated_handles, check_stored_texts, check_inline_codes, check_placements, check_old_versions,
+              check_layers, check_differences):
     check()
 if failures:
     sys.exit("\n".join(failures))

@@ -86,6 +86,13 @@ const Row kRows[] = {
          appearance.text.format = 2;
          appearance.varied = 0;
      }},
+    {"AnAlignmentKeepsIndents",
+     "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|4|1|\\pxi-3,qc,l2;ab\\P\\pq*,i1;cdef\\P\\pxqr;g",
+     "0|MTEXT|" + kHead + "100|AcDbMText|10|0|20|0|40|2|71|6|1|\\pxi-3,l2;ab\\P\\pi1;cdef\\Pg",
+     [](Appearance& appearance) {
+         appearance.text.format = 2;
+         appearance.varied = 0;
+     }},
     {"AWidthByLayerHasNoGroup", "0|LINE|" + kHead + "370|25|100|AcDbLine|10|0|20|0",
      "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0", [](Appearance& appearance) { appearance.width = kPenWidthByLayer; }},
     {"AWidthByBlockHasAGroup", "0|LINE|" + kHead + "100|AcDbLine|10|0|20|0",

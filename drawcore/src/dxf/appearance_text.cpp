@@ -122,6 +122,7 @@ bool IsPartlyMarked(const Text& text) {
 uint8_t VariedBits(const FormattedText& text, const InlineFormat& most) {
     uint8_t bits = 0;
     for (const FormattedText::Run& run : text.runs) {
+        if (run.text.find_first_not_of('\n') == run.text.npos) continue; // between paragraphs with codes of their own
         const InlineFormat& part = run.format;
         const bool otherStyle = part.bold != most.bold || part.italic != most.italic ||
                                 part.underlined != most.underlined || part.struckThrough != most.struckThrough;

@@ -246,20 +246,30 @@ FormattedText ReadInlineCodes(std::string_view stored, double height) {
     return InlineReader(stored, height).Read();
 }
 
-std::string WithoutCodes(std::string_view rest, std::string_view letters) {
+std::string WithReplacedCodes(std::string_view rest, std::string_view letters, const ReplaceCode& replace) {
     constexpr std::string_view kWithArgument = "FfHWCcSAQTp";
     std::string result;
     while (!rest.empty()) {
         std::string escape;
-        size_t length = AppendEscape(escape, rest);
+        size_t length = AppendEscape(escape, rest), argument = 0;
         const bool isCode = length == 0 && rest.size() > 1 && rest[0] == '\\';
         if (length == 0) length = isCode ? 2 : 1;
-        if (isCode && kWithArgument.find(rest[1]) != kWithArgument.npos)
-            length = std::min(rest.find(';'), rest.size() - 1) + 1;
-        if (!isCode || letters.find(rest[1]) == letters.npos) result += rest.substr(0, length);
+        if (isCode && kWithArgument.find(rest[1]) != kWithArgument.npos) {
+            const size_t end = std::min(rest.find(';'), rest.size());
+            argument = end - length;
+            length = std::min(end + 1, rest.size());
+        }
+        if (isCode && letters.find(rest[1]) != letters.npos)
+            result += replace(rest[1], rest.substr(2, argument));
+        else
+            result += rest.substr(0, length);
         rest.remove_prefix(length);
     }
     return result;
+}
+
+std::string WithoutCodes(std::string_view stored, std::string_view letters) {
+    return WithReplacedCodes(stored, letters, [](char, std::string_view) { return std::string(); });
 }
 
 } // namespace dxf

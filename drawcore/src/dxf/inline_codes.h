@@ -2,6 +2,7 @@
 // indents, tracking and the vertical alignment of parts.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,6 +39,10 @@ struct FormattedText {
 // height: height of the text in drawing units, also the unit of heights in the codes.
 FormattedText ReadInlineCodes(std::string_view stored, double height);
 
+// Returns the stored form with what `replace` returns in place of the codes of these letters. It is called with the
+// letter and the argument, which does not include the semicolon.
+using ReplaceCode = std::function<std::string(char letter, std::string_view argument)>;
+std::string WithReplacedCodes(std::string_view stored, std::string_view letters, const ReplaceCode& replace);
 // Returns the stored form without the codes of these letters and their arguments.
 std::string WithoutCodes(std::string_view stored, std::string_view letters);
 

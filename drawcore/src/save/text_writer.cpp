@@ -108,24 +108,57 @@ bool MustPutFace(const MText& text, const TextAppearance& now, const TextAppeara
     const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
     const bool isOther = now.font != wanted.font || (now.style ^ wanted.style) & kCut ||
                          (isInCodes && forAll & (kVariedFont | kVariedStyle));
+    if (isInCodes && forAll & kVariedFont && !IsNameForCode(wanted.font))
+        throw SaveError("inline codes of the text cannot contain the font '" + wanted.font + "'");
     return isOther && IsNameForCode(wanted.font);
 }
 
-// Replaces all faces in the text's codes by one.
-void PutFaceCode(MText& text, const TextAppearance& appearance) {
-    const std::string cut =
-        std::string(appearance.style & kTextBold ? "|b1" : "|b0") + (appearance.style & kTextItalic ? "|i1" : "|i0");
-    text.text = "\\f" + appearance.font + cut + "|c0|p0;" + WithoutCodes(text.text, "fF");
+std::string FaceCode(const std::string& family, uint16_t cut) {
+    return "\\f" + family + (cut & kTextBold ? "|b1" : "|b0") + (cut & kTextItalic ? "|i1" : "|i0") + "|c0|p0;";
+}
+
+// Replaces the faces in the text's codes by one, except for the families or cuts that are to vary. `plain` is the face
+// of text without a code.
+void PutFaceCode(MText& text, const Appearance& wanted, const FontFace& plain) {
+    const bool keepsFamilies = wanted.varied & kVariedFont, keepsCuts = wanted.varied & kVariedStyle;
+    const FontFace face = {wanted.text.font, static_cast<uint16_t>(wanted.text.style & kCut)};
+    const auto replaced = [&](char letter, std::string_view argument) -> std::string {
+        if (!keepsFamilies && !keepsCuts) return ""; // the first one holds for all
+        const size_t end = std::min(argument.find('|'), argument.size());
+        const std::string family = keepsFamilies ? std::string(argument.substr(0, end)) : face.family;
+        if (!keepsCuts) return FaceCode(family, face.cut);
+        return std::string("\\") + (keepsFamilies ? letter : 'f') + family + std::string(argument.substr(end)) + ";";
+    };
+    text.text = WithReplacedCodes(text.text, "fF", replaced);
+    const FontFace first = {keepsFamilies ? plain.family : face.family, keepsCuts ? plain.cut : face.cut};
+    if (IsNameForCode(first.family)) text.text.insert(0, FaceCode(first.family, first.cut));
+}
+
+// Returns the argument of a paragraph code without the alignment: "xi-3" for "xi-3,qc".
+std::string WithoutAlignment(std::string_view argument) {
+    std::string rest(argument);
+    const size_t found = rest.find('q');
+    if (found == rest.npos) return rest;
+    const size_t end = rest.find(',', found);
+    if (end != rest.npos)
+        rest.erase(found, end + 1 - found);
+    else
+        rest.erase(found > 0 && rest[found - 1] == ',' ? found - 1 : found);
+    return rest == "x" ? "" : rest;
 }
 
 // Codes in the text override the attachment, which also holds the vertical alignment.
 void PutAlignment(MText& text, uint16_t format) {
     const int row = (text.attachment - 1) / 3;
     const FormattedText shown = ReadInlineCodes(text.text, text.height);
+    text.text = WithReplacedCodes(text.text, "p", [](char, std::string_view argument) {
+        const std::string rest = WithoutAlignment(argument);
+        return rest.empty() ? rest : "\\p" + rest + ";";
+    });
     if (shown.DominantFormat().alignment == 0)
         text.attachment = row * 3 + format + 1;
     else
-        text.text = std::string("\\pxq") + "lcr"[format] + ";" + WithoutCodes(text.text, "p");
+        text.text = std::string("\\pxq") + "lcr"[format] + ";" + text.text;
 }
 
 } // namespace
@@ -138,7 +171,8 @@ void AppearanceWriter::WriteParagraphs(MText& text, const Appearance& wanted) {
     if (forAll & kVariedSize) text.text = WithoutCodes(text.text, "H");
     if (inGroups().text.height != appearance.height) text.height = appearance.height;
     if (inGroups().text.height != appearance.height) text.text = WithoutCodes(text.text, "H");
-    if (MustPutFace(text, inGroups().text, appearance, forAll)) PutFaceCode(text, appearance);
+    if (MustPutFace(text, inGroups().text, appearance, forAll))
+        PutFaceCode(text, wanted, FaceOf(drawing_.Known().At(text.style)));
     const auto put = [&](uint16_t bit, const char* codes) {
         if (!((inGroups().text.style ^ appearance.style) & bit || forAll & kVariedStyle)) return;
         text.text = WithoutCodes(text.text, codes);
