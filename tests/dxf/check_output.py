@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
 """Checks the files and streams that dxfprops writes to: check_output.py DXFPROPS DRAWING"""
+import json
 import os
 import resource
 import shutil
@@ -75,6 +76,20 @@ done = subprocess.run([DXFPROPS, "set", "plan.dxf", "PenColor=13", "--in-place"]
                       preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, limit), check=False)
 expect("a limit of the size of files", done.returncode == 2 and b"written" in done.stderr, done)
 expect("an unchanged file", read("plan.dxf") == before, done)
+# Names and texts with control characters, and with bytes that are not UTF-8.
+odd = os.path.join(WORK.encode(), b"odd\x1b[1m\n\xe9.dxf")
+with open(odd, "wb") as file:
+    file.write(read("plan.dxf").replace(b"\nLINE\n  5\n", b"\nLINE\n  5\n\x1b[2m").replace(b"\n  0\n\xb3\xdf", b"\n  0\n\x7f"))
+for arguments in (["list"], ["list", "--json"], ["get"], ["get", "--json"], ["get", "--csv"], ["layers"],
+                  ["set", "PenColor=red", "--dry-run"], ["get", "--where", "kind=NONE\x1b"]):
+    done = run(arguments[0], odd, *arguments[1:])
+    shown = (done.stdout + done.stderr).decode()  # fails if it is not UTF-8
+    controls = {c for c in shown if (c < " " and c != "\n") or "\x7f" <= c < "\xa0"}
+    expect(f"control characters {controls} of {arguments}", not controls, done)
+    if "--json" in arguments:
+        expect("JSON", json.loads(shown)[0]["file"].endswith("odd\x1b[1m\n\ufffd.dxf"), done)
+os.remove(odd)
+
 left = set(os.listdir(WORK)) - {"plan.dxf", "plan.dxf.bak", "red.dxf", "link.dxf", "pipe", "dangling", "null"}
 expect(f"other files: {left}", not left, done)
 shutil.rmtree(WORK)

@@ -20,6 +20,7 @@
 #include "files/file_replacement.h"
 #include "tools/cli/arguments.h"
 #include "tools/cli/manual.h"
+#include "tools/cli/printable.h"
 #include "tools/cli/progress.h"
 #include "tools/dxfprops/list_drawings.h"
 #include "tools/dxfprops/output.h"
@@ -143,7 +144,7 @@ private:
     void Fail(const std::string& file, const std::string& message, const std::string& text, uint32_t at,
               ResultPrinter* printer) {
         progress_.Hide();
-        std::cerr << "dxfprops: " << file << ": " << message << "\n";
+        std::cerr << "dxfprops: " << cli::OneLine(file) << ": " << message << "\n";
         if (printer) printer->Fail(text, at);
         result_ = kFailed;
     }
@@ -237,10 +238,10 @@ int ChangeFiles(const CommandLine& line, const Noun& things, bool isConditional,
         matches.count += set.matches.count;
         matches.kinds.insert(set.matches.kinds.begin(), set.matches.kinds.end());
         for (const std::string& note : set.notes)
-            std::cerr << "dxfprops: " << file << ": note: " << note << "\n";
+            std::cerr << "dxfprops: " << cli::OneLine(file) << ": note: " << note << "\n";
         Print(set.differences, "the drawing", "the changed drawing", std::cout);
         std::ostream& out = line.output == kStandardStream ? std::cerr : std::cout;
-        out << file << ": " << set.changed << " " << (set.changed == 1 ? things.one : things.many)
+        out << cli::OneLine(file) << ": " << set.changed << " " << (set.changed == 1 ? things.one : things.many)
             << (line.isDry ? " would change\n" : " changed\n");
     });
     return result != kDone ? result : run.ResultOf(matches, isConditional);
@@ -477,6 +478,7 @@ private:
 int RunWith(const std::vector<std::string>& words) {
     files::RemoveTemporaryFileOnInterrupt();
     std::ios::sync_with_stdio(false);
+    const cli::PrintableBuffer out(std::cout), errors(std::cerr);
     try {
         const int result = Parser().Execute(cli::WithListedArguments(words));
         if (std::cout.flush()) return result;

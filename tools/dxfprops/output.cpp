@@ -11,6 +11,7 @@
 
 #include "tools/cli/arguments.h"
 #include "tools/cli/csv.h"
+#include "tools/cli/printable.h"
 #include "tools/dxfprops/list_drawings.h"
 
 namespace dxfprops {
@@ -19,22 +20,12 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// On one line, as a command line takes it.
 std::string Quoted(const std::string& text) {
-    std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '\n')
-            quoted += "\\n";
-        else if (static_cast<unsigned char>(c) < ' ' || c == '\x7F')
-            quoted += '?';
-        else
-            quoted += c;
-    }
-    return quoted + "\"";
+    return '"' + cli::OneLine(text) + '"';
 }
 
-std::string Dumped(const Json& json) {
-    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+std::string Dumped(const Json& json, int indent = -1) {
+    return cli::Printable(json.dump(indent, ' ', false, Json::error_handler_t::replace), "\\u%04x");
 }
 
 Json Named(const dxf::RecordName& name) {
@@ -72,8 +63,12 @@ std::string LineOf(const Difference& difference, const std::string& before, cons
 
 std::string LineOf(const std::string& name, const Values& values) {
     std::string line = name;
-    for (const auto& [property, value] : values)
-        line += (line.empty() ? "" : " ") + property + "=" + Quoted(value);
+    for (const auto& [property, value] : values) {
+        if (!line.empty()) line += ' ';
+        line += property;
+        line += '=';
+        line += Quoted(value);
+    }
     return line + "\n";
 }
 
@@ -111,7 +106,7 @@ EntityProperties EntityIn(const Json& json) {
 
 void PrintSummary(const std::string& file, std::ostream& out) {
     const auto drawing = DescribeFile(file);
-    out << file << "\n  version   " << drawing["acadver"].dump() << "\n  blocks    " << drawing["blocks"]
+    out << cli::OneLine(file) << "\n  version   " << drawing["acadver"].dump() << "\n  blocks    " << drawing["blocks"]
         << "\n  layers    ";
     for (const auto& layer : drawing["layers"])
         out << Quoted(layer["name"]) << " ";
@@ -149,7 +144,7 @@ void ResultPrinter::BeginFile(const std::string& file, bool isOneOfMany) {
     file_ = file;
     items_ = 0;
     isOpen_ = false;
-    if (form_ == Form::text && isOneOfMany) out_ << file << "\n";
+    if (form_ == Form::text && isOneOfMany) out_ << cli::OneLine(file) << "\n";
 }
 
 void ResultPrinter::BeginObject() {
@@ -255,7 +250,7 @@ bool PrintObjects(const std::vector<std::string>& files, Form form,
         else
             list.push_back(std::move(entry));
     }
-    if (form == Form::json) out << list.dump(2, ' ', false, Json::error_handler_t::replace) << "\n";
+    if (form == Form::json) out << Dumped(list, 2) << "\n";
     return allRead;
 }
 

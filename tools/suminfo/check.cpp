@@ -6,6 +6,7 @@
 #include "orlo/propset/inspect/set_image.h"
 #include "sources.h"
 #include "text.h"
+#include "tools/cli/printable.h"
 
 namespace suminfo {
 namespace {
@@ -32,7 +33,7 @@ std::string Line(const std::string& place, const orlo::Finding& finding) {
 
 Report Check(const Source& source) {
     Report report;
-    const std::string file = OneLine(source.file);
+    const std::string file = cli::OneLine(source.file);
     const SourceSets sets = SetsOf(source);
     for (const auto* all : {&sets.damage, &sets.damagedStreams})
         for (const std::string& damage : *all) {

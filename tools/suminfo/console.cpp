@@ -18,6 +18,7 @@
 
 #include "exit_codes.h"
 #include "text.h"
+#include "tools/cli/printable.h"
 
 namespace suminfo {
 namespace {
@@ -68,7 +69,7 @@ void PrepareStreams() {
 }
 
 void Print(FILE* stream, const std::string& utf8) {
-    const std::string text = Printable(utf8);
+    const std::string text = cli::Printable(utf8);
     if (PrintOnConsole(stream, text)) return;
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (isWritten || stream != stdout) return;

@@ -16,6 +16,7 @@
 #include "files/file_replacement.h"
 #include "text.h"
 #include "tools/cli/arguments.h"
+#include "tools/cli/printable.h"
 #include "tools/cli/progress.h"
 #ifdef _WIN32
 #include "orlo/win/encoded_text.h"
@@ -32,7 +33,7 @@ public:
 
     void Add(const std::string& file, const std::string& why) {
         progress_.Hide();
-        Print(stderr, "suminfo: " + OneLine(file) + ": " + why + "\n");
+        Print(stderr, "suminfo: " + cli::OneLine(file) + ": " + why + "\n");
         Print(stdout, FailureLine(file, why, form_));
     }
 

@@ -11,6 +11,7 @@
 #include "files/file_replacement.h"
 #include "orlo/propset/code_page.h"
 #include "text.h"
+#include "tools/cli/printable.h"
 
 namespace suminfo {
 
@@ -28,7 +29,7 @@ void WriteOutput(const std::string& file, std::string_view bytes) {
 void WarnOfEnding(const std::string& file, const std::string& ending, const std::string& contents) {
     const std::string has = std::filesystem::u8path(file).extension().u8string();
     if (file == kStandardStream || has.empty() || orlo::IsSameName(has, "." + ending)) return;
-    Print(stderr, "suminfo: warning: " + OneLine(file) + ": the file contains " + contents +
+    Print(stderr, "suminfo: warning: " + cli::OneLine(file) + ": the file contains " + contents +
                       "; the usual extension is ." + ending + "\n");
 }
 

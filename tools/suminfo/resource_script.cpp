@@ -20,6 +20,7 @@
 #include "output_file.h"
 #include "sources.h"
 #include "text.h"
+#include "tools/cli/printable.h"
 
 namespace fs = std::filesystem;
 
@@ -157,7 +158,7 @@ void SaveResourceScript(const Source& source, const std::string& script) {
     if (isFile) OnFile(script, [&] { file.emplace(fs::u8path(script)); });
     try {
         CRCFile rc(isFile ? OpenStream(file->Path()) : StandardOutput());
-        Print(summary.Set(), "Sections of " + OneLine(source.file), rc);
+        Print(summary.Set(), "Sections of " + cli::OneLine(source.file), rc);
         rc.Close();
     } catch (CFileException* full) {
         full->Delete();

@@ -11,6 +11,7 @@
 #include "sources.h"
 #include "text.h"
 #include "tools/cli/csv.h"
+#include "tools/cli/printable.h"
 #include "value_display.h"
 
 namespace suminfo {
@@ -76,7 +77,7 @@ void AddTable(const NamedStream& stream, Report& report) {
 }
 
 Report ShowTable(const Source& source) {
-    Report report = {OneLine(source.file) + "\n"};
+    Report report = {cli::OneLine(source.file) + "\n"};
     const SourceSets sets = SetsOf(source);
     if (sets.streams.empty()) report.text += "  no property sets\n";
     for (const NamedStream& stream : sets.streams)
@@ -88,7 +89,7 @@ Report ShowTable(const Source& source) {
 }
 
 std::string JsonLine(const Json& json) {
-    return Printable(json.dump(-1, ' ', false, Json::error_handler_t::replace), "\\u%04x") + "\n";
+    return cli::Printable(json.dump(-1, ' ', false, Json::error_handler_t::replace), "\\u%04x") + "\n";
 }
 
 Report ShowJson(const Source& source) {

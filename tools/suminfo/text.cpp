@@ -16,19 +16,6 @@
 #include "orlo/propset/code_page.h"
 
 namespace suminfo {
-namespace {
-
-// Returns the size in bytes of the first character, or 1 for an invalid byte.
-size_t CharacterSize(std::string_view utf8) {
-    const auto lead = static_cast<unsigned char>(utf8[0]);
-    const size_t size = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 1;
-    for (size_t i = 1; i < size; ++i)
-        if (i == utf8.size() || (utf8[i] & 0xC0) != 0x80) return 1;
-    return size;
-}
-
-} // namespace
-
 std::string Utf8(std::u16string text) {
     const auto isHalf = [&text](size_t i, char16_t first) {
         return i < text.size() && text[i] >= first && text[i] < first + 0x400;
@@ -52,41 +39,6 @@ std::string StreamNameShown(std::string_view name) {
             shown += c;
     }
     return shown;
-}
-
-std::string Printable(std::string_view utf8, const char* escape) {
-    std::string printable;
-    for (size_t i = 0, size = 0; i < utf8.size(); i += size) {
-        unsigned code = static_cast<unsigned char>(utf8[i]);
-        size = CharacterSize(utf8.substr(i));
-        const bool endsLine = code == '\n' || code == '\r';
-        if (size == 2 && code == 0xC2) code = static_cast<unsigned char>(utf8[i + 1]); // shown as a number
-        const bool isControl = (code < 0x20 && !endsLine) || code == 0x7F || (size == 2 && code < 0xA0);
-        const bool isStray = size == 1 && code >= 0x80; // possible in file names, which may contain any bytes
-        if (isControl || isStray) {
-            char escaped[16];
-            std::snprintf(escaped, sizeof escaped, escape, code);
-            printable += escaped;
-        } else {
-            printable += utf8.substr(i, size);
-        }
-    }
-    return printable;
-}
-
-std::string OneLine(std::string_view utf8) {
-    std::string line;
-    for (const char c : utf8) {
-        if (c == '\n')
-            line += "\\n";
-        else if (c == '\r')
-            line += "\\r";
-        else if (c == '\t')
-            line += "\\t";
-        else
-            line += c;
-    }
-    return Printable(line);
 }
 
 std::string Hex(const uint8_t* bytes, size_t size) {

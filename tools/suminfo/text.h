@@ -12,11 +12,6 @@ namespace suminfo {
 std::string Utf8(std::u16string text);
 // Returns a stream's name for display, with the byte 5 of property sets as \005.
 std::string StreamNameShown(std::string_view name);
-// Escapes control characters, which a terminal would interpret, in this format. Line ends are kept.
-std::string Printable(std::string_view utf8, const char* escape = "\\x%02x");
-// Escapes control characters and line ends:
-// , \t, \x01.
-std::string OneLine(std::string_view utf8);
 std::string Hex(const uint8_t* bytes, size_t size);
 std::string Sha256(const std::vector<uint8_t>& bytes);
 

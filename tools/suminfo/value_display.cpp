@@ -12,6 +12,7 @@
 #include "fields.h"
 #include "picture_format.h"
 #include "text.h"
+#include "tools/cli/printable.h"
 
 namespace suminfo {
 namespace {
@@ -112,7 +113,7 @@ std::string List(const orlo::Value& value) {
 
 std::string Shown(const orlo::Value& value, bool span) {
     if (value.type & VT_VECTOR) return List(value);
-    if (const auto* text = std::get_if<std::string>(&value.data)) return OneLine(*text);
+    if (const auto* text = std::get_if<std::string>(&value.data)) return cli::OneLine(*text);
     if (const auto* truth = std::get_if<bool>(&value.data)) return *truth ? "yes" : "no";
     if (const auto* number = std::get_if<int64_t>(&value.data))
         return value.type == VT_CY ? Money(*number) : std::to_string(*number);
@@ -138,7 +139,7 @@ PropertyNames::PropertyNames(const orlo::ImageSection& section) : format_(sectio
 
 std::string PropertyNames::Of(uint32_t id) const {
     const auto named = dictionary_.find(id);
-    if (named != dictionary_.end()) return OneLine(*named->second);
+    if (named != dictionary_.end()) return cli::OneLine(*named->second);
     if (const Field* field = FieldOf(format_, id)) return field->name;
     if (id == kCodePageId) return "code page";
     if (id == kLocaleId) return "locale";
