@@ -272,10 +272,9 @@ void RemoveTemporaryFileOnInterrupt() {
 #ifdef _WIN32
     ::SetConsoleCtrlHandler(RemoveAndEnd, TRUE);
 #else
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGXFSZ})
         if (std::signal(signal, RemoveAndEnd) == SIG_IGN)
             std::signal(signal, SIG_IGN); // keep ignored signals ignored, as set by nohup
-    std::signal(SIGXFSZ, SIG_IGN);
 #endif
 }
 

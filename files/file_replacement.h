@@ -46,7 +46,8 @@ private:
     std::filesystem::path path_;     // empty after the temporary file has been renamed or removed
 };
 
-// Installs handlers that remove the temporary file if the program is interrupted or ended. For command-line
+// Installs handlers that remove the temporary file if the program is interrupted or ended, also if a file exceeds the
+// limit of the size of files. For command-line
 // programs, which replace one file at a time.
 void RemoveTemporaryFileOnInterrupt();
 

@@ -145,7 +145,7 @@ TEST(Import, OpensWhatTheReaderReadsOrFails) {
 TEST(Import, AMissingFileIsReported) {
     RecordedCalls recorded;
     EXPECT_FALSE(Open(L"Z:\\no\\such.dxf", recorded));
-    EXPECT_STREQ(recorded.message, "the file cannot be opened");
+    EXPECT_STREQ(recorded.message, "the file cannot be opened: no such folder");
     EXPECT_FALSE(DrawingOpenDxf(nullptr, nullptr, nullptr, 0));
 }
 

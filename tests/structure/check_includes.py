@@ -48,7 +48,8 @@ for module in "entry pages exchange frame controls wizard".split():
     MAY[f"orlo/{module}"].add("orlo/resources")  # strings, and identifiers of templates and controls
 MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry", "drawcore/include", "orlo/host"}  # without windows
 MAY["drawcore/document"] = {"drawcore/document", "drawcore/units", *MAY["drawcore/save"]}
-MAY["drawcore/export"].add("files")
+for module in "export dxf".split():
+    MAY[f"drawcore/{module}"].add("files")
 
 # Additional headers allowed per module: declarations of the host contract without windows.
 MAY_ALSO = {"orlo/propset": {"orlo/host/memory.h"}, "orlo/summary": {"orlo/host/dib_palette.h", "orlo/host/picture.h"}}

@@ -2,12 +2,14 @@
 
 #include "drawcore/src/dxf/reader.h"
 
-#include <fstream>
+#include <system_error>
 
 #include "drawcore/src/dxf/entity_reader.h"
 #include "drawcore/src/dxf/record_reader.h"
 #include "drawcore/src/dxf/references.h"
 #include "drawcore/src/dxf/table_reader.h"
+#include "files/file_error.h"
+#include "files/open_file.h"
 
 namespace dxf {
 
@@ -171,15 +173,22 @@ ReadError::ReadError(uint32_t line, const std::string& text)
     : std::runtime_error(line == 0 ? text : "line " + std::to_string(line) + ": " + text), line_(line), text_(text) {}
 
 std::string ReadBytes(const std::filesystem::path& path) {
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
-    if (!file) throw ReadError(0, "the file cannot be opened");
-    const std::streamoff size = file.tellg();
-    constexpr std::streamoff kLargest = std::streamoff{2} << 30; // larger files are not drawings
-    if (size < 0 || size > kLargest) throw ReadError(0, "the file cannot be read, or is too large");
-    std::string bytes(static_cast<size_t>(size), '\0');
-    file.seekg(0);
-    if (!file.read(bytes.data(), size)) throw ReadError(0, "the file cannot be read");
-    return bytes;
+    constexpr uint64_t kLargest = uint64_t{2} << 30; // larger files are not drawings
+    try {
+        std::error_code unknown;
+        const std::filesystem::file_status status = std::filesystem::status(path, unknown);
+        if (std::filesystem::is_directory(status)) throw ReadError(0, "it is a folder");
+        if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
+            throw ReadError(0, "not a regular file");
+        const files::OpenFile file = files::OpenToRead(path);
+        const uint64_t size = files::SizeOf(file.get());
+        if (size > kLargest) throw ReadError(0, "the file is too large");
+        std::string bytes(static_cast<size_t>(size), '\0');
+        if (!files::ReadAt(file.get(), 0, bytes.data(), bytes.size())) throw ReadError(0, "the file cannot be read");
+        return bytes;
+    } catch (const files::FileError& error) {
+        throw ReadError(0, error.what());
+    }
 }
 
 std::string_view TextOf(std::string_view bytes) {
