@@ -47,8 +47,7 @@ private:
 };
 
 // Installs handlers that remove the temporary file if the program is interrupted or ended, also if a file exceeds the
-// limit of the size of files. For command-line
-// programs, which replace one file at a time.
+// limit of the size of files. For command-line programs, which replace one file at a time.
 void RemoveTemporaryFileOnInterrupt();
 
 } // namespace files

@@ -340,9 +340,21 @@ def check_layers():
     for layer, value in (("NOTES", "Name=wände"), ("0", "Name=x"), ("ROOF", "On=no")):
         done = run("set-layer", "new.dxf", "--layer", layer, value, "--dry-run")
         expect(f"{value} of {layer}", done.returncode == 2, done)
+    for arguments, code, message in [
+        (["--layer", "ROO*", "On=no"], 1, b"no layer matches ROO*; existing layers: 0, "), (["--layer", "NOTES"], 2, b"nothing to set"),
+        (["--layer", "ROOF", "Name=HUT", "--new"], 2, b"does not exist"),
+        (["--layer", "NOTES", "LineWeight=3 mm"], 2, b"the nearest is 2.11 mm")]:
+        done = run("set-layer", "new.dxf", *arguments, "--dry-run")
+        expect(f"{arguments}", done.returncode == code and message in done.stderr, done)
     run("set-layer", "new.dxf", "--layer", "ROOF", "Color=magenta", "Frozen=yes", "--new", "--in-place")
     roof = audited("new.dxf").layers.get("ROOF")
     expect("an added layer", roof.dxf.color == 6 and roof.is_frozen())
+    drawing = ezdxf.new("R2000")
+    drawing.layers.add("Łódź")
+    drawing.saveas("escaped.dxf")
+    expect("an escaped name", b'Name="\xc5\x81' in run("layers", "escaped.dxf").stdout, run("layers", "escaped.dxf"))
+    run("set-layer", "escaped.dxf", "--layer", "Łó*", "Name=Łódź 2", "Color=red", "--in-place")
+    expect("a renamed one", audited("escaped.dxf").layers.get("Łódź 2").dxf.color == 1)
 
 
 def check_differences():

@@ -124,7 +124,7 @@ using LayerValues = std::map<std::string, Values>; // by names
 LayerValues LayersOf(const dxf::DocumentReader& drawing) {
     LayerValues layers;
     for (const dxf::Contents::Layer& layer : drawing.GetContents().layers)
-        layers.emplace(layer.name, ValuesOf(layer));
+        layers.emplace(dxf::ToDisplayText(layer.name), ValuesOf(layer));
     return layers;
 }
 
@@ -187,13 +187,13 @@ Values ValuesOf(const dxf::Contents::Layer& layer) {
     constexpr int kFrozen = 1, kLocked = 4;
     char weight[32] = "Default";
     if (layer.lineWeight >= 0) std::snprintf(weight, sizeof weight, "%g mm", layer.lineWeight / 100.0);
-    return {{"Name", layer.name},
+    return {{"Name", dxf::ToDisplayText(layer.name)},
             {"On", onOff(layer.color >= 0)},
             {"Frozen", onOff((layer.flags & kFrozen) != 0)},
             {"Locked", onOff((layer.flags & kLocked) != 0)},
             {"Plotted", onOff(layer.isPlotted)},
             {"Color", layer.colorText},
-            {"LineType", layer.lineType},
+            {"LineType", dxf::ToDisplayText(layer.lineType)},
             {"LineWeight", weight}};
 }
 
@@ -265,20 +265,20 @@ SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& 
     dxf::DocumentWriter writer(drawing, {});
     std::vector<std::string> existing;
     for (const dxf::Contents::Layer& layer : drawing.GetContents().layers)
-        existing.push_back(layer.name);
+        existing.push_back(dxf::ToDisplayText(layer.name));
     std::set<std::string> chosen;
     for (const std::string& wanted : layers) {
         size_t count = 0;
         for (const std::string& name : existing)
             if (MatchesWildcards(name, wanted) && ++count > 0) chosen.insert(name);
-        if (count == 0 && !cli::HasWildcard(wanted) && isNew && chosen.insert(wanted).second) ++count;
+        if (count == 0 && !cli::HasWildcard(wanted) && isNew && !values.name && chosen.insert(wanted).second) ++count;
         if (count == 0 && !cli::HasWildcard(wanted)) throw dxf::SaveError("layer '" + wanted + "' does not exist");
     }
     if (values.name && chosen.size() > 1) throw dxf::SaveError("only one layer can be renamed to " + *values.name);
     SetResult result;
     for (const std::string& name : chosen)
         result.changed += writer.ChangeLayer(name, values);
-    result.matches.count = chosen.size();
+    result.matches = {chosen.size(), {existing.begin(), existing.end()}};
     Finish(drawing, writer, target, result);
     return result;
 }

@@ -18,7 +18,7 @@ struct EntityProperties {
     Values values;
 };
 
-// The number of selected entities, and if there are none, the kinds of those that could have been.
+// The number of selected entities or layers, and if there are none, the kinds or names of those that could have been.
 struct Matches {
     size_t count = 0;
     std::set<std::string> kinds;

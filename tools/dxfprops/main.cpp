@@ -51,6 +51,11 @@ Exit codes: 0 success; 1 no entity matched, or diff found differences; 2 invalid
 // An invalid command line; what() is the reason.
 using UsageError = std::invalid_argument;
 
+struct Noun {
+    const char *one, *many, *kinds; // `kinds`: what is listed if none matches
+};
+constexpr Noun kEntities = {"entity", "entities", "kinds"}, kLayers = {"layer", "layers", "layers"};
+
 struct CommandLine {
     std::vector<std::string> files, where, show, rest, layers;
     std::string space, within, output, before, after;
@@ -124,17 +129,15 @@ public:
     }
 
     // Like search programs, returns a separate exit code if nothing was found.
-    int ResultOf(const Matches& matches, bool isConditional) {
+    int ResultOf(const Matches& matches, const Noun& things, bool isConditional) {
         if (result_ != kDone || matches.count > 0 || !isConditional) return result_;
-        std::cerr << "dxfprops: no entity matches";
-        for (const std::string& condition : line_.where)
-            std::cerr << " " << condition;
+        std::cerr << "dxfprops: no " << things.one << " matches";
+        for (const std::vector<std::string>& conditions : {line_.where, line_.layers})
+            for (const std::string& condition : conditions)
+                std::cerr << " " << condition;
         if (!line_.within.empty()) std::cerr << " --within " << line_.within;
-        const char* separator = "; existing kinds: ";
-        for (const std::string& kind : matches.kinds) {
-            std::cerr << separator << kind;
-            separator = ", ";
-        }
+        if (!matches.kinds.empty())
+            std::cerr << "; existing " << things.kinds << ": " << Joined({matches.kinds.begin(), matches.kinds.end()});
         std::cerr << "\n";
         return kNothing;
     }
@@ -178,7 +181,7 @@ int Get(const CommandLine& line) {
             matches.kinds.insert(found.kinds.begin(), found.kinds.end());
         });
     }
-    return result != kDone ? result : run.ResultOf(matches, IsConditional(line));
+    return result != kDone ? result : run.ResultOf(matches, kEntities, IsConditional(line));
 }
 
 // "NAME=VALUE", whose name is a property or an attribute's.
@@ -222,10 +225,6 @@ void RequireTarget(const CommandLine& line) {
     if (line.isInPlace && isFromInput) throw UsageError("--in-place requires a file, not standard input; use -o OUT");
 }
 
-struct Noun {
-    const char *one, *many;
-};
-
 // Changes each file by the call and reports the counts.
 template <class Change>
 int ChangeFiles(const CommandLine& line, const Noun& things, bool isConditional, Change change) {
@@ -244,10 +243,8 @@ int ChangeFiles(const CommandLine& line, const Noun& things, bool isConditional,
         out << cli::OneLine(file) << ": " << set.changed << " " << (set.changed == 1 ? things.one : things.many)
             << (line.isDry ? " would change\n" : " changed\n");
     });
-    return result != kDone ? result : run.ResultOf(matches, isConditional);
+    return result != kDone ? result : run.ResultOf(matches, things, isConditional);
 }
-
-constexpr Noun kEntities = {"entity", "entities"}, kLayers = {"layer", "layers"};
 
 int Set(CommandLine& line) {
     const Values values = TakeValues(line, IsAssignment, [](const std::string& name) { RequireName(name, false); });
@@ -352,13 +349,15 @@ int SetLayer(CommandLine& line) {
         return word.find('=') != word.npos && FindLayerField(SplitAssignment(word).first);
     };
     dxf::LayerValues wanted;
-    for (const auto& [name, text] : TakeValues(line, isValue, [](const std::string& name) {
-             throw UsageError("'" + name + "' is not one of " + LayerFieldNames());
-         }))
+    const Values values = TakeValues(line, isValue, [](const std::string& name) {
+        throw UsageError("'" + name + "' is not one of " + LayerFieldNames());
+    });
+    for (const auto& [name, text] : values)
         FindLayerField(name)->set(wanted, text);
     if (line.layers.empty()) throw UsageError("specify a layer: --layer NAME");
+    if (values.empty() && !line.isNew) throw UsageError("nothing to set: specify a value, such as Color=red");
     RequireTarget(line);
-    return ChangeFiles(line, kLayers, false, [&](const DrawingFile& drawing, const Target& target, const std::string&) {
+    return ChangeFiles(line, kLayers, true, [&](const DrawingFile& drawing, const Target& target, const std::string&) {
         return SetLayers(drawing, line.layers, wanted, line.isNew, target);
     });
 }

@@ -55,6 +55,9 @@ std::string ReadBytes(const std::filesystem::path& path);
 // Returns whether two names are equal, regardless of the case of the letters A to Z.
 bool IsSameName(std::string_view a, std::string_view b);
 
+// Resolves escapes: "\U+00C4" becomes an A with diaeresis, "\M+1835C" the character in its code page.
+std::string ToDisplayText(std::string_view stored);
+
 // The name of a record in messages.
 struct RecordName {
     std::string kind;   // "LINE"
@@ -71,7 +74,7 @@ struct Warning {
     std::string text;
 };
 
-// The contents of a document. Names are as stored in the file, with escapes like \U+00C4.
+// The contents of a document. Names are as stored in the file, with escapes like \U+00C4; see ToDisplayText.
 struct Contents {
     struct Layer {
         std::string name;
@@ -186,7 +189,7 @@ struct LayerValues {
     std::optional<bool> isOn, isFrozen, isLocked, isPlotted;
     std::optional<std::string> color;      // in the formats of PenColor, except By Layer and By Block
     std::optional<std::string> lineType;   // of the document, or Continuous
-    std::optional<std::string> lineWeight; // "0.5 mm", or Default
+    std::optional<std::string> lineWeight; // "0.5 mm", one of the file format, or Default
     std::optional<std::string> name;       // the new name
 };
 

@@ -162,7 +162,11 @@ int ReadLineWeight(const std::string& text) {
     double millimeters = 0;
     if (!drawcore::ReadLength(text, *drawcore::FindLengthUnit("mm"), millimeters) || millimeters < 0)
         throw SaveError("'" + text + "' is not a line weight, such as \"0.5 mm\" or Default");
-    return NearestWeight(millimeters / kMillimetersPerInch);
+    const int nearest = NearestWeight(millimeters / kMillimetersPerInch);
+    if (std::fabs(nearest / 100.0 - millimeters) > 1e-6)
+        throw SaveError("no layer can have the line weight '" + text + "'; the nearest is " +
+                        drawcore::DecimalText(nearest / 100.0, 2) + " mm");
+    return nearest;
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "drawcore/include/drawcore/dxf_document.h" // ToDisplayText
+
 namespace dxf {
 
 // Parses a number that makes up the whole text. base: of an integer, if not 10.
@@ -43,9 +45,6 @@ private:
     uint16_t page_ = 1252;
     bool utf8_ = false;
 };
-
-// Resolves escapes: "\U+00C4" becomes an A with diaeresis, "\M+1835C" the character in its code page.
-std::string ToDisplayText(std::string_view stored);
 
 // Reads a text of extended data of kApplication, in which control characters are escaped: "^J" is a line feed, "^ " a
 // caret.
