@@ -107,6 +107,13 @@ def check_forms():
     for option, beginning in (("--version", b"dxfprops 1."), ("--man", b".TH DXFPROPS"),
                               ("--completion", b"# Completion")):
         expect(option, run(option).stdout.startswith(beginning), run(option))
+    expect("the examples of the manual page", run("--man").stdout.count(b"Examples:") == 1)
+    script = run("--completion").stdout.decode()
+    for words, wanted in ((["get", "a.dxf", "--show", "PenW"], "PenWidth"), (["set", "a.dxf", "PenW"], "PenWidth="),
+                          (["set-layer", "a.dxf", "LineT"], "LineType="), (["apply", "a.json", "-"], "-o")):
+        line = f"COMP_WORDS=(dxfprops {' '.join(words)}) COMP_CWORD={len(words)}; _dxfprops; echo ${{COMPREPLY[@]}}"
+        done = subprocess.run(["bash"], input=f"{script}\n{line} 2>/dev/null\n", capture_output=True, text=True, check=False)
+        expect(f"completion of {words}", wanted in done.stdout.split(), done)
 
 
 def check_values():

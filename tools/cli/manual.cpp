@@ -68,15 +68,21 @@ std::string ManPage(const CLI::App& app, const std::string& version) {
     page += ".SH OPTIONS\n" + OptionList(app) + ".SH COMMANDS\n";
     for (const CLI::App* command : commands)
         page += ".SS " + Roff(command->get_name()) + "\n" + Roff(command->get_description()) + ".\n" +
-                OptionList(*command) + Verbatim(command->get_footer());
+                OptionList(*command) +
+                (command->get_footer() != app.get_footer() ? Verbatim(command->get_footer()) : "");
     return page + ".SH NOTES\n" + Verbatim(app.get_footer());
 }
 
-std::string LongNames(const CLI::App& app) {
+// Returns the long names of all options, and the short names of those without one.
+std::string OptionNames(const CLI::App& app) {
     std::string names;
-    for (const CLI::Option* option : app.get_options())
+    for (const CLI::Option* option : app.get_options()) {
         for (const std::string& name : option->get_lnames())
             names += " --" + name;
+        if (!option->get_lnames().empty()) continue;
+        for (const std::string& name : option->get_snames())
+            names += " -" + name;
+    }
     return names;
 }
 
@@ -88,7 +94,7 @@ std::string BashCompletion(const CLI::App& app, const CompletedWords& words) {
         script += (command == CommandsOf(app).front() ? "" : " ") + command->get_name();
     script += "\"\n    case ${COMP_WORDS[1]} in\n";
     for (const CLI::App* command : CommandsOf(app)) {
-        script += "        " + command->get_name() + ") options=\"" + LongNames(*command).substr(1) + "\"";
+        script += "        " + command->get_name() + ") options=\"" + OptionNames(*command).substr(1) + "\"";
         const auto more = words.find(command->get_name());
         if (more != words.end()) {
             script += " words=\"";
@@ -98,7 +104,7 @@ std::string BashCompletion(const CLI::App& app, const CompletedWords& words) {
         }
         script += " ;;\n";
     }
-    return script + "        *) options=\"" + LongNames(app).substr(1) +
+    return script + "        *) options=\"" + OptionNames(app).substr(1) +
            "\" ;;\n    esac\n"
            "    COMPREPLY=()\n"
            "    if [ \"$COMP_CWORD\" = 1 ]; then\n"

@@ -337,11 +337,11 @@ const LayerField* FindLayerField(const std::string& name) {
     return nullptr;
 }
 
-std::string LayerFieldNames() {
+std::vector<std::string> LayerFieldNames() {
     std::vector<std::string> names;
     for (const LayerField& field : kLayerFields)
-        names.push_back(field.name);
-    return Joined(names);
+        names.emplace_back(field.name);
+    return names;
 }
 
 int SetLayer(CommandLine& line) {
@@ -350,7 +350,7 @@ int SetLayer(CommandLine& line) {
     };
     dxf::LayerValues wanted;
     const Values values = TakeValues(line, isValue, [](const std::string& name) {
-        throw UsageError("'" + name + "' is not one of " + LayerFieldNames());
+        throw UsageError("'" + name + "' is not one of " + Joined(LayerFieldNames()));
     });
     for (const auto& [name, text] : values)
         FindLayerField(name)->set(wanted, text);
@@ -372,8 +372,11 @@ std::vector<std::string> WithEquals(std::vector<std::string> names) {
 class Parser {
 public:
     Parser() : app_("Reads and sets the properties of entities in DXF drawings", "dxfprops") {
-        cli::AddCommonOptions(app_, DXFPROPS_VERSION, {{"set", WithEquals(dxf::DocumentReader::PropertyNames())}});
-        app_.footer("Properties: " + Joined(dxf::DocumentReader::PropertyNames()) + ".\n" + kExamples);
+        const std::vector<std::string> names = dxf::DocumentReader::PropertyNames();
+        cli::AddCommonOptions(
+            app_, DXFPROPS_VERSION,
+            {{"get", names}, {"set", WithEquals(names)}, {"set-layer", WithEquals(LayerFieldNames())}});
+        app_.footer("Properties: " + Joined(names) + ".\n" + kExamples);
         AddReaders();
         AddWriters();
     }
@@ -459,7 +462,8 @@ private:
         AddSelection(set);
         AddTarget(set);
         CLI::App* layer = Add("set-layer", "Change layers", [](CommandLine& line) { return SetLayer(line); });
-        layer->add_option("FILE NAME=VALUE", line_.rest, "drawings, and values of " + LayerFieldNames())->required();
+        layer->add_option("FILE NAME=VALUE", line_.rest, "drawings, and values of " + Joined(LayerFieldNames()))
+            ->required();
         layer->add_option("--layer", line_.layers, "name of a layer; * and ? are wildcards")->allow_extra_args(false);
         layer->add_flag("--new", line_.isNew, "add layers that do not exist");
         AddTarget(layer);
