@@ -103,6 +103,16 @@ def check_forms():
     done = run("get", "plan.dxf", "--csv", "--show", "Layer,PenColor", "--where", "kind=TEXT|LINE")
     table = done.stdout.decode().splitlines()
     expect("CSV", table[0] == "file,kind,handle,line,block,Layer,PenColor,error" and len(table) == 6, table)
+    for files in (["none.dxf", "plan.dxf"], ["plan.dxf", "none.dxf"]):
+        done = run("diff", *files, "--json")
+        is_named = b"dxfprops: none.dxf: " in done.stderr and json.loads(done.stdout)[0]["file"] == "none.dxf"
+        expect(f"differences of {files}", done.returncode == 2 and is_named, done)
+    for arguments in (["get", "-", "-"], ["diff", "-", "-"], ["list", "-", "-"]):
+        done = run(*arguments, stdin=read("plan.dxf"))
+        expect(f"{arguments}", done.returncode == 2 and b"only once" in done.stderr, done)
+    make("-r.dxf")
+    done = run("set", "--in-place", "PenColor=12", "--", "-r.dxf")
+    expect("a name that begins with a hyphen", done.stdout.startswith(b"./-r.dxf: ") and done.returncode == 0, done)
     expect("an empty array", json.loads(run("get", "none.dxf", "--json").stdout)[0]["file"] == "none.dxf")
     for option, beginning in (("--version", b"dxfprops 1."), ("--man", b".TH DXFPROPS"),
                               ("--completion", b"# Completion")):

@@ -126,6 +126,15 @@ void AddPrinted(CLI::App& app, const char* name, const char* description, const 
         name, [text] { throw CLI::CallForVersion(text(), 0); }, description);
 }
 
+// After "--" there are no options. The parser would end the command there.
+void NameFilesAfterOptions(std::vector<std::string>& arguments) {
+    const auto end = std::find(arguments.begin(), arguments.end(), "--");
+    if (end == arguments.end()) return;
+    for (auto name = end + 1; name != arguments.end(); ++name)
+        if (name->size() > 1 && name->front() == '-') name->insert(0, "./");
+    arguments.erase(end);
+}
+
 } // namespace
 
 void AddCommonOptions(CLI::App& app, const std::string& version, const CompletedWords& words) {
@@ -153,6 +162,7 @@ ParseResult Parse(CLI::App& app, std::vector<std::string> arguments) {
             return result;
         }
     }
+    NameFilesAfterOptions(arguments);
     std::reverse(arguments.begin(), arguments.end()); // the order that the parser expects
     try {
         app.parse(arguments);

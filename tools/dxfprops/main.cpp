@@ -105,25 +105,28 @@ public:
     template <class Work>
     int ForEach(const std::vector<std::string>& files, ResultPrinter* printer, Work work) {
         for (const std::string& file : files) {
+            file_ = file;
             try {
                 if (printer) printer->BeginFile(file, files.size() > 1);
                 work(file);
                 if (printer) printer->EndFile();
             } catch (const dxf::ReadError& error) {
-                Fail(file, error.what(), error.Text(), error.Line(), printer);
+                Fail(error.what(), error.Text(), error.Line(), printer);
             } catch (const std::bad_alloc&) {
-                Fail(file, "not enough memory", "not enough memory", 0, printer);
+                Fail("not enough memory", "not enough memory", 0, printer);
             } catch (const std::invalid_argument&) {
                 throw;                              // the command line
             } catch (const std::exception& error) { // SaveError, FileError
-                Fail(file, error.what(), error.what(), 0, printer);
+                Fail(error.what(), error.what(), 0, printer);
             }
             progress_.Finish();
         }
         return result_;
     }
 
+    // A failure from now on is reported as one of this file.
     DrawingFile Open(const std::string& file) {
+        file_ = file;
         if (!line_.showsProgress) return DrawingFile(file);
         return DrawingFile(file, [this, &file](int permille) { progress_.Show(file, permille); });
     }
@@ -144,16 +147,16 @@ public:
 
 private:
     static void DrawBar(const std::string& bar) { std::cerr << bar << std::flush; }
-    void Fail(const std::string& file, const std::string& message, const std::string& text, uint32_t at,
-              ResultPrinter* printer) {
+    void Fail(const std::string& message, const std::string& text, uint32_t at, ResultPrinter* printer) {
         progress_.Hide();
-        std::cerr << "dxfprops: " << cli::OneLine(file) << ": " << message << "\n";
-        if (printer) printer->Fail(text, at);
+        std::cerr << "dxfprops: " << cli::OneLine(file_) << ": " << message << "\n";
+        if (printer) printer->Fail(file_, text, at);
         result_ = kFailed;
     }
 
     const CommandLine& line_;
     cli::Progress progress_;
+    std::string file_; // that is being processed
     int result_ = kDone;
 };
 
@@ -215,7 +218,15 @@ Values TakeValues(CommandLine& line, IsValue isValue, Require require) {
     return values;
 }
 
+void RequireOneInput(const CommandLine& line) {
+    const auto isInput = [](const std::string& name) { return name == kStandardStream; };
+    const auto count = std::count_if(line.files.begin(), line.files.end(), isInput);
+    if (count + isInput(line.before) + isInput(line.after) > 1)
+        throw UsageError("standard input can be read only once");
+}
+
 void RequireTarget(const CommandLine& line) {
+    RequireOneInput(line);
     if (line.files.empty()) throw UsageError("no input file");
     const int targets = !line.output.empty() + line.isInPlace + line.isDry;
     if (targets != 1) throw UsageError("specify the output: -o OUT, --in-place or --dry-run");
@@ -286,7 +297,8 @@ int Diff(const CommandLine& line) {
         ResultPrinter printer(line.form, ResultPrinter::Items::differences, {}, std::cout);
         result = run.ForEach({line.after}, &printer, [&](const std::string& after) {
             const Compared compared = line.onlyProperties ? Compared::properties : Compared::all;
-            const auto differences = FindDifferences(run.Open(line.before), run.Open(after), compared);
+            const DrawingFile before = run.Open(line.before); // first, so that its failure has its name
+            const auto differences = FindDifferences(before, run.Open(after), compared);
             for (const Difference& difference : differences)
                 printer.Add(difference, line.before, after);
             count = differences.size();
@@ -388,6 +400,7 @@ public:
         if (!result.isParsed) return result.error.empty() ? kDone : kFailed;
         try {
             line_.files = cli::WithoutWildcards(line_.files);
+            RequireOneInput(line_);
             return command_(line_);
         } catch (const UsageError& error) {
             std::cerr << "dxfprops: " << error.what() << "\n";

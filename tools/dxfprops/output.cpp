@@ -78,7 +78,7 @@ const char* ListName(ResultPrinter::Items items) {
                                                    : "differences";
 }
 
-// What get prints for a file that failed.
+// Throws ReadError for the object that get prints for a file that failed.
 void RequireNoError(const Json& json) {
     if (!json.contains("error")) return;
     const std::string file = json.at("file").get<std::string>();
@@ -216,11 +216,11 @@ void ResultPrinter::EndFile() {
     out_ << (items_ == 0 ? "]}" : "\n  ]}");
 }
 
-void ResultPrinter::Fail(const std::string& error, uint32_t line) {
-    const Json what{{"file", file_}, {"error", error}, {"line", line ? Json(line) : Json()}};
+void ResultPrinter::Fail(const std::string& file, const std::string& error, uint32_t line) {
+    const Json what{{"file", file}, {"error", error}, {"line", line ? Json(line) : Json()}};
     if (form_ == Form::csv) {
         std::vector<std::string> values(columns_.size() + (kind_ == Items::entities ? 6 : 2));
-        values.front() = file_;
+        values.front() = file;
         values.back() = error;
         out_ << cli::CsvLine(values);
     } else if (form_ == Form::jsonLines) {

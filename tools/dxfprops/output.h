@@ -40,7 +40,7 @@ public:
     void Add(const dxf::Contents::Layer& layer);
     void EndFile();
     // Prints an error in place of a file's results, or after some of them.
-    void Fail(const std::string& error, uint32_t line);
+    void Fail(const std::string& file, const std::string& error, uint32_t line);
 
 private:
     void AddJson(nlohmann::ordered_json item);
