@@ -394,6 +394,12 @@ def check_differences():
         ["INSERT", "Position", None]], changed)
     expect("properties alone", run("diff", "plan.dxf", "out.dxf", "--only-properties").returncode == 0)
     expect("identical files", run("diff", "plan.dxf", "plan.dxf").returncode == 0)
+    for moved in (1e-7, 1e-15):
+        drawing = ezdxf.readfile("plan.dxf")
+        drawing.modelspace().query("LINE")[0].dxf.end = (moved, 5)
+        drawing.saveas("near.dxf")
+        done = run("diff", "plan.dxf", "near.dxf")
+        expect(f"a coordinate that differs by {moved}", done.returncode == (1 if moved > 1e-12 else 0), done)
     with open("twice.dxf", "wb") as file:  # two circles of one handle, as in damaged drawings
         circle = read("plan.dxf").partition(b"\n  0\nCIRCLE\n")[2].partition(b"\n  0\n")[0]
         other = circle.replace(b"\n 40\n3.0", b"\n 40\n4.0")

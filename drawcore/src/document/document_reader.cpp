@@ -198,11 +198,22 @@ bool IsOfShape(int code) {
     return (isNumber || isText) && !isAppearance;
 }
 
+// Returns the number with up to nine decimal places, beyond which it may differ by rounding.
+std::string ComparableNumber(double number) {
+    constexpr int kDecimals = 9;
+    char text[512]; // more than the longest number has
+    const auto [end, error] = std::to_chars(text, text + sizeof text, number, std::chars_format::fixed, kDecimals);
+    std::string decimal(text, error == std::errc() ? end : text);
+    decimal.erase(decimal.find_last_not_of('0') + 1);
+    if (!decimal.empty() && decimal.back() == '.') decimal.pop_back();
+    return decimal == "-0" ? "0" : decimal;
+}
+
 // Normalizes numbers, which programs write in different ways.
 std::string Comparable(const Tag& tag) {
     const std::string_view text = tag.Trimmed();
     const auto number = tag.code >= 10 ? ParseNumber<double>(text) : std::nullopt;
-    return std::to_string(tag.code) + " " + (number ? std::to_string(*number) : std::string(text));
+    return std::to_string(tag.code) + " " + (number ? ComparableNumber(*number) : std::string(text));
 }
 
 // Calls visit for each group of the entity and its vertices, and returns the offset of the end.
