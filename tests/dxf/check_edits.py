@@ -305,6 +305,11 @@ def check_placements():
             wanted = [*map(float, scale), 200 if len(values) == 2 else rotation]
             found = [placed.xscale, placed.yscale, placed.zscale, placed.rotation]
             expect(f"{values} of {scales}", found == wanted, (found, done))
+    door.dxf.insert = (13.1, 0.7)
+    drawing.saveas("mirrored.dxf")
+    done = run("set", "mirrored.dxf", "--where", "BlockName=DOOR", "Position=-5.5,7.1,3", "-o", "out.dxf")
+    place = tuple(audited("out.dxf").modelspace().query('INSERT[name=="DOOR"]')[0].dxf.insert)
+    expect("a position without rounding", place == (-5.5, 7.1, 3), (place, done))
     for values, height in [(["Scale=2"], 4), (["Scale=2", "PenColor=12"], 4), (["Scale=2", "TextSize=3"], 3)]:
         done = run("set", "plan.dxf", *values, "-o", "out.dxf")
         frame = audited("out.dxf").modelspace().query('INSERT[name=="FRAME"]')[0]

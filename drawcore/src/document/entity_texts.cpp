@@ -152,6 +152,7 @@ std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
     const Vec3 motion = to - ends[0];
     for (Vec3& end : ends)
         end = end + motion;
+    ends[0] = to; // without the rounding of the sum
     return ends;
 }
 
