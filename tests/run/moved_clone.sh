@@ -10,6 +10,6 @@ mkdir -p "$clone/build/x86_64"
 echo "CMAKE_HOME_DIRECTORY:INTERNAL=$clone-before" >"$clone/build/x86_64/CMakeCache.txt"
 
 if said=$("$clone/run" build 2>&1); then echo "it went on: $said"; exit 1; fi
-for words in "made for $clone-before" "moved or copied" "rm -r build"; do
+for words in "configured for $clone-before" "moved or copied" "rm -r build"; do
     [[ $said == *"$words"* ]] || { echo "'$words' is missing in: $said"; exit 1; }
 done
