@@ -8,7 +8,6 @@
 #include "demo/viewer/resource.h"
 #include "demo/viewer/value_counts.h"
 #include "orlo/controls/check_list_box.h"
-#include "orlo/win/child_windows.h"
 #include "orlo/wizard/wizard_sheet.h"
 
 namespace {
@@ -66,7 +65,9 @@ protected:
     BOOL OnInitDialog() override {
         CPropertyPage::OnInitDialog();
         CWnd* place = GetDlgItem(IDC_STYLE_PARTS_PLACE);
-        const CRect rect = PlaceIn(m_hWnd, place->m_hWnd);
+        CRect rect;
+        place->GetWindowRect(&rect);
+        ScreenToClient(&rect);
         constexpr DWORD kStyle =
             WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY;
         if (!m_list.Create(kStyle, rect, this, IDC_STYLE_PARTS)) return TRUE;
