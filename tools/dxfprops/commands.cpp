@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <map>
 
 #include "tools/cli/wildcard.h"
@@ -260,20 +261,31 @@ SetResult ApplyProperties(const DrawingFile& drawing, const std::vector<EntityPr
     return result;
 }
 
+namespace {
+
+// Returns the existing layers that match the patterns, with addsMissing also the names that do not exist.
+std::set<std::string> ChooseLayers(const std::vector<std::string>& existing, const std::vector<std::string>& patterns,
+                                   bool addsMissing) {
+    std::set<std::string> chosen;
+    for (const std::string& pattern : patterns) {
+        const auto matches = [&](const std::string& name) { return MatchesWildcards(name, pattern); };
+        std::copy_if(existing.begin(), existing.end(), std::inserter(chosen, chosen.end()), matches);
+        if (cli::HasWildcard(pattern) || std::any_of(existing.begin(), existing.end(), matches)) continue;
+        if (!addsMissing) throw dxf::SaveError("layer '" + pattern + "' does not exist");
+        chosen.insert(pattern);
+    }
+    return chosen;
+}
+
+} // namespace
+
 SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& layers, const dxf::LayerValues& values,
                     bool isNew, const Target& target) {
     dxf::DocumentWriter writer(drawing, {});
     std::vector<std::string> existing;
     for (const dxf::Contents::Layer& layer : drawing.GetContents().layers)
         existing.push_back(dxf::ToDisplayText(layer.name));
-    std::set<std::string> chosen;
-    for (const std::string& wanted : layers) {
-        size_t count = 0;
-        for (const std::string& name : existing)
-            if (MatchesWildcards(name, wanted) && ++count > 0) chosen.insert(name);
-        if (count == 0 && !cli::HasWildcard(wanted) && isNew && !values.name && chosen.insert(wanted).second) ++count;
-        if (count == 0 && !cli::HasWildcard(wanted)) throw dxf::SaveError("layer '" + wanted + "' does not exist");
-    }
+    const std::set<std::string> chosen = ChooseLayers(existing, layers, isNew && !values.name);
     if (values.name && chosen.size() > 1) throw dxf::SaveError("only one layer can be renamed to " + *values.name);
     SetResult result;
     for (const std::string& name : chosen)

@@ -57,6 +57,26 @@ void DrawingFile::Write(const std::string& bytes, const std::string& output, boo
     }
 }
 
+namespace {
+
+std::vector<std::string> DistinctNames(const std::vector<std::string>& names) {
+    std::vector<std::string> distinct;
+    for (const std::string& name : names)
+        if (std::none_of(distinct.begin(), distinct.end(),
+                         [&name](const std::string& other) { return dxf::IsSameName(name, other); }))
+            distinct.push_back(name);
+    return distinct;
+}
+
+// Returns the first condition that compares the name of the block, or null.
+const Condition* FindBlockCondition(const Selection& selection, Comparison comparison) {
+    for (const Condition& condition : selection.where)
+        if (condition.name == kBlock && condition.comparison == comparison) return &condition;
+    return nullptr;
+}
+
+} // namespace
+
 std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) const {
     std::vector<dxf::EntityRef> found;
     const auto add = [&found](std::vector<dxf::EntityRef> some) {
@@ -64,23 +84,13 @@ std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) cons
         found.insert(found.end(), some.begin(), some.end());
     };
     constexpr char kBlockIs[] = "block=";
-    const auto find = [&selection](Comparison comparison) -> const Condition* {
-        for (const Condition& condition : selection.where)
-            if (condition.name == kBlock && condition.comparison == comparison) return &condition;
-        return nullptr;
-    };
-    const Condition* named = selection.space.empty() ? find(Comparison::equal) : nullptr;
-    const bool isLike = selection.space.empty() && !named && find(Comparison::like);
+    const Condition* named = selection.space.empty() ? FindBlockCondition(selection, Comparison::equal) : nullptr;
+    const bool isLike = selection.space.empty() && !named && FindBlockCondition(selection, Comparison::like);
     const std::string space = isLike ? "all" : selection.space.empty() ? "model" : selection.space;
     if (space.rfind(kBlockIs, 0) == 0) return EntitiesOf(space.substr(sizeof kBlockIs - 1));
     if (named) {
-        std::vector<std::string> added;
-        for (const std::string& block : named->values) {
-            const auto isIt = [&block](const std::string& other) { return dxf::IsSameName(block, other); };
-            if (std::any_of(added.begin(), added.end(), isIt)) continue;
+        for (const std::string& block : DistinctNames(named->values))
             add(EntitiesOf(block));
-            added.push_back(block);
-        }
         return found;
     }
     if (space != "model") add(PaperEntities());

@@ -1,4 +1,5 @@
 // Reads the contents of a document and the properties of its entities.
+#include <charconv>
 #include <cstdlib>
 
 #include "drawcore/src/document/contents.h"

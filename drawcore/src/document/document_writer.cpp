@@ -37,6 +37,8 @@ struct DocumentWriter::Parts {
         Values properties, others;
     };
     Ordered InOrder(const Values& values) const;
+    // Returns what the values change of the entity's texts and place.
+    EntityEdit EditOf(const EntityRef& entity, const Ordered& values) const;
     bool Change(const EntityRef& ref, const Ordered& values);
     // Returns the appearance of the entity with other contents of its text.
     Appearance AppearanceWith(const std::string& contents, const Entity& entity);
@@ -85,14 +87,19 @@ bool DocumentWriter::Change(const EntityRef& entity, const Values& values) {
     return parts_->Change(entity, parts_->InOrder(values));
 }
 
-bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) {
-    const Entity& entity = *ref.entity_;
+EntityEdit DocumentWriter::Parts::EditOf(const EntityRef& ref, const Ordered& values) const {
     EntityEdit edit;
     for (const auto& [name, text] : values.others) {
-        if (!EntityTexts::Has(entity, name)) continue;
+        if (!EntityTexts::Has(*ref.entity_, name)) continue;
         const std::string value = reader.entityTexts_->Normalized(name, text);
         if (reader.Get(ref, name) != value) EntityTexts::Set(name, value, edit);
     }
+    return edit;
+}
+
+bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) {
+    const Entity& entity = *ref.entity_;
+    EntityEdit edit = EditOf(ref, values);
     const auto moved = wanted.find(entity.offset); // an attribute that moves with its insertion
     // Inline codes of a new text are part of the appearance that the other values change.
     Appearance was = edit.text ? AppearanceWith(*edit.text, entity) : AppearanceOf(known, entity);
@@ -105,9 +112,9 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     if (appearance == was && !edit.text && !ends && !isMoved) return false;
     EntityChange entityChange;
     Insert numbers;
-    const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape);
+    const Insert* insert = As<Insert>(entity);
     if (ends) {
-        numbers = edit.NumbersOf(**insert);
+        numbers = edit.NumbersOf(*insert);
         entityChange.ends = &*ends;
         entityChange.numbers = &numbers;
     }
@@ -120,7 +127,7 @@ bool DocumentWriter::Parts::Change(const EntityRef& ref, const Ordered& values) 
     }
     wanted.insert_or_assign(entity.offset, Wanted{std::move(appearance), std::move(edit)});
     if (ends)
-        for (const Entity& attribute : (*insert)->attributes)
+        for (const Entity& attribute : insert->attributes)
             wanted.emplace(attribute.offset, Wanted{patch.AppearanceAt(attribute.offset), {}});
     return true;
 }
@@ -248,8 +255,8 @@ void DocumentWriter::Parts::RequireEntities(const Block* block, const std::vecto
         if (entity.shape.index() != changed.shape.index() || entity.inPaperSpace != changed.inPaperSpace)
             FailVerification(reader.NameOf({entity, block}).Text());
         if (PropertyTexts::HasAny(entity)) RequireEntity({entity, block}, {changed, block}, after);
-        if (const auto* insert = std::get_if<Boxed<Insert>>(&entity.shape))
-            RequireEntities(block, (*insert)->attributes, std::get<Boxed<Insert>>(changed.shape)->attributes, after);
+        if (const Insert* insert = As<Insert>(entity))
+            RequireEntities(block, insert->attributes, As<Insert>(changed)->attributes, after);
     }
 }
 

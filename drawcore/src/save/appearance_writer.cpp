@@ -172,6 +172,15 @@ void AppearanceWriter::WriteLineScale(const Appearance& wanted) {
     record_.SetCommon(48, RealText(wanted.lineScale));
 }
 
+namespace {
+
+// Markers are stored as the line weights that mean the same.
+double ExtendedWidth(double width) {
+    return width == kPenWidthByLayer ? kLineWeightByLayer : width == kPenWidthByBlock ? kLineWeightByBlock : width;
+}
+
+} // namespace
+
 void AppearanceWriter::WriteWidth(const Appearance& wanted) {
     const auto isWritten = [&] {
         const Appearance now = Now();
@@ -188,10 +197,8 @@ void AppearanceWriter::WriteWidth(const Appearance& wanted) {
     }
     if (isWritten()) return;
     if (Near(Now().width, wanted.width) && Now().worldWidth == wanted.worldWidth) exact_.insert(kPropPenWidth);
-    const double width = wanted.width == kPenWidthByLayer   ? kLineWeightByLayer
-                         : wanted.width == kPenWidthByBlock ? kLineWeightByBlock
-                                                            : wanted.width;
-    ExtendedNumbers(kPropPenWidth, {width, wanted.worldWidth ? 1.0 : 0.0, static_cast<double>(entity_.lineWeight)});
+    ExtendedNumbers(kPropPenWidth, {ExtendedWidth(wanted.width), wanted.worldWidth ? 1.0 : 0.0,
+                                    static_cast<double>(entity_.lineWeight)});
 }
 
 void AppearanceWriter::WritePaperWidth(const Appearance& wanted) {
