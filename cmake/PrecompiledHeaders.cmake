@@ -6,10 +6,11 @@
 
 function(orlo_precompiled_headers name)
   cmake_parse_arguments(arg "" "" "HEADERS;OPTIONS;LIBRARIES" ${ARGN})
-  set(headers algorithm cmath cstdint cstring functional map memory optional string string_view utility vector)
+  set(headers algorithm array charconv cmath cstdint cstring filesystem functional map memory optional set string
+      string_view unordered_map utility variant vector)
   list(TRANSFORM headers REPLACE "(.+)" "<\\1>")
   if(WIN32)
-    list(PREPEND headers <windows.h>)
+    list(PREPEND headers <windows.h> <objidl.h>)
   endif()
   list(APPEND headers ${arg_HEADERS})
   list(TRANSFORM headers REPLACE "(.+)" "$<$<COMPILE_LANGUAGE:CXX>:\\1>")

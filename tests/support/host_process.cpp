@@ -57,9 +57,9 @@ DWORD HostProcess::ExitCode() {
 std::string HostProcess::Output() {
     ExitCode();
     std::string output;
-    char byte;
-    for (DWORD read = 0; ::ReadFile(m_output, &byte, 1, &read, nullptr) && read == 1;)
-        if (byte != '\r') output += byte;
+    char character;
+    for (DWORD read = 0; ::ReadFile(m_output, &character, 1, &read, nullptr) && read == 1;)
+        if (character != '\r') output += character;
     return output;
 }
 
