@@ -1,11 +1,10 @@
-// Adapts a page's controls to keyboard use, page size and screen resolution.
+// Adapts the widths of a page's controls to the page and the screen resolution.
 
 #include "orlo/frame/control_fitting.h"
 
 #include <algorithm>
 #include <iterator>
 
-#include "orlo/frame/label_order.h"
 #include "orlo/win/child_windows.h"
 #include "orlo/win/gdi.h"
 #include "orlo/win/screen_scale.h"
@@ -15,13 +14,6 @@ namespace {
 constexpr int kBoxWidth = 13;  // width of a check box or radio button, in pixels at 96 dpi
 constexpr int kGroupLine = 3;  // width of the line of a group box with the space inside, in device pixels
 constexpr int kLabelSpace = 8; // space between box and label, and after the label
-
-// The templates make labels tab stops although they accept no input.
-void RemoveTabStop(HWND child) {
-    const LONG_PTR style = ::GetWindowLongPtrA(child, GWL_STYLE);
-    if ((style & WS_TABSTOP) && (::SendMessageA(child, WM_GETDLGCODE, 0, 0) & DLGC_STATIC))
-        ::SetWindowLongPtrA(child, GWL_STYLE, style & ~WS_TABSTOP);
-}
 
 bool HasBoxAndLabel(HWND child) {
     constexpr LRESULT kPushes = DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON | DLGC_STATIC;
@@ -86,9 +78,6 @@ void FitControls(HWND page, const std::vector<HWND>& children) {
     for (const HWND control : controls)
         if (IsGroupBox(control)) groups.push_back(PlaceIn(page, control));
     const int box = ScreenPixels(kBoxWidth);
-    for (const HWND control : controls) {
-        RemoveTabStop(control);
+    for (const HWND control : controls)
         FitWidth(control, page, box, groups);
-    }
-    PutLabelsBeforeFields(page, controls);
 }

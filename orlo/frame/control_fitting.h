@@ -1,5 +1,5 @@
-// Adapts the controls of a page to keyboard and screen readers, to the size of the page, and to the screen resolution,
-// none of which old templates such as the library's own consider.
+// Adapts the widths of a page's controls to the page and to the screen resolution, which old templates such as the
+// library's own do not consider.
 #pragma once
 
 #include <windows.h>

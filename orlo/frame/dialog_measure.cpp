@@ -2,15 +2,13 @@
 
 #include "orlo/frame/dialog_measure.h"
 
-#include <cstring>
-
+#include "orlo/frame/template_words.h"
 #include "orlo/win/encoded_text.h"
 #include "orlo/win/gdi.h"
 #include "orlo/win/screen_scale.h"
 
 namespace {
 
-constexpr WORD kOrdinal = 0xFFFF; // marks a number in place of a name
 constexpr size_t kFaceSize = 128;
 
 struct DialogFont {
@@ -24,56 +22,18 @@ struct DialogTemplate {
     int height = 62;
 };
 
-// Reads the words of a locked resource, at most to the end of its memory mapping, since its exact size is unknown.
-class TemplateWords {
-public:
-    explicit TemplateWords(const void* start) : m_next(static_cast<const char*>(start)), m_left(0) {
-        MEMORY_BASIC_INFORMATION region;
-        if (::VirtualQuery(start, &region, sizeof region) == 0) return;
-        m_left = static_cast<const char*>(region.BaseAddress) + region.RegionSize - m_next;
-    }
-
-    bool Read(WORD& word) {
-        if (m_left < sizeof word) return false;
-        std::memcpy(&word, m_next, sizeof word);
-        m_next += sizeof word;
-        m_left -= sizeof word;
-        return true;
-    }
-
-    bool SkipBytes(size_t count) {
-        if (m_left < count) return false;
-        m_next += count;
-        m_left -= count;
-        return true;
-    }
-
-    // Reads NUL-terminated text and copies at most `size` characters of it to `text` unless null.
-    bool ReadText(wchar_t* text, size_t size) {
-        WORD word;
-        for (size_t i = 0; Read(word); ++i) {
-            if (text != nullptr && i < size) text[i] = word;
-            if (word == 0) return true;
-        }
-        return false;
-    }
-
-    bool SkipNameOrOrdinal() {
-        WORD first;
-        if (!Read(first)) return false;
-        if (first == kOrdinal) return SkipBytes(sizeof first);
-        return first == 0 || ReadText(nullptr, 0);
-    }
-
-private:
-    const char* m_next;
-    size_t m_left;
-};
+// Reads at most to the end of the memory mapping, since the exact size of a locked resource is unknown.
+TemplateWords WordsOfResource(const void* start) {
+    MEMORY_BASIC_INFORMATION region;
+    if (::VirtualQuery(start, &region, sizeof region) == 0) return {start, 0};
+    const auto* end = static_cast<const char*>(region.BaseAddress) + region.RegionSize;
+    return {start, static_cast<size_t>(end - static_cast<const char*>(start))};
+}
 
 bool ReadFont(TemplateWords& words, DialogFont& font) {
     WORD points;
-    wchar_t face[kFaceSize] = {};
-    if (!words.Read(points) || !words.ReadText(face, kFaceSize - 1)) return false;
+    std::wstring face;
+    if (!words.Read(points) || !words.ReadText(face)) return false;
     font.points = points;
     const size_t length = orlo::Narrow(face, CP_ACP).copy(font.face, sizeof font.face - 1);
     font.face[length] = '\0';
@@ -82,15 +42,15 @@ bool ReadFont(TemplateWords& words, DialogFont& font) {
 
 DialogTemplate ReadTemplate(const void* resource) {
     DialogTemplate result;
-    TemplateWords words(resource);
+    TemplateWords words = WordsOfResource(resource);
     WORD styleLow, width, height;
     const size_t afterStyle = 14 - sizeof styleLow; // extended style, item count and position are not needed
     if (!words.Read(styleLow) || !words.SkipBytes(afterStyle) || !words.Read(width) || !words.Read(height))
         return result;
     result.width = width;
     result.height = height;
-    const bool named = words.SkipNameOrOrdinal() && words.SkipNameOrOrdinal() && words.ReadText(nullptr, 0);
-    if (named && (styleLow & DS_SETFONT)) ReadFont(words, result.font);
+    if (words.SkipNameOrNumber() && words.SkipNameOrNumber() && words.SkipNameOrNumber() && (styleLow & DS_SETFONT))
+        ReadFont(words, result.font);
     return result;
 }
 

@@ -60,6 +60,7 @@ BOOL CGraphicPropertyPage::OnInitDialog() {
 }
 
 BOOL CGraphicPropertyPage::OnSetActive() {
+    if (m_bFitControls && m_hWnd == nullptr) m_pState->PrepareTemplate();
     if (!COrloPropertyPage::OnSetActive()) return FALSE;
     m_pState->BuildStatusTable();
     if (CGraphicPropertySheet* sheet = GetSheet()) sheet->UpdatePreview(0);

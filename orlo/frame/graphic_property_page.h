@@ -142,9 +142,9 @@ protected:
     unsigned long m_dwHelpContext;
     int m_bRefreshPending; // reload the controls at the next refresh command
     int m_bInitializing;   // ignore notifications of controls
-    // Set by a page's constructor to have OnInitDialog remove the tab stops of labels and fit the widths of controls to
-    // the page and the screen resolution, as the library's templates require. Otherwise controls stay as in the
-    // template.
+    // Set by a page's constructor to have labels moved directly before their fields, without tab stops, and the widths
+    // of controls fitted to the page and the screen resolution, as the library's templates require. Otherwise controls
+    // stay as in the template.
     int m_bFitControls = 0;
     int m_nControls;
     ControlStatus* m_pStatus;

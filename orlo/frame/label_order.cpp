@@ -3,91 +3,92 @@
 #include "orlo/frame/label_order.h"
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
+#include <optional>
+#include <utility>
 
-#include "orlo/win/child_windows.h"
+#include "orlo/frame/dialog_controls.h"
 
 namespace {
 
-constexpr RECT kReach = {0, 0, 30, 12}; // maximum distance from a label to its field, across and down, in dialog units
-
-struct Child {
-    HWND window;
-    RECT place;
-};
+constexpr LONG kReachAcross = 30, kReachDown = 12; // maximum distance from a label to its field, in dialog units
 
 enum class Role { Other, Field, Text, GroupBox };
 
-Role RoleOf(HWND child) {
-    constexpr LRESULT kNone = 0;
-    const LRESULT code = ::SendMessageA(child, WM_GETDLGCODE, 0, 0);
-    if (code != kNone && !(code & (DLGC_STATIC | DLGC_BUTTON | DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)))
-        return Role::Field;
-    if (!(code & DLGC_STATIC) || ::GetWindowTextLengthA(child) == 0) return Role::Other;
-    return IsOfClass(child, "Button") ? Role::GroupBox : Role::Text;
+Role RoleOf(const TemplateControl& control) {
+    if (control.IsOfClass(L"Static")) return control.hasText ? Role::Text : Role::Other;
+    if (control.IsOfClass(L"Button"))
+        return (control.style & BS_TYPEMASK) == BS_GROUPBOX && control.hasText ? Role::GroupBox : Role::Other;
+    static constexpr const wchar_t* kWithoutInput[] = {L"ScrollBar", L"msctls_updown32", L"msctls_progress32"};
+    const auto isOf = [&](const wchar_t* name) { return control.IsOfClass(name); };
+    return std::any_of(std::begin(kWithoutInput), std::end(kWithoutInput), isOf) ? Role::Other : Role::Field;
 }
 
 bool IsWithin(const RECT& inner, const RECT& outer) {
     return outer.left <= inner.left && inner.right <= outer.right && outer.top <= inner.top &&
-           inner.top <= outer.bottom; // the rectangle of a combo box includes its list
+           inner.top <= outer.bottom; // a list may extend beyond its box
 }
 
 // Returns the distance of a text from the field that it precedes or stands above, or a negative number if it does
 // neither.
-int DistanceToText(const RECT& text, const RECT& field, const RECT& reach) {
+LONG DistanceToText(const RECT& text, const RECT& field) {
     const LONG middle = (text.top + text.bottom) / 2;
     const LONG across = field.left - text.right, down = field.top - text.bottom;
-    const bool before = middle >= field.top && middle <= field.bottom && across >= 0 && across <= reach.right;
-    const bool above = text.left < field.right && text.right > field.left && down >= 0 && down <= reach.bottom;
+    const bool before = middle >= field.top && middle <= field.bottom && across >= 0 && across <= kReachAcross;
+    const bool above = text.left < field.right && text.right > field.left && down >= 0 && down <= kReachDown;
     return before ? across : above ? down : -1;
 }
 
-const Child* LabelOf(const Child& field, const std::vector<Child>& texts, const std::vector<Child>& boxes,
-                     const RECT& reach) {
-    const Child* label = nullptr;
-    int nearest = 0;
-    for (const Child& text : texts) {
-        const int distance = DistanceToText(text.place, field.place, reach);
-        if (distance < 0 || (label && distance >= nearest)) continue;
-        label = &text;
+// Returns the index of the nearest text, else of the group box around the field, else -1.
+int LabelOf(const TemplateControl& field, const std::vector<TemplateControl>& controls) {
+    int label = -1, box = -1;
+    LONG nearest = 0;
+    for (size_t i = 0; i < controls.size(); ++i) {
+        const Role role = RoleOf(controls[i]);
+        if (role == Role::GroupBox && box < 0 && IsWithin(field.place, controls[i].place)) box = static_cast<int>(i);
+        if (role != Role::Text) continue;
+        const LONG distance = DistanceToText(controls[i].place, field.place);
+        if (distance < 0 || (label >= 0 && distance >= nearest)) continue;
+        label = static_cast<int>(i);
         nearest = distance;
     }
-    if (label) return label;
-    const auto around =
-        std::find_if(boxes.begin(), boxes.end(), [&](const Child& box) { return IsWithin(field.place, box.place); });
-    return around != boxes.end() ? &*around : nullptr;
+    return label >= 0 ? label : box;
 }
 
-// A label that starts a group for the arrow keys would also start one at its new place.
-void EndGroup(HWND label) {
-    const LONG_PTR style = ::GetWindowLongPtrA(label, GWL_STYLE);
-    if (style & WS_GROUP) ::SetWindowLongPtrA(label, GWL_STYLE, style & ~LONG_PTR{WS_GROUP});
-}
-
-void PutBefore(HWND label, HWND field, std::vector<HWND>& order) {
-    const auto place = std::find(order.begin(), order.end(), field);
-    const HWND previous = place == order.begin() ? HWND_TOP : place[-1];
-    if (previous == label) return;
-    EndGroup(label);
-    ::SetWindowPos(label, previous, 0, 0, 0, 0,
-                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_DEFERERASE);
+// Moves a label to the place before the field, in the list of the controls' indices in their order.
+void PutBefore(int label, int field, std::vector<int>& order) {
     order.erase(std::find(order.begin(), order.end(), label));
     order.insert(std::find(order.begin(), order.end(), field), label);
 }
 
+// A label that starts a group for the arrow keys would also start one at its new place.
+void MoveLabels(std::vector<TemplateControl>& controls) {
+    std::vector<int> order(controls.size());
+    std::iota(order.begin(), order.end(), 0);
+    for (int field = 0; field < static_cast<int>(controls.size()); ++field) {
+        if (RoleOf(controls[field]) != Role::Field) continue;
+        const int label = LabelOf(controls[field], controls);
+        if (label < 0) continue;
+        const auto place = std::find(order.begin(), order.end(), field);
+        if (place != order.begin() && place[-1] == label) continue;
+        controls[label].style &= ~DWORD{WS_GROUP};
+        PutBefore(label, field, order);
+    }
+    std::vector<TemplateControl> ordered;
+    for (const int index : order)
+        ordered.push_back(std::move(controls[index]));
+    controls = std::move(ordered);
+}
+
 } // namespace
 
-void PutLabelsBeforeFields(HWND page, std::vector<HWND> controls) {
-    std::vector<Child> fields, texts, boxes;
-    for (const HWND window : controls) {
-        Child child = {window, {}};
-        ::GetWindowRect(window, &child.place);
-        const Role role = RoleOf(window);
-        if (role == Role::Field) fields.push_back(child);
-        if (role == Role::Text) texts.push_back(child);
-        if (role == Role::GroupBox) boxes.push_back(child);
-    }
-    RECT reach = kReach;
-    ::MapDialogRect(page, &reach);
-    for (const Child& field : fields)
-        if (const Child* label = LabelOf(field, texts, boxes, reach)) PutBefore(label->window, field.window, controls);
+void OrderLabels(std::vector<BYTE>& dialog) {
+    std::optional<DialogControls> read = DialogControls::Read(dialog);
+    if (!read) return;
+    for (TemplateControl& control : read->controls)
+        if (const Role role = RoleOf(control); control.IsOfClass(L"Static") || role == Role::GroupBox)
+            control.style &= ~DWORD{WS_TABSTOP};
+    MoveLabels(read->controls);
+    dialog = read->Template();
 }

@@ -10,7 +10,9 @@
 #include "orlo/controls/control_items.h"
 #include "orlo/frame/control_notifications.h"
 #include "orlo/frame/graphic_property_sheet.h"
+#include "orlo/frame/label_order.h"
 #include "orlo/frame/write_outcome.h"
+#include "orlo/resources/library_text.h"
 #include "orlo/win/child_windows.h"
 
 namespace {
@@ -45,6 +47,17 @@ ObjectSet PageState::Objects(int bPreview) const {
 orlo::binding::WriteTarget PageState::Target(int bPreview) const {
     if (bPreview || outcome == nullptr) return {Objects(bPreview), nullptr};
     return {Objects(bPreview), &outcome->Unchanged(), outcome->Changed()};
+}
+
+void PageState::PrepareTemplate() {
+    std::vector<BYTE>& dialog = m_page.m_dialogTemplate;
+    if (dialog.empty()) {
+        const char* name = m_page.m_lpszTemplateName;
+        HINSTANCE& module = m_page.m_hTemplateModule;
+        if (module == nullptr) module = AfxFindResourceHandle(name, reinterpret_cast<const char*>(RT_DIALOG));
+        dialog = DialogTemplate(module, name);
+    }
+    OrderLabels(dialog);
 }
 
 void PageState::DisposePreviewGraphic() {

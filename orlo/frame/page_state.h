@@ -27,6 +27,9 @@ public:
     // Frees the preview graphic, if any. The page creates a new one when its window is created again.
     void DisposePreviewGraphic();
 
+    // Orders the labels in the page's template before its window is created.
+    void PrepareTemplate();
+
     // Records one clean entry per child window.
     void BuildStatusTable();
     // Returns null if the control is not tracked.

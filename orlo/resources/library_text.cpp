@@ -79,12 +79,15 @@ CString LibraryText(UINT nID) {
     return text;
 }
 
+std::vector<BYTE> DialogTemplate(HINSTANCE module, const char* pszName) {
+    HRSRC found = module != nullptr ? ::FindResourceA(module, pszName, RT_DIALOG) : nullptr;
+    HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
+    const auto* data = loaded != nullptr ? static_cast<const BYTE*>(::LockResource(loaded)) : nullptr;
+    if (data == nullptr) return {};
+    return {data, data + ::SizeofResource(module, found)};
+}
+
 std::vector<BYTE> LibraryDialog(UINT nID) {
-    for (HINSTANCE module : {TranslationModule(), LibraryModule()}) {
-        HRSRC found = module != nullptr ? ::FindResourceA(module, MAKEINTRESOURCEA(nID), RT_DIALOG) : nullptr;
-        HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
-        const auto* data = loaded != nullptr ? static_cast<const BYTE*>(::LockResource(loaded)) : nullptr;
-        if (data != nullptr) return {data, data + ::SizeofResource(module, found)};
-    }
-    return {};
+    std::vector<BYTE> dialog = DialogTemplate(TranslationModule(), MAKEINTRESOURCEA(nID));
+    return dialog.empty() ? DialogTemplate(LibraryModule(), MAKEINTRESOURCEA(nID)) : dialog;
 }

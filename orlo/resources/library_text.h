@@ -19,5 +19,7 @@ void ReleaseTranslation();
 int LoadLibraryText(UINT nID, char* pszBuffer, int nSize);
 // Returns a string, which is empty if it is not found.
 CString LibraryText(UINT nID);
-// Returns the template of a dialog.
+// Returns a copy of the template of a dialog, which is empty if it is not found.
 std::vector<BYTE> LibraryDialog(UINT nID);
+// Does the same for a dialog of another module.
+std::vector<BYTE> DialogTemplate(HINSTANCE module, const char* pszName);

@@ -121,10 +121,10 @@ TEST(FittedControls, AreThoseOfAPageThatRequestsIt) {
 }
 
 // A label starts a group, which would end the group of radio buttons that its field is in.
-TEST(FittedControls, KeepTheirGroupsWhenALabelMovesToItsField) {
+void ExpectLabelBeforeFieldInGroup(unsigned int nIDTemplate) {
     GraphicKit kit;
     TestSheet sheet(kit);
-    sheet.Add([](CDataExchange*) {}, kGroupPage).FitControls();
+    sheet.Add([](CDataExchange*) {}, nIDTemplate).FitControls();
     sheet.Run([&](SheetDriver& user) {
         EXPECT_EQ(::GetWindow(user.Control(kEdit), GW_HWNDPREV), user.Control(kLabel));
         for (HWND next = user.Control(kRadio); next != user.Control(kRadio + 1);) {
@@ -132,6 +132,16 @@ TEST(FittedControls, KeepTheirGroupsWhenALabelMovesToItsField) {
             EXPECT_FALSE(::GetWindowLongPtrA(next, GWL_STYLE) & WS_GROUP) << ::GetDlgCtrlID(next);
         }
     });
+}
+
+TEST(FittedControls, KeepTheirGroupsWhenALabelMovesToItsField) {
+    for (const DWORD layout : {DWORD{0}, DWORD{LAYOUT_RTL}})
+        for (const unsigned int page : {kGroupPage, kExtendedPage}) {
+            SCOPED_TRACE(testing::Message() << page << (layout ? " from right to left" : ""));
+            ::SetProcessDefaultLayout(layout);
+            ExpectLabelBeforeFieldInGroup(page);
+            ::SetProcessDefaultLayout(0);
+        }
 }
 
 // Returns the number of pixels in the color of texts.
