@@ -30,6 +30,11 @@ COrloPropertyPage* COrloPropertySheet::FindPage(unsigned int nIDTemplate) const 
 
 namespace {
 
+// The template of any page, also of one that is not a COrloPropertyPage.
+struct PageTemplate : CPropertyPage {
+    static const char* Of(const CPropertyPage& page) { return page.*&PageTemplate::m_lpszTemplateName; }
+};
+
 bool SameTemplate(const char* a, const char* b) {
     if (a == b) return true;
     return !IS_INTRESOURCE(a) && !IS_INTRESOURCE(b) && std::strcmp(a, b) == 0;
@@ -40,9 +45,8 @@ bool SameTemplate(const char* a, const char* b) {
 COrloPropertyPage* COrloPropertySheet::FindPage(const char* lpszTemplateName) const {
     for (int i = 0; i < GetPageCount(); ++i) {
         CPropertyPage* page = GetPage(i);
-        if (!page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage))) continue;
-        auto* candidate = static_cast<COrloPropertyPage*>(page);
-        if (SameTemplate(candidate->GetTemplateName(), lpszTemplateName)) return candidate;
+        if (SameTemplate(PageTemplate::Of(*page), lpszTemplateName) && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage)))
+            return static_cast<COrloPropertyPage*>(page);
     }
     return nullptr;
 }
