@@ -26,7 +26,7 @@ MAY = {
                "drawcore/include orlo/host codepages"),
     **downward("demo", "program tour viewer automation", f"afx drawcore/include {PUBLIC}"),
     "drawcore/include": {"drawcore/include", "orlo/host"},
-    "tools/cli": {"tools/cli", "files"},
+    "tools/cli": {"tools/cli", "files", PUBLIC},
     "tools/dxfprops": {"tools/dxfprops", "tools/cli", "drawcore/include", "files", PUBLIC},
     "tools/hostcheck": {"tools/hostcheck", PUBLIC},
     "tools/suminfo": {"tools/suminfo", "tools/cli", "files", PUBLIC},

@@ -3,7 +3,8 @@
 #include "tools/cli/printable.h"
 
 #include <algorithm>
-#include <cstdio>
+
+#include "tools/cli/console.h"
 
 namespace cli {
 namespace {
@@ -99,7 +100,7 @@ bool PrintableBuffer::Write(size_t size) {
     const std::string_view text = std::string_view(text_).substr(0, size);
     const std::string printable = Printable(text);
     const auto length = static_cast<std::streamsize>(printable.size());
-    const bool isDone = target_->sputn(printable.data(), length) == length;
+    const bool isDone = PrintOnConsole(file_, printable) || target_->sputn(printable.data(), length) == length;
     text_.erase(0, size);
     return isDone;
 }

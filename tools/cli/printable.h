@@ -1,6 +1,7 @@
 // Makes texts from files safe to print.
 #pragma once
 
+#include <cstdio>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -14,11 +15,11 @@ std::string Printable(std::string_view utf8, const char* escape = "\\x%02x");
 // Also escapes line ends and tabs, as \n, \r and \t.
 std::string OneLine(std::string_view utf8);
 
-// During its lifetime, what is written to a stream is printed as by Printable. The stream fails if it cannot be
-// written.
+// During its lifetime, what is written to a stream is printed as by Printable, on a console if `file`, which the stream
+// writes to, is one. The stream fails if it cannot be written.
 class PrintableBuffer : public std::streambuf {
 public:
-    explicit PrintableBuffer(std::ostream& stream) : stream_(stream), target_(stream.rdbuf(this)) {}
+    PrintableBuffer(std::ostream& stream, FILE* file) : stream_(stream), file_(file), target_(stream.rdbuf(this)) {}
     ~PrintableBuffer() override;
     PrintableBuffer(const PrintableBuffer&) = delete;
     PrintableBuffer& operator=(const PrintableBuffer&) = delete;
@@ -32,6 +33,7 @@ private:
     bool Write(size_t size);
 
     std::ostream& stream_;
+    FILE* const file_;
     std::streambuf* const target_;
     std::string text_; // not yet written
 };

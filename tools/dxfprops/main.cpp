@@ -494,7 +494,7 @@ private:
 int RunWith(const std::vector<std::string>& words) {
     files::RemoveTemporaryFileOnInterrupt();
     std::ios::sync_with_stdio(false);
-    const cli::PrintableBuffer out(std::cout), errors(std::cerr);
+    const cli::PrintableBuffer out(std::cout, stdout), errors(std::cerr, stderr);
     try {
         const int result = Parser().Execute(cli::WithListedArguments(words));
         if (std::cout.flush()) return result;

@@ -4,12 +4,9 @@
 
 #include <cstdlib>
 #ifdef _WIN32
-#include <algorithm>
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
-
-#include "orlo/win/encoded_text.h"
 #else
 #include <cerrno>
 #include <csignal>
@@ -18,6 +15,7 @@
 
 #include "exit_codes.h"
 #include "text.h"
+#include "tools/cli/console.h"
 #include "tools/cli/printable.h"
 
 namespace suminfo {
@@ -25,31 +23,12 @@ namespace {
 
 #ifdef _WIN32
 
-// Writes 16-bit text to a console, because the runtime would pass UTF-8 byte by byte, which splits characters.
-bool PrintOnConsole(FILE* stream, const std::string& utf8) {
-    const auto console = reinterpret_cast<HANDLE>(::_get_osfhandle(::_fileno(stream)));
-    DWORD mode;
-    if (!::GetConsoleMode(console, &mode)) return false;
-    const std::wstring wide = orlo::Widen(utf8, CP_UTF8);
-    constexpr size_t kPiece = 8192; // consoles reject very long ones
-    for (size_t at = 0; at < wide.size(); at += kPiece) {
-        const auto size = static_cast<DWORD>(std::min(wide.size() - at, kPiece));
-        DWORD written = 0;
-        if (!::WriteConsoleW(console, wide.data() + at, size, &written, nullptr)) break;
-    }
-    return true;
-}
-
 bool HasReaderGone() {
     const DWORD error = ::GetLastError();
     return error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA || error == ERROR_PIPE_NOT_CONNECTED;
 }
 
 #else
-
-bool PrintOnConsole(FILE*, const std::string&) {
-    return false; // terminals accept UTF-8 like files
-}
 
 bool HasReaderGone() {
     return errno == EPIPE;
@@ -70,7 +49,7 @@ void PrepareStreams() {
 
 void Print(FILE* stream, const std::string& utf8) {
     const std::string text = cli::Printable(utf8);
-    if (PrintOnConsole(stream, text)) return;
+    if (cli::PrintOnConsole(stream, text)) return;
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (isWritten || stream != stdout) return;
     // If the reader has closed the pipe, the program ends silently; other errors are reported.
