@@ -114,6 +114,9 @@ public:
     // message handler, whether the user or the program activates the page.
     BOOL SetActivePage(int nPage);
     BOOL SetActivePage(CPropertyPage* pPage);
+    // Returns whether a page is being left or activated. Its message boxes have message loops, during which the sheet
+    // must not be destroyed.
+    bool IsChangingPage() const { return m_nPageChanges > 0; }
     CTabCtrl* GetTabControl() const { return const_cast<CTabRow*>(&m_tabRow); }
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -174,6 +177,7 @@ private:
     static int PageStep(const MSG& msg);
 
     std::vector<CPropertyPage*> m_pages;
+    int m_nPageChanges = 0; // in progress
     CString m_strCaption;
     CWnd* m_pParentWnd;
 };

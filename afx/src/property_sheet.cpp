@@ -160,17 +160,34 @@ BOOL CPropertySheet::SetActivePage(int nPage) {
     return LeaveFor(nPage) && ActivatePage(nPage);
 }
 
+namespace {
+
+class PageChange {
+public:
+    explicit PageChange(int& count) : m_count(count) { ++m_count; }
+    ~PageChange() { --m_count; }
+    PageChange(const PageChange&) = delete;
+    PageChange& operator=(const PageChange&) = delete;
+
+private:
+    int& m_count;
+};
+
+} // namespace
+
 // Returns whether the active page can be left for that one (-1: any other page). A page without a window has nothing to
 // save.
 bool CPropertySheet::LeaveFor(int nPage) {
     CPropertyPage* active = GetActivePage();
     if (nPage == m_nCurPage || active == nullptr || active->m_hWnd == nullptr) return true;
+    const PageChange change(m_nPageChanges);
     return AfxGuardedCall([=] { return active->OnKillActive() != FALSE; });
 }
 
 // Shows the given page after the active page, if any, has been left. If the new page cannot be shown, the old one stays
 // active and visible.
 bool CPropertySheet::ActivatePage(int nPage) {
+    const PageChange change(m_nPageChanges);
     const int before = m_nCurPage;
     CPropertyPage* page = GetPage(nPage);
     CPropertyPage* old = GetActivePage();

@@ -1,8 +1,6 @@
-// Marks the time in which the code of a sheet is interrupted by a callback of the host or by a message box. The sheet
-// must not be changed meanwhile.
+// Marks the time in which the code of a sheet is interrupted by a callback of the host. The sheet must not be changed
+// meanwhile.
 #pragma once
-
-#include "orlo/c/guarded_call.h"
 
 namespace orlo {
 
@@ -24,11 +22,6 @@ template <class Callback, class... Arguments>
 auto CallHost(Callback callback, Arguments... arguments) {
     const BusyScope busy;
     return callback(arguments...);
-}
-
-// Throws Refusal during a callback or a message box.
-inline void RequireNotBusy() {
-    if (BusyScope::IsBusy()) ThrowError(kOrloBusy, "a callback or a message box of a sheet has not returned yet");
 }
 
 } // namespace orlo

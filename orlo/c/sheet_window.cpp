@@ -37,7 +37,6 @@ public:
 
     // Throws Refusal if a field is not valid.
     void RequireApplied() {
-        const orlo::BusyScope busy; // a message box has a message loop
         if (!Apply()) ThrowError(kOrloInvalidInput, "a field of the sheet is not valid");
     }
 
@@ -113,12 +112,17 @@ Windows::iterator Find(OrloSheetHandle handle) {
     return found;
 }
 
+// Throws Refusal during a callback or a message box.
+Windows::iterator FindIdle(OrloSheetHandle handle) {
+    const auto found = Find(handle);
+    if (orlo::BusyScope::IsBusy() || found->second->IsBusy())
+        ThrowError(kOrloBusy, "a callback or a message box of a sheet has not returned yet");
+    return found;
+}
+
 template <class Work>
 OrloResult CallWindow(OrloSheetHandle handle, Work work) {
-    return orlo::GuardedCall([&] {
-        orlo::RequireNotBusy();
-        work(*Find(handle)->second);
-    });
+    return orlo::GuardedCall([&] { work(*FindIdle(handle)->second); });
 }
 
 } // namespace
@@ -164,8 +168,5 @@ OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle) {
 }
 
 OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle) {
-    return orlo::GuardedCall([=] {
-        orlo::RequireNotBusy();
-        WindowsOfThread().erase(Find(handle));
-    });
+    return orlo::GuardedCall([=] { WindowsOfThread().erase(FindIdle(handle)); });
 }

@@ -9,6 +9,7 @@
 
 #include "orlo/controls/control_items.h"
 #include "orlo/frame/control_notifications.h"
+#include "orlo/frame/flag_scope.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/label_order.h"
 #include "orlo/frame/write_outcome.h"
@@ -16,19 +17,6 @@
 #include "orlo/win/child_windows.h"
 
 namespace {
-
-// Sets a flag during its lifetime.
-class Deferred {
-public:
-    explicit Deferred(bool& flag) : m_flag(flag), m_before(std::exchange(flag, true)) {}
-    ~Deferred() { m_flag = m_before; }
-    Deferred(const Deferred&) = delete;
-    Deferred& operator=(const Deferred&) = delete;
-
-private:
-    bool& m_flag;
-    bool m_before;
-};
 
 GraphicStruct* OwnerOf(const GraphicStruct* graphic) {
     return graphic->dwFlags & kFlagNoParent ? nullptr : graphic->pParent;
@@ -78,7 +66,7 @@ void PageState::AddPreviewGraphic() {
         return;
     }
     m_page.m_pPreviewGraphic->dwFlags |= kFlagPreview;
-    const Deferred deferred(sheet->m_defersPreview); // the page updates the preview when it is active
+    const FlagScope deferred(sheet->m_defersPreview); // the page updates the preview when it is active
     for (int i = 0; i < sheet->GetPageCount(); ++i) {
         CPropertyPage* page = sheet->GetPage(i);
         if (page->m_hWnd != nullptr && page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage)))

@@ -8,6 +8,7 @@
 
 #include <optional>
 
+#include "orlo/frame/flag_scope.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
 #include "orlo/frame/scroll_area.h"
@@ -18,6 +19,8 @@
 namespace {
 
 constexpr UINT kRenew = WM_APP;
+constexpr UINT_PTR kRetry = 1;   // the timer that repeats kRenew while the pane is busy
+constexpr UINT kRetryAfter = 50; // milliseconds
 constexpr UINT kNothingId = 1;
 constexpr int kMargin = 8; // pixels
 
@@ -123,6 +126,7 @@ BOOL CSheetPane::CreatePane(DWORD dwStyle, CWnd* pParent, UINT nID) {
 
 LRESULT CSheetPane::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (m_scroll->Handle(m_hWnd, message, wParam, lParam)) return 0;
+    if ((message == WM_COMMAND || message == WM_CLOSE) && IsBusy()) return 0;
     switch (message) {
     case WM_SIZE:
         m_nothing.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
@@ -131,6 +135,10 @@ LRESULT CSheetPane::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
         OnCloseButton();
         return 0;
+    case WM_TIMER:
+        if (wParam != kRetry) break;
+        KillTimer(kRetry);
+        [[fallthrough]];
     case kRenew:
         if (m_isStale) Renew();
         return 0;
@@ -172,8 +180,12 @@ void CSheetPane::Open() {
     ShowWindow(SW_SHOWNA);
 }
 
+bool CSheetPane::IsBusy() const {
+    return m_isApplying || (m_sheet != nullptr && m_sheet->IsChangingPage());
+}
+
 void CSheetPane::Close() {
-    if (!m_isOpen) return;
+    if (!m_isOpen || IsBusy()) return;
     ShowWindow(SW_HIDE);
     OnClose();
     m_isOpen = false;
@@ -187,8 +199,9 @@ void CSheetPane::Follow() {
 }
 
 void CSheetPane::Renew() {
-    m_isStale = false;
-    if (!m_isOpen) return;
+    m_isStale = m_isOpen && IsBusy();
+    if (m_isStale) SetTimer(kRetry, kRetryAfter);
+    if (!m_isOpen || m_isStale) return;
     const HWND focus = ::GetFocus();
     const std::optional<Focus> within = FocusWithin(m_sheet);
     SendMessage(WM_SETREDRAW, FALSE);
@@ -219,9 +232,11 @@ void CSheetPane::DropSheet() {
 
 bool CSheetPane::Apply() {
     if (!m_isOpen) return true;
+    if (IsBusy()) return false;
     COrloPropertyPage* page = ActivePageOf(m_sheet);
     if (page != nullptr && !m_isStale && page->IsModified()) {
         const HWND focus = ::GetFocus();
+        const FlagScope applying(m_isApplying);
         if (!page->OnKillActive()) return false;
         page->OnOK();
         page->OnSetActive();     // all controls are clean
@@ -234,6 +249,7 @@ bool CSheetPane::Apply() {
 }
 
 void CSheetPane::Reset() {
+    if (IsBusy()) return;
     if (m_isOpen) OnReset();
     Follow();
 }

@@ -10,7 +10,9 @@
 //   pane.Open();
 //   if (pane.Apply()) { ...; pane.Follow(); }                   // before and after another selection
 //
-// A page writes its values when the user presses Apply or selects another page.
+// A page writes its values when the user presses Apply or selects another page. If it rejects one, it informs the user
+// in a message box; meanwhile, the pane is busy: Follow and Renew take effect afterwards, and its other functions and
+// its buttons have no effect.
 #pragma once
 
 #include <afxwin.h>
@@ -36,6 +38,8 @@ public:
     BOOL CreatePane(DWORD dwStyle, CWnd* pParent, UINT nID);
 
     bool IsOpen() const { return m_isOpen; }
+    // Returns whether a page is writing its values.
+    bool IsBusy() const;
     void Open();
     // Hides the window and deletes the sheet. Typed values that were not applied are discarded.
     void Close();
@@ -44,7 +48,7 @@ public:
     void Follow();
     void Renew();
     // Writes typed values. Returns false if a page rejects one; the user has then been informed, and the field has the
-    // focus.
+    // focus. Also returns false if the pane is busy.
     bool Apply();
     // Discards typed values and calls OnReset.
     void Reset();
@@ -85,6 +89,7 @@ private:
     std::unique_ptr<ScrollArea> m_scroll;
     CSize m_sheetSize;
     bool m_isOpen = false;
-    bool m_isStale = false;    // the sheet is to be replaced
+    bool m_isStale = false; // the sheet is to be replaced
+    bool m_isApplying = false;
     HWND m_revealed = nullptr; // the control that had the focus at the last RevealFocus
 };

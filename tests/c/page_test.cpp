@@ -420,6 +420,24 @@ TEST_F(CSheetWindow, StaysOpenWhileItTellsOfInvalidInput) {
     EXPECT_EQ(closed + resets, 0);
 }
 
+// As when a timer of the host calls the sheet meanwhile.
+TEST_F(CSheetWindow, StaysAsItIsWhileAPageRejectsToBeLeft) {
+    ShowRoom();
+    Edit(kRating, 'x');
+    const HWND left = ActivePageOf(Sheet());
+    user.InDialog([&] { EXPECT_FALSE(ClickTab(user, Sheet(), 0)); },
+                  [&](HWND box) {
+                      EXPECT_EQ(OrloSheetFollow(handle, nullptr), kOrloBusy);
+                      EXPECT_EQ(OrloSheetClose(handle), kOrloBusy);
+                      EXPECT_EQ(ActivePageOf(Sheet()), left);
+                      user.Click(::GetDlgItem(box, IDOK));
+                  });
+    EXPECT_EQ(ActivePageOf(Sheet()), left);
+    Edit(kRating, '4');
+    EXPECT_EQ(OrloSheetFollow(handle, nullptr), kOrloOk);
+    EXPECT_EQ(kit[1].Number("Rating"), 4);
+}
+
 TEST_F(CSheetWindow, TwoWindowsAndAModalSheetCoexist) {
     OrloSheetHandle second = nullptr;
     ASSERT_EQ(OrloOpenSheet(&sheet, &second), kOrloOk);

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <memory>
 
+#include "demo/automation/sheet_pages.h"
 #include "orlo/entry/entry.h"
 #include "orlo/frame/sheet_pane.h"
+#include "orlo/resources/resource.h"
 #include "orlo/win/child_windows.h"
 #include "support/graphic_kit.h"
 #include "support/test_sheet.h"
@@ -24,6 +26,7 @@ public:
 protected:
     CGraphicPropertySheet* NewSheet() override {
         m_sheet.reset(::InitGraphicPropertySheet(this, nullptr, m_kit.Drawing(), m_kit.Selection(), kAllGraphics));
+        ::AddGraphicPropertyPage(nullptr, m_kit[0].graphic, m_sheet.get());
         return m_sheet.get();
     }
     void DeleteSheet() override { m_sheet.reset(); }
@@ -109,6 +112,28 @@ TEST_F(Pane, HasBothBarsIfOneTakesTheRoomOfTheOther) {
     EXPECT_EQ(Scrolled().y, 0);
     EXPECT_EQ(pane.FittingWidth(pane.FullSize().cy), pane.FullSize().cx);
     EXPECT_EQ(pane.FittingWidth(pane.FullSize().cy - 1), pane.FullSize().cx + ::GetSystemMetrics(SM_CXVSCROLL));
+}
+
+// The message box has a message loop, which handles what was posted.
+TEST_F(Pane, FollowsAfterAPageThatRejectsToBeLeft) {
+    UserInput user(0);
+    pane.ShowWindow(SW_SHOW);
+    ASSERT_TRUE(ClickTab(user, pane.SheetWindow(), 1));
+    const HWND page = pane.Page();
+    user.Replace(::GetDlgItem(page, IDC_PEN_SCALE), "x");
+    user.InDialog([&] { EXPECT_FALSE(ClickTab(user, pane.SheetWindow(), 0)); },
+                  [&](HWND box) {
+                      pane.Follow();
+                      pane.Renew();
+                      EXPECT_FALSE(pane.Apply());
+                      pane.Close();
+                      user.Wait(200);
+                      EXPECT_EQ(pane.Page(), page);
+                      user.Click(::GetDlgItem(box, IDOK));
+                  });
+    EXPECT_TRUE(pane.IsOpen());
+    user.Wait(200);
+    EXPECT_FALSE(::IsWindow(page)) << "of the sheet before";
 }
 
 } // namespace
