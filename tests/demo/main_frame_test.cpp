@@ -13,6 +13,7 @@
 #include "orlo/host/graphic.h"
 #include "orlo/host/property.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/gdi.h"
 #include "support/accessible_names.h"
 #include "support/message_box_watcher.h"
 
@@ -135,6 +136,40 @@ TEST_F(Viewer, AllWarningsAreListed) {
                           EXPECT_NE(text.find(warning + "\r\n"), std::string::npos) << warning;
                       EXPECT_EQ(ExpectAccessible(dialog), 2);
                       user.Key(VK_RETURN);
+                  });
+}
+
+// Returns the number of the last line of text in the control, counted from 0.
+int LastLine(HWND window, int lineHeight) {
+    RECT client;
+    ::GetClientRect(window, &client);
+    const orlo::WindowDC dc(window);
+    for (int y = client.bottom - 1; y >= 0; --y)
+        for (int x = 0; x < client.right; ++x)
+            if (::GetPixel(dc.get(), x, y) == ::GetSysColor(COLOR_BTNTEXT)) return y / lineHeight;
+    return -1;
+}
+
+// In a wider font, a line that wrapped would move all meanings after it to the keys of other lines.
+TEST_F(Viewer, EachKeyIsBesideItsMeaning) {
+    user.InDialog([&] { user.Key(VK_F1); },
+                  [&](HWND dialog) {
+                      const orlo::WindowDC dc(dialog);
+                      const orlo::OwnedFont wide(
+                          ::CreateFontA(-11, 9, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Tahoma"));
+                      const orlo::SelectedObject selected(dc.get(), wide.get());
+                      TEXTMETRICA metrics;
+                      ::GetTextMetricsA(dc.get(), &metrics);
+                      for (const int column : {IDC_KEYS, IDC_MEANINGS}) {
+                          const HWND window = ::GetDlgItem(dialog, column);
+                          const LRESULT before = ::SendMessageA(window, WM_GETFONT, 0, 0);
+                          ::SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(wide.get()), TRUE);
+                          user.Wait(50);
+                          const std::string text = WindowText(window);
+                          EXPECT_EQ(LastLine(window, metrics.tmHeight), std::count(text.begin(), text.end(), '\n') - 1);
+                          ::SendMessageA(window, WM_SETFONT, static_cast<WPARAM>(before), FALSE);
+                      }
+                      user.Key(VK_ESCAPE);
                   });
 }
 
