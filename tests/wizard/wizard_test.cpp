@@ -17,20 +17,22 @@
 
 namespace {
 
-constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNotes = 603, kOneLine = 604, kNoTemplate = 699;
+constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNotes = 603, kOneLine = 604, kNoField = 605, kNoTemplate = 699;
 constexpr int kField = 1010, kKeepColor = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301, kHeading = 302;
 
 class CStep : public CPropertyPage {
 public:
     CStep(char name, std::string& log, UINT nIDTemplate) : CPropertyPage(nIDTemplate), m_name(name), m_log(log) {}
     bool accepts = true;
-    CSize grows; // in each OnSetActive
+    CSize grows;               // in each OnSetActive
+    bool disablesNext = false; // in OnSetActive
 
     BOOL OnSetActive() override {
         if (!CPropertyPage::OnSetActive()) return FALSE;
         CRect rect;
         GetWindowRect(rect);
         SetWindowPos(nullptr, 0, 0, rect.Width() + grows.cx, rect.Height() + grows.cy, SWP_NOMOVE | SWP_NOZORDER);
+        if (disablesNext) ::EnableWindow(::GetDlgItem(::GetParent(m_hWnd), kNext), FALSE);
         return TRUE;
     }
     BOOL OnKillActive() override {
@@ -260,6 +262,46 @@ TEST_F(Wizard, ReturnBeginsALineInAMultilineField) {
     });
 }
 
+TEST_F(Wizard, PageWithoutFieldsLeavesTheFocusToTheDefaultButton) {
+    EXPECT_EQ(Run(*Make({kNoField, kWide, kNoField}),
+                  [](SheetDriver& user) {
+                      const auto isOnNext = [] { return ::GetDlgCtrlID(::GetFocus()) == kNext; };
+                      EXPECT_TRUE(isOnNext());
+                      user.Key(VK_RETURN);
+                      user.Focus(kKeepColor);
+                      user.Key(VK_RETURN);
+                      EXPECT_EQ(State(user), "2 Back Finish");
+                      EXPECT_TRUE(isOnNext());
+                      user.Focus(::GetDlgItem(user.Sheet(), kBack));
+                      user.Key(VK_SPACE);
+                      user.Focus(::GetDlgItem(user.Sheet(), kBack));
+                      user.Key(VK_SPACE); // disables the focused button
+                      EXPECT_EQ(State(user), "0 - &Next >");
+                      EXPECT_TRUE(isOnNext());
+                      user.Key(VK_RETURN);
+                      ClickWithMouse(user, kNext);
+                      user.Key(VK_RETURN);
+                  }),
+              IDOK);
+}
+
+// A page that waits, for example; the keyboard must still be able to cancel the wizard.
+TEST_F(Wizard, FocusIsNotLostOnAPageThatCannotBeLeftByNext) {
+    const auto wizard = Make({kWide, kNoField});
+    steps[1]->disablesNext = true;
+    EXPECT_EQ(Run(*wizard,
+                  [](SheetDriver& user) {
+                      user.Focus(::GetDlgItem(user.Sheet(), kNext));
+                      user.Key(VK_RETURN);
+                      EXPECT_EQ(State(user), "1 Back Finish");
+                      EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDCANCEL);
+                      user.Key(VK_TAB);
+                      EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), kBack);
+                      user.Key(VK_ESCAPE);
+                  }),
+              IDCANCEL);
+}
+
 TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
     const auto wizard = Make({kWide, kWide});
     EXPECT_EQ(Run(*wizard,
@@ -397,6 +439,12 @@ TEST_F(Wizard, GrowsInPlaceAfterTheUserHasMovedIt) {
         ::SetWindowPos(user.Sheet(), nullptr, right - place(user.Sheet()).Width(), 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         user.ClickSheetButton(kNext);
         EXPECT_EQ(right, place(user.Sheet()).right) << "within the screen";
+    });
+    Run(*Make({kWide, kWide}), [&](SheetDriver& user) {
+        const CSize larger(place(user.Sheet()).Width() + 50, place(user.Sheet()).Height() + 40);
+        ::SetWindowPos(user.Sheet(), nullptr, 0, 0, larger.cx, larger.cy, SWP_NOMOVE | SWP_NOZORDER);
+        user.ClickSheetButton(kNext);
+        EXPECT_EQ(larger, place(user.Sheet()).Size()) << "the page is as large as the previous one";
     });
     Run(*Make({kNarrow, kWide}), [&](SheetDriver& user) {
         const CPoint middle = place(user.Sheet()).CenterPoint();
