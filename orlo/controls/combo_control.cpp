@@ -65,7 +65,7 @@ const ComboKind kComboKind;
 // The drop-down list's window, which is not a child of the combo box.
 class DropList : public CWnd {
 public:
-    explicit DropList(CComboControl& owner) : combo(owner) {}
+    DropList(CComboControl& owner, ComboState& state) : combo(owner), m_state(state) {}
     CComboControl& combo;
 
 protected:
@@ -74,6 +74,7 @@ protected:
 private:
     bool HasPointerMoved() const;
 
+    ComboState& m_state;
     POINT m_pointer = {}; // on the screen, when the list was opened
 };
 
@@ -105,18 +106,6 @@ bool DropList::HasPointerMoved() const {
     return now.x != m_pointer.x || now.y != m_pointer.y;
 }
 
-// A list that is opened by the keyboard under the pointer receives WM_MOUSEMOVE although the mouse does not move, and
-// would select the item under the pointer.
-LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_WINDOWPOSCHANGED && (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW))
-        ::GetCursorPos(&m_pointer);
-    if (message == WM_MOUSEMOVE && !HasPointerMoved()) return 0;
-    if (message == WM_GETOBJECT) {
-        if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kDropListKind)) return object;
-    }
-    return CWnd::WindowProc(message, wParam, lParam);
-}
-
 } // namespace
 
 // The part of a combo box that is not in its interface: the names of its items, the choice that Escape restores, and
@@ -125,6 +114,8 @@ class ComboState {
 public:
     explicit ComboState(CComboControl& combo) : m_combo(combo) {}
 
+    // Sizes the list and records the choice, unless the list is open.
+    void PrepareToOpen();
     void RecordChoice() { m_choice = GetChoice(); }
     void RestoreChoice() const;
     // Gives the list its own accessibility object, without which it would expose its items with their keys.
@@ -145,6 +136,29 @@ private:
     Choice m_choice;
     std::unique_ptr<DropList> m_list;
 };
+
+namespace {
+
+// An edit field sends the keys that open the list to the list. A list that is opened by the keyboard under the pointer
+// receives WM_MOUSEMOVE although the mouse does not move, and would select the item under the pointer.
+LRESULT DropList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_KEYDOWN && wParam == VK_F4 && !IsDropDownList(combo.m_hWnd)) m_state.PrepareToOpen();
+    if (message == WM_WINDOWPOSCHANGED && (reinterpret_cast<const WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW))
+        ::GetCursorPos(&m_pointer);
+    if (message == WM_MOUSEMOVE && !HasPointerMoved()) return 0;
+    if (message == WM_GETOBJECT) {
+        if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kDropListKind)) return object;
+    }
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
+} // namespace
+
+void ComboState::PrepareToOpen() {
+    if (m_combo.GetDroppedState()) return;
+    m_combo.SizeDropDown();
+    RecordChoice();
+}
 
 ComboState::Choice ComboState::GetChoice() const {
     Choice choice;
@@ -167,7 +181,7 @@ void ComboState::WatchList() {
     COMBOBOXINFO info = {};
     info.cbSize = sizeof info;
     if ((m_list && m_list->m_hWnd) || !::GetComboBoxInfo(m_combo.m_hWnd, &info) || !info.hwndList) return;
-    m_list = std::make_unique<DropList>(m_combo);
+    m_list = std::make_unique<DropList>(m_combo, *this);
     m_list->SubclassWindow(info.hwndList);
 }
 
@@ -253,10 +267,7 @@ LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     }
     if (message == WM_CHAR && TypeAhead(m_hWnd, items, m_state->names, wParam)) return 0;
     // Not at CBN_DROPDOWN, which only the parent receives.
-    if (OpensList(message, wParam) && !GetDroppedState()) {
-        SizeDropDown();
-        m_state->RecordChoice();
-    }
+    if (OpensList(message, wParam)) m_state->PrepareToOpen();
     const bool cancels = message == WM_KEYDOWN && wParam == VK_ESCAPE && GetDroppedState();
     if (message == WM_DESTROY) m_state->names = ItemNames();
     const LRESULT result = CComboBox::WindowProc(message, wParam, lParam); // can delete this object

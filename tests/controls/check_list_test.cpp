@@ -18,6 +18,13 @@ public:
         CCheckListBox::CheckItem(nIndex, bChecked);
     }
     int checks = 0;
+    bool hasCaret = true;
+
+protected:
+    // Windows has no caret item until one is selected; Wine reports the first.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        return message == LB_GETCARETINDEX && !hasCaret ? LB_ERR : CCheckListBox::WindowProc(message, wParam, lParam);
+    }
 };
 
 class CheckList : public ::testing::Test {
@@ -89,9 +96,14 @@ TEST_F(CheckList, ClickAnywhereOnAnItemTogglesAndSelectsIt) {
 
 TEST_F(CheckList, SpaceTogglesTheCurrentItem) {
     m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1); // no item
-    EXPECT_EQ(m_list.checks, 0) << "the current item is -1, which would mean all";
+    EXPECT_EQ(m_list.checks, 0);
     for (const char* name : {"a", " b", "c"})
         m_list.AddString(name, 0);
+    m_list.checks = 0;
+    m_list.hasCaret = false;
+    m_list.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    EXPECT_EQ(m_list.checks, 0) << "the current item is -1, which would mean all";
+    m_list.hasCaret = true;
     m_list.SetFocus();
     m_list.SetCurSel(2);
     const auto press = [&](LPARAM key) {

@@ -249,6 +249,24 @@ TEST_F(Fonts, RowsAreDrawnInTheSystemsColors) {
     EXPECT_EQ(area, pixels.Count(row, RGB(0, 0, 0)));
 }
 
+TEST_F(Fonts, ListOpenedInTheEditFieldIsSizedAndEscapeRestoresTheText) {
+    FillSizes(5.0f);
+    m_dialog.ShowWindow(SW_SHOW);
+    const HWND edit = ::GetDlgItem(m_sizes.m_hWnd, 1001);
+    ::SetFocus(edit);
+    ::SetWindowTextA(edit, "not in the list");
+    m_sizes.m_nDropHeight = 0;
+    ::SendMessageA(edit, WM_KEYDOWN, VK_F4, 1);
+    ASSERT_TRUE(m_sizes.GetDroppedState());
+    EXPECT_LT(0, m_sizes.m_nDropHeight) << "sized before it opens";
+    ::SendMessageA(edit, WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_NE(Shown(), "not in the list");
+    for (const UINT message : {WM_KEYDOWN, WM_CHAR})
+        ::SendMessageA(edit, message, VK_ESCAPE, 1);
+    EXPECT_FALSE(m_sizes.GetDroppedState());
+    EXPECT_EQ(Shown(), "not in the list");
+}
+
 TEST_F(Fonts, ReturnInTheEditFieldEndsTheEntry) {
     m_dialog.ShowWindow(SW_SHOW);
     m_host.ShowWindow(SW_SHOW);

@@ -190,7 +190,8 @@ TYPED_TEST(TableControl, SelectsByTypedNames) {
         {"Red", "dark r", "Dark red", 2},
         {"Walls", "x", "Walls", 0},
         {"", "rx", "Red", 1},
-        {"", "rxe", "Red", 1},   // a letter that does not continue a name is ignored
+        {"", "rxe", "Red", 1}, // a letter that does not continue a name is ignored
+        {"", "gxrey", "Grey", 2},
         {"", "rd", "Doors", 2},  // unless another name begins with it
         {"", "xgr", "Green", 1}, // and does not affect the following letters
         {"", "gre\b\by", "Yellow", 2},
@@ -210,11 +211,11 @@ TYPED_TEST(TableControl, SelectsByTypedNames) {
         EXPECT_EQ(row.changes, this->m_host.Count(CBN_SELCHANGE)) << row.typed;
     }
     this->m_control.SetCurSel(0);
-    EXPECT_EQ(type("r"), "Red");
+    EXPECT_EQ(type("g"), "Green");
     {
         const DoubleClickTime shortest(1);
         ::Sleep(50);
-        EXPECT_EQ(type("d"), "Doors") << "after a pause";
+        EXPECT_EQ(type("r"), "Red") << "after a pause, not the next letter of Green";
     }
     {
         const DoubleClickTime fast(200);
@@ -384,6 +385,14 @@ TEST_F(DropDown, EscapeRestoresTheChoice) {
     m_host.notifications.clear();
     key(VK_ESCAPE);
     EXPECT_EQ(m_host.Count(CBN_SELCHANGE), 0) << "nothing was selected";
+    m_control.ShowDropDown(TRUE);
+    TableEntryAdd(m_table, "Floor", nullptr);
+    const uint16_t roof = TableEntryAdd(m_table, "Roof", nullptr);
+    const uint16_t stairs = TableEntryAdd(m_table, "Stairs", nullptr);
+    Fill(m_table, stairs);
+    key(VK_ESCAPE);
+    EXPECT_EQ(m_control.GetCurSel(), 2) << "filled while it was open";
+    Fill(m_table, roof);
     m_control.ShowDropDown(TRUE);
     key(VK_DOWN);
     key(VK_RETURN);
