@@ -111,7 +111,7 @@ void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 int CLayerControl::MeasureNameWidth(HDC dc, const char* name) {
-    return 2 * ColumnWidth() + 3 * ScreenPixels(kGap) + ScreenPixels(kChip) + TextWidth(dc, name);
+    return 2 * ColumnWidth() + ScreenPixels(dc, 3 * kGap + kChip) + TextWidth(dc, name);
 }
 
 void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {

@@ -6,7 +6,11 @@
 
 int ScreenPixels(int at96) {
     const orlo::OwnedDC screen(::CreateCompatibleDC(nullptr));
-    return screen ? ::MulDiv(at96, ::GetDeviceCaps(screen.get(), LOGPIXELSY), 96) : at96;
+    return screen ? ScreenPixels(screen.get(), at96) : at96;
+}
+
+int ScreenPixels(HDC dc, int at96) {
+    return ::MulDiv(at96, ::GetDeviceCaps(dc, LOGPIXELSY), 96);
 }
 
 int FontHeight(HDC dc, int points) {

@@ -9,8 +9,15 @@
 #include <random>
 
 #include "orlo/controls/color_order.h"
+#include "support/replaced_import.h"
 
 namespace {
+
+int g_contexts = 0;
+HDC WINAPI CountedContext(HDC dc) {
+    ++g_contexts;
+    return ::CreateCompatibleDC(dc);
+}
 
 class LongLists : public ControlDialog {
 protected:
@@ -22,10 +29,17 @@ protected:
         Fill(id, m_drawing.Table(table), selected);
         Pump();
     }
-    // Opens and closes a combo box, and compares the number of drawn rows with that of visible rows.
+    // Opens and closes a combo box, and compares the number of drawn rows with that of visible rows. All names are
+    // measured with one device context, because creating one takes longer than measuring.
     void ExpectOpenedWithin(CComboControl& combo) {
         m_dialog.drawn = 0;
-        combo.SizeDropDown();
+        {
+            const ReplacedImport counted("orlo.dll", "CreateCompatibleDC", CountedContext);
+            g_contexts = 0;
+            combo.SizeDropDown();
+            EXPECT_LT(0, g_contexts);
+            EXPECT_GT(10, g_contexts);
+        }
         combo.ShowDropDown(TRUE);
         Pump();
         MEASUREITEMSTRUCT row = {};

@@ -13,6 +13,7 @@
 #include "drawcore/object_counts.h"
 #include "drawcore/undo.h"
 #include "orlo/resources/resource.h"
+#include "orlo/win/child_windows.h"
 #include "pages/every_kind.h"
 #include "support/drawing_state.h"
 #include "support/host_frame.h"
@@ -128,6 +129,34 @@ TEST_F(AllPages, EveryControlIsReachedAndLeftByKeys) {
                     ADD_FAILURE() << page << " " << back << " " << ::GetDlgCtrlID(missed);
             }
         }
+    });
+}
+
+bool IsGroupBox(HWND window) {
+    return (::SendMessageA(window, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) && IsOfClass(window, "Button");
+}
+
+TEST_F(AllPages, ControlsStayInsideTheLinesOfTheirGroups) {
+    constexpr int kLine = 2;
+    kinds.Select(kEverything);
+    const auto sheet = kinds.NewSheet();
+    SheetDriver().Run(*sheet, [&](SheetDriver& user) {
+        int inside = 0;
+        for (int page = 0; page < sheet->GetPageCount(); ++page) {
+            user.SelectPage(page);
+            ForEachChild(user.Page(), [&](HWND group) {
+                if (!IsGroupBox(group)) return;
+                const RECT lines = PlaceIn(user.Page(), group);
+                ForEachChild(user.Page(), [&](HWND child) {
+                    const RECT place = PlaceIn(user.Page(), child);
+                    const bool starts = ::PtInRect(&lines, {place.left, place.top});
+                    if (child == group || ::GetParent(child) != user.Page() || !starts) return;
+                    ++inside;
+                    EXPECT_LT(place.right, lines.right - kLine) << page << " " << ::GetDlgCtrlID(child);
+                });
+            });
+        }
+        EXPECT_LT(40, inside);
     });
 }
 
