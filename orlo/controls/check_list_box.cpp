@@ -167,9 +167,9 @@ void CCheckListBox::DrawItem(DRAWITEMSTRUCT* pDIS) {
     GetText(index, name);
     CRect text = row;
     text.left += box.Width() + 2 * BoxMargin();
-    const int offset = std::max((row.Height() - TextHeight(pDIS->hDC)) / 2, 0);
+    const int top = CenteredTextTop(pDIS->hDC, row, 0);
     FillSolid(pDIS->hDC, text, colors.background);
-    DrawClippedText(pDIS->hDC, text.left + kTextGap, row.top + offset, text, name, colors.text);
+    DrawClippedText(pDIS->hDC, text.left + kTextGap, top, text, name, colors.text);
     {
         const orlo::SavedDC clipped(pDIS->hDC);
         ::IntersectClipRect(pDIS->hDC, row.left, row.top, row.right, row.bottom);

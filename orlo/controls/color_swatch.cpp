@@ -54,7 +54,8 @@ void DrawName(const SwatchPlace& place, RECT rect, const char* name, COLORREF co
 
 void DrawLabel(const SwatchPlace& place, const RECT& frame, COLORREF frameColor, int frameWidth, const char* name) {
     FrameRectangle(place.dc, frame, frameColor, frameWidth);
-    DrawClippedText(place.dc, place.rect.left + 4, place.rect.top + 1, place.rect, name, place.textColor);
+    DrawClippedText(place.dc, place.rect.left + 4, CenteredTextTop(place.dc, place.rect, 1), place.rect, name,
+                    place.textColor);
 }
 
 // A swatch in the color of the background needs a frame. In a list the frame stays within the row, because neighboring

@@ -10,11 +10,6 @@
 
 namespace {
 
-// Returns the distance from the top of the row at which a line of text is vertically centered, at least `least`.
-int MiddleOffset(HDC dc, const RECT& row, LONG least) {
-    return std::max((row.bottom - row.top - TextHeight(dc)) / 2, least);
-}
-
 RowColors DisabledColors(const DRAWITEMSTRUCT& item) {
     return {::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(IsClosedField(item) ? COLOR_3DFACE : COLOR_WINDOW)};
 }
@@ -69,14 +64,14 @@ int PlainRowWidth(HDC dc, const char* text) {
 void DrawPlainRow(const DRAWITEMSTRUCT& item, const char* text, const RowColors& colors) {
     const RECT& rect = item.rcItem;
     FillSolid(item.hDC, rect, colors.background);
-    const int top = rect.top + MiddleOffset(item.hDC, rect, kPlainTextAt.y);
+    const int top = CenteredTextTop(item.hDC, rect, kPlainTextAt.y);
     DrawClippedText(item.hDC, rect.left + kPlainTextAt.x, top, rect, text, colors.text);
 }
 
 void DrawFramedName(const DRAWITEMSTRUCT& item, const RECT& frame, POINT at, const char* name) {
     const COLORREF color = SampleColorsOf(item).text;
     FrameRectangle(item.hDC, frame, color, 1);
-    const int top = item.rcItem.top + MiddleOffset(item.hDC, item.rcItem, at.y - item.rcItem.top);
+    const int top = CenteredTextTop(item.hDC, item.rcItem, at.y - item.rcItem.top);
     DrawClippedText(item.hDC, at.x, top, item.rcItem, name, color);
 }
 

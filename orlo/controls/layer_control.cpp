@@ -81,8 +81,8 @@ void DrawLayerName(const DRAWITEMSTRUCT& request, const ShownLayer& layer) {
     const COLORREF textColor = plain ? TextColorOnWindow() : ColorsOf(request).text;
     int x = rect.left + 2 * ColumnWidth() + ScreenPixels(kGap);
     if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, textColor) + ScreenPixels(kGap);
-    const int offset = std::max((rect.bottom - rect.top - TextHeight(request.hDC)) / 2, 0L);
-    DrawClippedText(request.hDC, x, rect.top + offset, rect, layer.name, plain && readable ? color : textColor);
+    DrawClippedText(request.hDC, x, CenteredTextTop(request.hDC, rect, 0), rect, layer.name,
+                    plain && readable ? color : textColor);
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <cstring>
 
+#include "orlo/controls/control_font.h"
+
 namespace {
 
 // Converts an sRGB channel to linear light.
@@ -42,6 +44,11 @@ void FrameRectangle(HDC dc, const RECT& rect, COLORREF color, int width) {
 void DrawClippedText(HDC dc, int x, int y, const RECT& clip, const char* text, COLORREF color) {
     const orlo::TextColor colors(dc, color);
     ::ExtTextOutA(dc, x, y, ETO_CLIPPED, &clip, text, static_cast<UINT>(std::strlen(text)), nullptr);
+}
+
+int CenteredTextTop(HDC dc, const RECT& row, int least) {
+    const int space = static_cast<int>(row.bottom - row.top) - TextHeight(dc);
+    return static_cast<int>(row.top) + std::max(space / 2, least);
 }
 
 COLORREF TextColorOnWindow() {

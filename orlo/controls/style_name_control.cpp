@@ -78,8 +78,8 @@ void CStyleNameControl::DrawItem(DRAWITEMSTRUCT* pDIS) {
     const RowColors colors = SampleColorsOf(*pDIS);
     FillSolid(pDIS->hDC, frame, colors.background);
     FrameRectangle(pDIS->hDC, frame, colors.text, 1);
-    DrawClippedText(pDIS->hDC, pDIS->rcItem.left + kPlainTextAt.x, pDIS->rcItem.top + kPlainTextAt.y, pDIS->rcItem,
-                    item.text, colors.text);
+    DrawClippedText(pDIS->hDC, pDIS->rcItem.left + kPlainTextAt.x,
+                    CenteredTextTop(pDIS->hDC, pDIS->rcItem, kPlainTextAt.y), pDIS->rcItem, item.text, colors.text);
     if (!inField && (pDIS->itemState & ODS_SELECTED)) MarkCurrentRow(*pDIS);
     DrawItemFocus(*pDIS);
 }

@@ -1,4 +1,5 @@
-// The closed fields of all owner-drawn combo boxes in light and dark schemes: focus and disabled state.
+// The closed fields of all owner-drawn combo boxes in light and dark schemes: focus and disabled state. The place of
+// texts in rows.
 
 #include "control_dialog.h"
 
@@ -57,6 +58,37 @@ TEST_F(ComboField, ShowsTheFocusAndThatItIsDisabled) {
                              {COLOR_GRAYTEXT, RGB(0, 255, 0)}});
     for (const int id : ids)
         ExpectFocusAndDisabledState(id);
+}
+
+// In rows that are higher than the text, as at high resolutions.
+TEST_F(ComboField, TextsAreCenteredInHighRows) {
+    Get<CComboControl>(IDC_FONT_SIZE).AddString("Mmm");
+    Get<CComboControl>(IDC_LINE_STYLE_COMBO).m_nSelected = kLineStyleByLayer;
+    const CRect row(0, 0, 120, 60);
+    DrawnPixels pixels(row.Width(), row.Height());
+    const auto drawn = [&](int id, int item) { // without the frame
+        CComboControl& combo = Get<CComboControl>(id);
+        pixels.Draw(combo, item < 0 ? item : combo.GetCount() - 1 - item, row);
+        const COLORREF background = ::GetSysColor(COLOR_WINDOW);
+        CRect ink;
+        for (int y = row.top + 4; y < row.bottom - 4; ++y)
+            for (int x = row.left + 4; x < row.right - 4; ++x)
+                if (pixels.At(x, y) != background) ink.UnionRect(CRect(ink), CRect(x, y, x + 1, y + 1));
+        return ink;
+    };
+    for (const auto& [id, item] : {std::pair(IDC_FONT_FACE, 0),
+                                   {IDC_FONT_SIZE, 0},
+                                   {IDC_STYLE_NAME, 0},
+                                   {IDC_COLOR, 0}, // by layer
+                                   {IDC_LINE_STYLE_COMBO, -1}}) {
+        const CRect ink = drawn(id, item);
+        EXPECT_LT(4, ink.Height()) << id;
+        EXPECT_NEAR(ink.CenterPoint().y, row.CenterPoint().y, 4) << id;
+    }
+    const int last = Get<CComboControl>(IDC_BRUSH_STYLE_COMBO).GetCount() - 1;
+    const CRect noBrush = drawn(IDC_BRUSH_STYLE_COMBO, last);
+    EXPECT_NEAR(noBrush.CenterPoint().y, row.CenterPoint().y, 4);
+    EXPECT_NEAR(noBrush.CenterPoint().x, row.CenterPoint().x, 2) << "like the samples";
 }
 
 } // namespace

@@ -59,6 +59,8 @@ TEST_F(Layers, ShowEyeBookAndNameInColumns) {
             EXPECT_EQ(row.eye, CountDrawnIn(0, 16, back) > 30) << row.name;
             EXPECT_EQ(row.book, CountDrawnIn(16, 32, back) > 30) << row.name;
             EXPECT_LT(10, CountDrawnIn(32, 140, back)) << row.name << ": the name always begins at 32";
+            const int columns = ::GetSystemMetrics(SM_CXICON);
+            EXPECT_EQ(CountDrawnIn(columns, columns + Scaled(3), back), 0) << row.name << ": a gap";
             EXPECT_EQ(m_pixels.CountWhere({0, 0, 150, 8}, [](COLORREF c) { return c != kUntouched; }), 0);
         }
     }

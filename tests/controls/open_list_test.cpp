@@ -97,14 +97,24 @@ TEST_F(OpenLists, SelectUnderAMovingButNotAnIdlePointer) {
 }
 
 TEST_F(OpenLists, AreAsWideAsTheirNames) {
-    CComboControl& layers = Get<CComboControl>(IDC_LAYER);
-    const std::string name(60, 'M');
-    TableEntryAdd(m_drawing.Table(kTableLayers), name.c_str(), nullptr);
-    Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
-    layers.ShowDropDown(TRUE);
-    EXPECT_LT(200, layers.SendMessage(CB_GETDROPPEDWIDTH));
-    EXPECT_GE(::GetSystemMetrics(SM_CXSCREEN) / 2, layers.SendMessage(CB_GETDROPPEDWIDTH));
-    layers.ShowDropDown(FALSE);
+    for (const int id : {IDC_LAYER, IDC_COLOR, IDC_FONT_FACE, IDC_FONT_SIZE, IDC_STYLE_NAME}) {
+        CComboControl& combo = Get<CComboControl>(id);
+        const auto openWith = [&](int letters) {
+            const std::string name(static_cast<size_t>(letters), 'M');
+            combo.AddString(("00000001\t" + name).c_str());
+            combo.ShowDropDown(TRUE);
+            combo.ShowDropDown(FALSE);
+            const orlo::WindowDC dc(combo.m_hWnd);
+            const orlo::SelectedObject font(dc.get(), reinterpret_cast<HFONT>(combo.SendMessage(WM_GETFONT)));
+            SIZE size = {};
+            ::GetTextExtentPoint32A(dc.get(), name.c_str(), letters, &size);
+            return static_cast<int>(size.cx);
+        };
+        const int width = openWith(25), half = ::GetSystemMetrics(SM_CXSCREEN) / 2;
+        EXPECT_LT(width + ::GetSystemMetrics(SM_CXVSCROLL), combo.SendMessage(CB_GETDROPPEDWIDTH)) << id;
+        openWith(100);
+        EXPECT_EQ(half, combo.SendMessage(CB_GETDROPPEDWIDTH)) << id;
+    }
 }
 
 } // namespace
