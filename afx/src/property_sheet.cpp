@@ -250,17 +250,21 @@ bool CPropertySheet::HasFocus(const CPropertyPage* page) const {
            (focus == page->m_hWnd || ::IsChild(page->m_hWnd, focus));
 }
 
+static bool IsUsable(HWND control) {
+    return (::GetWindowLongPtrA(control, GWL_STYLE) & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
+}
+
 void CPropertySheet::FocusActivePage() {
     const CPropertyPage* page = GetActivePage();
     if (page == nullptr || page->m_hWnd == nullptr) return;
     HWND first = ::GetNextDlgTabItem(page->m_hWnd, nullptr, FALSE);
     const bool takes = first != nullptr && (::GetWindowLongPtrA(first, GWL_STYLE) & WS_TABSTOP) != 0;
-    // If no control of the page accepts the focus, it goes to the tabs, the default button or, if that is disabled, the
-    // control after it; in the previous page, now hidden, it would still receive keys.
+    // If no control of the page accepts the focus, it goes to the tabs, the default button or, if that is disabled or
+    // hidden, the control after it; in the previous page, now hidden, it would still receive keys.
     if (!takes) {
         const bool tabs = m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible();
         first = tabs ? m_tabRow.m_hWnd : ::GetDlgItem(m_hWnd, LOWORD(SendMessage(DM_GETDEFID)));
-        if (first != nullptr && !::IsWindowEnabled(first)) first = ::GetNextDlgTabItem(m_hWnd, first, FALSE);
+        if (first != nullptr && !IsUsable(first)) first = ::GetNextDlgTabItem(m_hWnd, first, FALSE);
     }
     if (first != nullptr && first != ::GetFocus()) {
         SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);

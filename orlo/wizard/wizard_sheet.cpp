@@ -325,7 +325,7 @@ void CWizardSheet::OnReturn(const MSG& message) {
     const bool finishes = m_nCurPage == GetPageCount() - 1;
     const HWND page = GetActivePage()->m_hWnd, next = ::GetDlgItem(m_hWnd, kNextId);
     const bool skips = !finishes && ::IsChild(page, message.hwnd) && HasFieldAfter(page, message.hwnd);
-    if (heldDown || skips || next == nullptr || !::IsWindowEnabled(next)) return;
+    if (heldDown || skips || !IsShown(next) || !::IsWindowEnabled(next)) return;
     SendMessage(WM_COMMAND, MAKEWPARAM(kNextId, BN_CLICKED), reinterpret_cast<LPARAM>(next));
 }
 

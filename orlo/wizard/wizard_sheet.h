@@ -12,9 +12,10 @@
 // wait for the validation of the last page uses the results after DoModal, not in OnOK.
 //
 // Next is the default button. Return presses it unless another field of the page follows the one with the focus; on the
-// last page, Return finishes from any field. It does not press a button that the host has disabled. Holding the key
-// down moves by only one page. After Next, the first field of the new page has the focus. The default button's frame is
-// drawn on the push button with the focus, if any, else on Next.
+// last page, Return finishes from any field. It does not press a button that the host has disabled or hidden. Holding
+// the key down moves by only one page. After Next, the first field of the new page has the focus; a page without fields
+// leaves it to Next or, if that cannot be pressed, to the button after it. The default button's frame is drawn on the
+// push button with the focus, if any, else on Next.
 //
 // The sheet has the size of the page that it opens on, and grows for larger pages: it uses the window rectangle of the
 // page after OnSetActive. The sheet is centered when it opens; if the user has moved it, it grows in place. The page's

@@ -24,15 +24,19 @@ class CStep : public CPropertyPage {
 public:
     CStep(char name, std::string& log, UINT nIDTemplate) : CPropertyPage(nIDTemplate), m_name(name), m_log(log) {}
     bool accepts = true;
-    CSize grows;               // in each OnSetActive
-    bool disablesNext = false; // in OnSetActive
+    // In each OnSetActive:
+    CSize grows;
+    bool disablesNext = false;
+    bool hidesNext = false;
 
     BOOL OnSetActive() override {
         if (!CPropertyPage::OnSetActive()) return FALSE;
         CRect rect;
         GetWindowRect(rect);
         SetWindowPos(nullptr, 0, 0, rect.Width() + grows.cx, rect.Height() + grows.cy, SWP_NOMOVE | SWP_NOZORDER);
-        if (disablesNext) ::EnableWindow(::GetDlgItem(::GetParent(m_hWnd), kNext), FALSE);
+        const HWND next = ::GetDlgItem(::GetParent(m_hWnd), kNext);
+        if (disablesNext) ::EnableWindow(next, FALSE);
+        if (hidesNext) ::ShowWindow(next, SW_HIDE);
         return TRUE;
     }
     BOOL OnKillActive() override {
@@ -287,33 +291,39 @@ TEST_F(Wizard, PageWithoutFieldsLeavesTheFocusToTheDefaultButton) {
 
 // A page that waits, for example; the keyboard must still be able to cancel the wizard.
 TEST_F(Wizard, FocusIsNotLostOnAPageThatCannotBeLeftByNext) {
-    const auto wizard = Make({kWide, kNoField});
-    steps[1]->disablesNext = true;
-    EXPECT_EQ(Run(*wizard,
-                  [](SheetDriver& user) {
-                      user.Focus(::GetDlgItem(user.Sheet(), kNext));
-                      user.Key(VK_RETURN);
-                      EXPECT_EQ(State(user), "1 Back Finish");
-                      EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDCANCEL);
-                      user.Key(VK_TAB);
-                      EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), kBack);
-                      user.Key(VK_ESCAPE);
-                  }),
-              IDCANCEL);
+    for (const bool hides : {false, true}) {
+        const auto wizard = Make({kWide, kNoField});
+        (hides ? steps[1]->hidesNext : steps[1]->disablesNext) = true;
+        EXPECT_EQ(Run(*wizard,
+                      [](SheetDriver& user) {
+                          user.Focus(::GetDlgItem(user.Sheet(), kNext));
+                          user.Key(VK_RETURN);
+                          EXPECT_EQ(State(user), "1 Back Finish");
+                          EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDCANCEL);
+                          user.Key(VK_TAB);
+                          EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), kBack);
+                          user.Key(VK_ESCAPE);
+                      }),
+                  IDCANCEL);
+    }
 }
 
-TEST_F(Wizard, ReturnDoesNotPressADisabledButton) {
+TEST_F(Wizard, ReturnDoesNotPressADisabledOrHiddenButton) {
     const auto wizard = Make({kWide, kWide});
     EXPECT_EQ(Run(*wizard,
                   [&](SheetDriver& user) {
                       const HWND next = ::GetDlgItem(user.Sheet(), kNext);
                       for (const char* left : {"0 - &Next >", "1 Back Finish"}) {
-                          ::EnableWindow(next, FALSE);
                           user.Focus(kKeepColor);
+                          ::EnableWindow(next, FALSE);
+                          user.Key(VK_RETURN);
+                          EXPECT_EQ(left, State(user));
+                          ::EnableWindow(next, TRUE);
+                          ::ShowWindow(next, SW_HIDE);
                           user.Key(VK_RETURN);
                           EXPECT_EQ(left, State(user));
                           EXPECT_EQ(log, "");
-                          ::EnableWindow(next, TRUE);
+                          ::ShowWindow(next, SW_SHOW);
                           user.Key(VK_RETURN);
                       }
                   }),
