@@ -11,6 +11,8 @@
 #include "orlo/c/guarded_call.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/pages/field_page.h"
+#include "orlo/resources/library_text.h"
+#include "orlo/resources/resource.h"
 #include "orlo/win/encoded_text.h"
 
 namespace orlo {
@@ -73,7 +75,7 @@ void SetCheck(FieldRow& row, const OrloPage& page, uint32_t index) {
         char message[512] = "";
         if (CallHost(page.check, page.context, index, ValueRecord(value).Get(), message, sizeof message)) return "";
         message[sizeof message - 1] = '\0';
-        return *message != '\0' ? ToSystemText(message) : "The value is not valid.";
+        return *message != '\0' ? ToSystemText(message) : std::string(LibraryText(IDS_ENTER_VALUE));
     };
 }
 

@@ -59,6 +59,9 @@
 #define IDS_PANE_HELP 136
 #define IDS_NOTHING_SELECTED 137
 
+// A value that a check of the host rejects without a message.
+#define IDS_ENTER_VALUE 138
+
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 

@@ -19,6 +19,7 @@
 #include "drawcore/selection.h"
 #include "orlo/frame/sheet_pane.h"
 #include "orlo/pages/field_page.h"
+#include "orlo/resources/resource.h"
 #include "orlo/win/child_windows.h"
 #include "support/graphic_kit.h"
 #include "support/message_box_watcher.h"
@@ -166,6 +167,20 @@ TEST_F(CPages, EditPropertiesAndTheHostsOwnData) {
     for (const auto& [graphic, price] : prices)
         EXPECT_EQ(price, 12.5);
     EXPECT_EQ(written, (std::vector<Counts>{{2, 1}})) << "both accepted a price, one no rating";
+}
+
+TEST_F(CPages, ValueRejectedWithoutAMessageGetsTheLibrarys) {
+    page.check = [](void*, uint32_t, const OrloValue* value, char*, size_t) -> int32_t { return value->number != 5; };
+    char text[64] = "";
+    EXPECT_LT(0, ::LoadStringA(::GetModuleHandleA("orlo.dll"), IDS_ENTER_VALUE, text, sizeof text));
+    MessageBoxWatcher boxes;
+    RunOk([&](HWND window) {
+        Type(window, kRating, "5");
+        user.Click(::GetDlgItem(window, IDOK));
+        EXPECT_EQ(boxes.OnlyText(), text);
+        Type(window, kRating, "3");
+    });
+    EXPECT_EQ(kit[0].Number("Rating"), 3);
 }
 
 // A dialog can show "\xCE\xA9" (a Greek omega) only as another letter, which an edit would then store.

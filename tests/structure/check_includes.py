@@ -44,7 +44,7 @@ MAY["orlo/wizard"] = {"orlo/wizard", "orlo/win", "afx"}
 MAY["orlo/resources"] = {"orlo/resources", "afx"}
 MAY["orlo/c"] |= {"orlo/propset", "orlo/summary", "orlo/include", "files"}
 MAY["orlo/include"] = {name for name in MAY if name.startswith("orlo/")}
-for module in "entry pages exchange frame controls wizard".split():
+for module in "c entry pages exchange frame controls wizard".split():
     MAY[f"orlo/{module}"].add("orlo/resources")  # strings, and identifiers of templates and controls
 MAY["drawcore/save"] = {"drawcore/save", "drawcore/dxf", "drawcore/geometry", "drawcore/include", "orlo/host"}  # without windows
 MAY["drawcore/document"] = {"drawcore/document", "drawcore/units", *MAY["drawcore/save"]}
