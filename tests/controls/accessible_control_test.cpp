@@ -3,10 +3,12 @@
 #include "control_dialog.h"
 
 #include <drawcore/layer.h>
+#include <drawcore/linestyle.h>
 #include <oleacc.h>
 
 #include "orlo/controls/check_list_box.h"
 #include "orlo/controls/color_control.h"
+#include "orlo/controls/layer_control.h"
 #include "support/accessible.h"
 
 namespace {
@@ -71,6 +73,71 @@ TEST_F(AccessibleControls, ColorWithoutAnItemIsDescribedByItsComponents) {
     EXPECT_EQ(Of(IDC_COLOR).Value(), "");
 }
 
+TEST_F(AccessibleControls, StyleThatIsNotListedIsNamed) {
+    TableStruct* const styles = m_drawing.Table(kTableLineStyles);
+    const double dashes[] = {1.0, -0.5};
+    const uint16_t id = LineStyleAdd(styles, "$AUXILIARY", nullptr, dashes, 2);
+    Fill(IDC_LINE_STYLE_COMBO, styles, id);
+    EXPECT_EQ(Get<CComboControl>(IDC_LINE_STYLE_COMBO).GetCurSel(), -1);
+    EXPECT_EQ(Of(IDC_LINE_STYLE_COMBO).Value(), "$AUXILIARY");
+    EXPECT_EQ(Of(IDC_LINE_STYLE_COMBO).Value(1), "$AUXILIARY") << "the text part";
+}
+
+TEST_F(AccessibleControls, AreNamedByTheirLabelOrElseTheSmallestGroupAround) {
+    m_host.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_SHOWWINDOW);
+    const auto add = [&](const char* kind, const char* text, DWORD style, const CRect& place) {
+        ::CreateWindowExA(0, kind, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.Width(),
+                          place.Height(), m_host.m_hWnd, nullptr, nullptr, nullptr);
+    };
+    add("Button", "Everything", BS_GROUPBOX, {0, 0, 290, 290});
+    add("Button", "&Styles", BS_GROUPBOX, {5, 5, 200, 200});
+    add("Static", "La&yer:", 0, {10, 10, 50, 30});
+    CLayerControl layers;
+    const DWORD style = WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
+    ASSERT_TRUE(layers.Create(style, CRect(60, 10, 150, 100), &m_host, 5));
+    layers.SizeDropDown();
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(::GetComboBoxInfo(layers.m_hWnd, &info));
+    add("Static", "", 0, {10, 35, 50, 40}); // shows an example, for instance
+    CCheckListBox list;
+    ASSERT_TRUE(
+        list.Create(WS_CHILD | WS_VISIBLE | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(10, 40, 100, 150), &m_host, 6));
+    EXPECT_EQ(Accessible(layers.m_hWnd).Name(), "Layer:");
+    EXPECT_EQ(Accessible(info.hwndList).Name(), "Layer:");
+    EXPECT_EQ(Accessible(list.m_hWnd).Name(), "Styles");
+    list.DestroyWindow();
+    layers.DestroyWindow();
+}
+
+TEST_F(AccessibleControls, ItemsAreFoundByDirectionPlaceAndFocus) {
+    m_dialog.ShowWindow(SW_SHOW);
+    Fill(IDC_BRUSH_STYLE_LIST, m_drawing.Table(kTableBrushStyles));
+    const Accessible styles = Of(IDC_BRUSH_STYLE_LIST);
+    const int count = styles.Count();
+    ASSERT_LT(2, count);
+    EXPECT_EQ(styles.Navigate(NAVDIR_FIRSTCHILD, CHILDID_SELF), 1);
+    EXPECT_EQ(styles.Navigate(NAVDIR_LASTCHILD, CHILDID_SELF), count);
+    EXPECT_EQ(styles.Navigate(NAVDIR_NEXT, 1), 2);
+    EXPECT_EQ(styles.Navigate(NAVDIR_UP, 2), 1);
+    EXPECT_EQ(styles.Navigate(NAVDIR_PREVIOUS, 1), 0);
+    EXPECT_EQ(styles.Navigate(NAVDIR_DOWN, count), 0);
+
+    const CRect second = styles.Location(2);
+    CRect window;
+    ::GetWindowRect(Control(IDC_BRUSH_STYLE_LIST), window);
+    EXPECT_TRUE(window.PtInRect(second.TopLeft()));
+    EXPECT_EQ(styles.HitTest(second.CenterPoint()), 2);
+
+    ::SetFocus(Control(IDC_BRUSH_STYLE_LIST));
+    Get<CListControl>(IDC_BRUSH_STYLE_LIST).SetCurSel(1);
+    EXPECT_EQ(styles.Focus(), 2);
+    AddLayer("Walls", 0);
+    Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
+    ListOf(IDC_LAYER).Select(2);
+    EXPECT_EQ(Get<CComboControl>(IDC_LAYER).GetCurSel(), 1);
+}
+
 TEST_F(AccessibleControls, TextOfItemsIsUnchanged) {
     AddLayer("Walls", 0);
     Fill(IDC_LAYER, m_drawing.Table(kTableLayers));
@@ -122,8 +189,12 @@ TEST_F(AccessibleControls, ChangesByTypingAndByCodeRaiseEvents) {
     EXPECT_EQ(events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF), 1);
     layers.SetCurSel(0);
     EXPECT_EQ(events.Count(EVENT_OBJECT_VALUECHANGE, layers.m_hWnd, CHILDID_SELF), 2);
+    m_dialog.ShowWindow(SW_SHOW);
+    styles.SetFocus();
     styles.SetCurSel(1);
+    EXPECT_EQ(events.Count(EVENT_OBJECT_VALUECHANGE, styles.m_hWnd, CHILDID_SELF), 1);
     EXPECT_EQ(events.Count(EVENT_OBJECT_SELECTION, styles.m_hWnd, 2), 1);
+    EXPECT_EQ(events.Count(EVENT_OBJECT_FOCUS, styles.m_hWnd, 2), 1);
     CCheckListBox list;
     ASSERT_TRUE(list.Create(WS_CHILD | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, CRect(0, 0, 90, 90), &m_dialog, 7));
     list.AddString("Walls", 1);

@@ -63,6 +63,23 @@ long Accessible::Role(int child) const {
 long Accessible::State(int child) const {
     return Number(&IAccessible::get_accState, child);
 }
+int Accessible::Navigate(long direction, int from) const {
+    VARIANT to = {};
+    return m_object->accNavigate(direction, Child(from), &to) == S_OK && to.vt == VT_I4 ? to.lVal : CHILDID_SELF;
+}
+int Accessible::HitTest(POINT point) const {
+    VARIANT child = {};
+    return m_object->accHitTest(point.x, point.y, &child) == S_OK && child.vt == VT_I4 ? child.lVal : CHILDID_SELF;
+}
+int Accessible::Focus() const {
+    VARIANT child = {};
+    return m_object->get_accFocus(&child) == S_OK && child.vt == VT_I4 ? child.lVal : CHILDID_SELF;
+}
+RECT Accessible::Location(int child) const {
+    long left = 0, top = 0, width = 0, height = 0;
+    m_object->accLocation(&left, &top, &width, &height, Child(child));
+    return {left, top, left + width, top + height};
+}
 void Accessible::Select(int child) const {
     m_object->accSelect(SELFLAG_TAKESELECTION, Child(child));
 }

@@ -21,6 +21,11 @@ public:
     std::string DefaultAction(int child) const;
     long Role(int child = CHILDID_SELF) const;
     long State(int child) const;
+    // These return a child, or 0 for the window itself or none.
+    int Navigate(long direction, int from) const;
+    int HitTest(POINT point) const; // on the screen
+    int Focus() const;
+    RECT Location(int child) const; // on the screen
     void Select(int child) const;
     void DoDefaultAction(int child) const;
 
