@@ -142,7 +142,7 @@ void ShowHeading(HWND sheet, CTabCtrl& tabs, int page) {
 }
 
 // The system updates the default button's frame for the Tab key, but not between the sheet and its page, and does not
-// remove it from a disabled button.
+// remove it from a disabled button. Called for every message, because keys, clicks and the host move the focus.
 void ShowDefaultButton(HWND sheet) {
     const HWND focus = ::GetFocus();
     const bool inside = focus != nullptr && ::IsChild(sheet, focus);
@@ -298,7 +298,6 @@ bool CWizardSheet::MoveTo(int nPage) {
     if (before != WindowSize(GetActivePage()->m_hWnd)) RecalcWizardLayout();
     // Some systems take the focus from a disabled button, leaving no window with the focus.
     if (::GetFocus() == nullptr && ::GetActiveWindow() == m_hWnd) FocusActivePage();
-    ShowDefaultButton(m_hWnd);
     return true;
 }
 
@@ -311,7 +310,6 @@ void CWizardSheet::OnNext() {
         OnFinish();
     } else if (MoveTo(m_nCurPage + 1)) {
         FocusActivePage();
-        ShowDefaultButton(m_hWnd);
     }
 }
 
