@@ -24,15 +24,19 @@ void CPropertiesPane::SetDocument(Document* document) {
 CGraphicPropertySheet* CPropertiesPane::NewSheet() {
     if (!m_document) return nullptr;
     m_edited.emplace(GetParent(), *m_document);
-    if (!m_edited->sheet.get()) return nullptr;
-    m_edited->sheet.ChooseRememberedPage();
     return m_edited->sheet.get();
 }
 
-// A sheet for an empty selection also has pages, but the user did not select them.
 void CPropertiesPane::DeleteSheet() {
-    if (HasGraphics() && m_edited->sheet.get()) m_edited->sheet.RememberPage();
     m_edited.reset();
+}
+
+unsigned int CPropertiesPane::LastPage() const {
+    return LastSheetPage();
+}
+
+void CPropertiesPane::SetLastPage(unsigned int page) {
+    SetLastSheetPage(page);
 }
 
 bool CPropertiesPane::HasGraphics() const {

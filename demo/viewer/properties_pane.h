@@ -26,6 +26,8 @@ protected:
     CGraphicPropertySheet* NewSheet() override;
     void DeleteSheet() override;
     bool HasGraphics() const override;
+    unsigned int LastPage() const override;
+    void SetLastPage(unsigned int page) override;
     void OnOpen() override;
     void OnClose() override;
     void OnApplied() override;

@@ -59,17 +59,23 @@ SelectionSheet::SelectionSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruc
     AddExtendedDataPage(m_sheet.get(), set);
 }
 
+unsigned LastSheetPage() {
+    return static_cast<unsigned>(Settings::Number(kSettingPage).value_or(0));
+}
+
+void SetLastSheetPage(unsigned page) {
+    Settings::SetNumber(kSettingPage, static_cast<int>(page));
+}
+
 void SelectionSheet::ChooseRememberedPage() {
-    const int page = Settings::Number(kSettingPage).value_or(0);
-    if (CPropertyPage* wanted = m_sheet->FindPage(static_cast<unsigned>(page))) m_sheet->SetActivePage(wanted);
+    if (CPropertyPage* wanted = m_sheet->FindPage(LastSheetPage())) m_sheet->SetActivePage(wanted);
     m_openedOn = m_sheet->GetActiveIndex();
 }
 
 void SelectionSheet::RememberPage() const {
     CPropertyPage* page = m_sheet->GetActivePage();
     if (m_sheet->GetActiveIndex() == m_openedOn || !page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage))) return;
-    const unsigned number = static_cast<CGraphicPropertyPage*>(page)->GetTemplateNumber();
-    Settings::SetNumber(kSettingPage, static_cast<int>(number));
+    SetLastSheetPage(static_cast<CGraphicPropertyPage*>(page)->GetTemplateNumber());
 }
 
 int RunSheet(CWnd* owner, DrawingStruct* drawing, GraphicStruct* set, unsigned long flags) {

@@ -22,6 +22,10 @@ private:
     long m_before = 0;
 };
 
+// Return and store the number of the page that the user selected last, in this or an earlier session; 0 if none.
+unsigned LastSheetPage();
+void SetLastSheetPage(unsigned page);
+
 // A sheet with all pages for the members of the set, and the regen methods that they use.
 class SelectionSheet {
 public:
@@ -32,7 +36,7 @@ public:
     CGraphicPropertySheet* get() const { return m_sheet.get(); }
     CGraphicPropertySheet* operator->() const { return get(); }
 
-    // Makes the sheet open on the page that the user selected last, in this or an earlier session, if it has that page.
+    // Makes the sheet open on the last page, if it has that page.
     void ChooseRememberedPage();
     // Remembers the active page, unless it is the one that the sheet opened on.
     void RememberPage() const;

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "orlo/frame/flag_scope.h"
+#include "orlo/frame/graphic_property_page.h"
 #include "orlo/frame/graphic_property_sheet.h"
 #include "orlo/frame/orlo_property_page.h"
 #include "orlo/frame/scroll_area.h"
@@ -79,6 +80,12 @@ COrloPropertyPage* ActivePageOf(const CGraphicPropertySheet* sheet) {
     CPropertyPage* page = sheet != nullptr ? sheet->GetActivePage() : nullptr;
     const bool isOrlos = page != nullptr && page->IsKindOf(RUNTIME_CLASS(COrloPropertyPage));
     return isOrlos ? static_cast<COrloPropertyPage*>(page) : nullptr;
+}
+
+// Makes the sheet open on a page, if it has that page. Returns the index of the page that it opens on.
+int OpenOn(CGraphicPropertySheet& sheet, unsigned int page) {
+    if (COrloPropertyPage* wanted = sheet.FindPage(page)) sheet.SetActivePage(wanted);
+    return sheet.GetActiveIndex();
 }
 
 // A control with the focus, in the page or in the sheet.
@@ -172,6 +179,13 @@ void CSheetPane::OnEscape() {
     Reset();
 }
 
+unsigned int CSheetPane::LastPage() const {
+    return m_lastPage;
+}
+void CSheetPane::SetLastPage(unsigned int nPage) {
+    m_lastPage = nPage;
+}
+
 void CSheetPane::Open() {
     if (m_isOpen) return;
     m_isOpen = true;
@@ -207,6 +221,7 @@ void CSheetPane::Renew() {
     SendMessage(WM_SETREDRAW, FALSE);
     DropSheet();
     m_sheet = NewSheet();
+    if (m_sheet != nullptr) m_openedOn = OpenOn(*m_sheet, LastPage());
     // The pane stays scrolled as far as the new sheet allows.
     if (m_sheet != nullptr && !ShowIn(*this, *m_sheet, m_scroll->Place())) DropSheet();
     if (m_sheet != nullptr) m_sheetSize = WindowSize(m_sheet->m_hWnd);
@@ -223,7 +238,10 @@ void CSheetPane::Renew() {
     }
 }
 
+// A page that a sheet opened on because it lacks the last one is not remembered.
 void CSheetPane::DropSheet() {
+    const auto* page = dynamic_cast<const CGraphicPropertyPage*>(ActivePageOf(m_sheet));
+    if (page != nullptr && m_sheet->GetActiveIndex() != m_openedOn) SetLastPage(page->GetTemplateNumber());
     m_sheet = nullptr;
     DeleteSheet();
 }

@@ -68,6 +68,10 @@ protected:
     virtual void DeleteSheet() = 0;
     // Returns whether the sheet has graphics; otherwise a text is shown in its place.
     virtual bool HasGraphics() const = 0;
+    // Return and store the number of the page that the user selected last; a new sheet opens on it if it has that page.
+    // Default: remembered as long as the pane exists.
+    virtual unsigned int LastPage() const;
+    virtual void SetLastPage(unsigned int nPage);
     virtual void OnOpen();        // before the first sheet
     virtual void OnClose();       // before the sheet is deleted
     virtual void OnApplied();     // after a successful Apply
@@ -88,6 +92,8 @@ private:
     CWnd m_nothing;                           // the text shown if nothing is selected
     std::unique_ptr<ScrollArea> m_scroll;
     CSize m_sheetSize;
+    unsigned int m_lastPage = 0;
+    int m_openedOn = 0; // index of the page on which the sheet opened
     bool m_isOpen = false;
     bool m_isStale = false; // the sheet is to be replaced
     bool m_isApplying = false;

@@ -337,11 +337,11 @@ TEST_F(CSheetWindow, FollowsTheSelectionAndAppliesFirst) {
     EXPECT_EQ(OrloSheetFollow(handle, other.get()), kOrloOk) << ErrorText();
     EXPECT_EQ(kit[0].Number("Rating"), 5);
     EXPECT_EQ(written, (std::vector<Counts>{{2, 0}}));
-    ShowRoom();
-    EXPECT_EQ(Shown(Sheet(), kPrice), "20");
+    EXPECT_EQ(Shown(Sheet(), kPrice), "20") << "on the same page";
     EXPECT_EQ(OrloSheetFollow(handle, nullptr), kOrloOk);
     EXPECT_FALSE(::IsWindowVisible(Sheet()));
     EXPECT_EQ(OrloSheetFollow(handle, kit.Selection()), kOrloOk);
+    EXPECT_EQ(Shown(Sheet(), kPrice), "*****");
 }
 
 TEST_F(CSheetWindow, RejectsInvalidInput) {
@@ -355,8 +355,7 @@ TEST_F(CSheetWindow, RejectsInvalidInput) {
     EXPECT_EQ(OrloSheetReset(handle), kOrloOk);
     EXPECT_EQ(resets, 1);
     Pump();
-    ShowRoom();
-    EXPECT_EQ(Shown(Sheet(), kRating), "1");
+    EXPECT_EQ(Shown(Sheet(), kRating), "1") << "on the same page";
     EXPECT_EQ(kit.Writes(), 0);
 }
 
