@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <stdexcept>
 #include <string>
 
@@ -55,8 +56,13 @@ private:
     OrloValue m_record;
 };
 
+// With the message of a table that has an invalid row.
+[[noreturn]] void RefuseField(uint32_t index, const OrloField& field, const std::string& why) {
+    const char* label = field.label != nullptr ? field.label : "";
+    ThrowError(kOrloBadArgument, ("row " + std::to_string(index) + " (\"" + label + "\"): " + why).c_str());
+}
+
 void SetAccess(FieldRow& row, const OrloPage& page, uint32_t index) {
-    if (page.get == nullptr) ThrowError(kOrloBadArgument, "a field is read by a callback, but the page has none");
     row.get = [page, index](GraphicStruct* graphic, FieldValue& value) {
         OrloValue record = {sizeof record, 0.0, nullptr};
         if (!CallHost(page.get, page.context, graphic, index, &record)) return false;
@@ -87,13 +93,17 @@ FieldRow RowOf(const OrloPage& page, const OrloField& field, uint32_t index) {
     row.group = ToSystemText(field.group);
     row.unit = ToSystemText(field.unit);
     row.help = ToSystemText(field.help);
+    if (field.choiceCount > 0 && field.choices == nullptr) RefuseField(index, field, "the array of choices is null");
     for (uint32_t i = 0; i < field.choiceCount; ++i)
-        row.choices.push_back(ToSystemText((&RequireNotNull(field.choices, "the array of choices"))[i]));
+        row.choices.push_back(ToSystemText(field.choices[i]));
     row.min = field.min;
     row.max = field.max;
     row.readOnly = (field.flags & kOrloFieldReadOnly) != 0;
     row.inPreview = (field.flags & kOrloFieldInPreview) != 0;
-    if (field.flags & kOrloFieldByCallback) SetAccess(row, page, index);
+    if (field.flags & kOrloFieldByCallback) {
+        if (page.get == nullptr) RefuseField(index, field, "it is read by a callback, but the page has none");
+        SetAccess(row, page, index);
+    }
     if (page.check != nullptr) SetCheck(row, page, index);
     if (page.press != nullptr && field.kind == kOrloFieldButton)
         row.press = [page, index] { return CallHost(page.press, page.context, index) != 0; };
@@ -124,10 +134,13 @@ FieldTable TableOf(const OrloPage& page) {
 
 void AddPages(const OrloSheet& record, CGraphicPropertySheet& sheet) {
     if (record.pageCount > 0) RequireNotNull(record.pages, "sheet->pages");
+    std::set<uint32_t> numbers;
     for (uint32_t i = 0; i < record.pageCount; ++i) {
         const std::string name = "page " + std::to_string(i);
         try {
             const OrloPage page = CopyRecordAt(record.pages, i, "the record");
+            if (!numbers.insert(page.number).second)
+                ThrowError(kOrloBadArgument, ("another page has the number " + std::to_string(page.number)).c_str());
             ::AddFieldPage(&sheet, page.number, TableOf(page));
         } catch (const std::invalid_argument& refusal) {
             ThrowError(kOrloBadArgument, (name + ": " + SystemTextToUtf8(refusal.what())).c_str());

@@ -194,7 +194,7 @@ typedef int32_t(ORLO_CALL* OrloGetField)(void* context, struct GraphicStruct* gr
 typedef int32_t(ORLO_CALL* OrloSetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
                                          const OrloValue* value);
 // Called with an edited value that is within the limits. If the value is not valid, returns 0 and stores a message for
-// the user (UTF-8, at most size bytes including the NUL).
+// the user (UTF-8, at most size bytes including the NUL); an empty message is replaced by a general one.
 typedef int32_t(ORLO_CALL* OrloCheckField)(void* context, uint32_t field, const OrloValue* value, char* message,
                                            size_t size);
 // Called when a button is pressed. Returns non-zero if it has changed graphics; fields that are not edited are then
@@ -208,7 +208,7 @@ typedef int32_t(ORLO_CALL* OrloAcceptGraphic)(void* context, struct GraphicStruc
 // A page of the host, laid out by the library. It is added to the sheet if it applies to one of the selected graphics.
 typedef struct OrloPage {
     uint32_t size;   // sizeof(OrloPage)
-    uint32_t number; // identifies the page in its sheet: 1 to 28999
+    uint32_t number; // identifies the page in its sheet: 1 to 28999, different for each page
     const char* caption;
     const OrloField* fields;
     uint32_t fieldCount; // 1 to 1000

@@ -2,6 +2,8 @@
 
 #include "orlo/pages/field_layout.h"
 
+#include <afxres.h>
+
 #include <algorithm>
 #include <limits>
 #include <set>
@@ -39,6 +41,9 @@ public:
     Mnemonics() {
         for (const UINT button : {IDS_PANE_APPLY, IDS_PANE_RESET, IDS_PANE_CLOSE})
             Unique(std::string(LibraryText(button)));
+        CString help; // of a modal sheet
+        help.LoadString(AFX_IDS_SHEET_HELP);
+        Unique(std::string(help));
     }
     std::string Unique(const std::string& label) {
         std::string unique;

@@ -51,6 +51,10 @@ constexpr RowRule kRowRules[] = {
     {[](const FieldRow& row) { return !HasValue(row) && !row.property.empty(); }, "its kind cannot have a property"},
     {[](const FieldRow& row) { return !(row.min <= row.max); }, "the lower limit is above the upper one"},
     {[](const FieldRow& row) { return row.kind == FieldKind::Choice && row.choices.empty(); }, "it has no choices"},
+    {[](const FieldRow& row) {
+         return std::find(row.choices.begin(), row.choices.end(), std::string()) != row.choices.end();
+     },
+     "the text of a choice is empty"},
     {[](const FieldRow& row) { return row.kind != FieldKind::Choice && !row.choices.empty(); },
      "its kind cannot have choices"},
     {[](const FieldRow& row) { return row.set && !row.get; },

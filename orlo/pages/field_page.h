@@ -27,7 +27,7 @@ public:
     // nPage identifies the page in its sheet, like the number of a dialog template, and must be from 1 to 28999. Throws
     // std::invalid_argument with a message that names the row if the table is invalid: no rows or more than kMaxRows,
     // an unknown kind, a label or a property that is missing or not allowed, two rows with the same property, reversed
-    // limits, a choice without texts, `set` without `get`, a button without `press`.
+    // limits, a choice without texts or with an empty one, `set` without `get`, a button without `press`.
     CFieldPage(unsigned int nPage, FieldTable table);
     ~CFieldPage() override;
 

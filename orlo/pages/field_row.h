@@ -50,8 +50,8 @@ struct FieldRow {
         : kind(itsKind), label(std::move(itsLabel)), property(std::move(itsProperty)), group(std::move(itsGroup)) {}
 
     FieldKind kind = FieldKind::Text;
-    // An ampersand precedes the mnemonic. It is removed if an earlier row or a button of the modeless sheet (Apply,
-    // Reset, Close) has the same mnemonic.
+    // An ampersand precedes the mnemonic. It is removed if an earlier row or a button of the sheet (Apply, Reset,
+    // Close, Help) has the same mnemonic.
     std::string label;
     // Name of the property. Must be empty for a button or a note; can be empty if `get` is set.
     std::string property;

@@ -260,11 +260,17 @@ TEST_F(CPages, InvalidPageIsRejectedWithItsField) {
            "fung:\"): the kind is unknown");
     fields[1].kind = kOrloFieldChoice;
     fields[1].choiceCount = 2;
-    expect("page 0: the array of choices is null");
+    expect("page 0: row 1 (\"&Pr\xC3\xBC"
+           "fung:\"): the array of choices is null");
+    const char* const choices[] = {"Low", nullptr};
+    fields[1].choices = choices;
+    expect("page 0: row 1 (\"&Pr\xC3\xBC"
+           "fung:\"): the text of a choice is empty");
     fields[1].kind = kOrloFieldNumber;
     fields[1].choiceCount = 0;
     page.get = nullptr;
-    expect("page 0: a field is read by a callback, but the page has none");
+    expect("page 0: row 1 (\"&Pr\xC3\xBC"
+           "fung:\"): it is read by a callback, but the page has none");
     page.get = Get;
     page.fieldCount = 1000000;
     fields[0].size = sizeof(OrloField) + 4;
@@ -276,6 +282,12 @@ TEST_F(CPages, InvalidPageIsRejectedWithItsField) {
     page.number = 29000;
     expect("page 0: the page number is not from 1 to 28999");
     page.number = 7;
+    const OrloPage pages[] = {page, page};
+    sheet.pages = pages;
+    sheet.pageCount = 2;
+    expect("page 1: another page has the number 7");
+    sheet.pages = &page;
+    sheet.pageCount = 1;
     page.caption = nullptr;
     expect("page 0: the caption is null");
     page.size = 8;

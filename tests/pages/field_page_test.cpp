@@ -580,11 +580,11 @@ TEST_F(FieldPage, LaterDuplicateMnemonicIsRemoved) {
 }
 
 TEST_F(FieldPage, AMnemonicOfTheButtonsIsRemoved) {
-    kit.Add({{"A", "a"}, {"B", "b"}, {"C", "c"}});
+    kit.Add({{"A", "a"}, {"B", "b"}, {"C", "c"}, {"D", "d"}});
     table.rows = {Row(FieldKind::Text, "&Rating:", "A"), Row(FieldKind::Text, "Unit &cost:", "B"),
-                  Row(FieldKind::Text, "&Area:", "C")};
+                  Row(FieldKind::Text, "&Area:", "C"), Row(FieldKind::Text, "&Height:", "D")};
     RunOk([&](SheetDriver& user) {
-        for (size_t i = 0; i < 3; ++i) {
+        for (size_t i = 0; i < 4; ++i) {
             const HWND label = ::GetWindow(user.Control(CFieldPage::FieldID(i)), GW_HWNDPREV);
             EXPECT_EQ(WindowText(label).find('&'), std::string::npos) << WindowText(label);
         }
@@ -652,6 +652,12 @@ TEST_F(FieldPage, InvalidTableIsRejectedWithItsRow) {
          },
          "row 0 (\"&Value:\"): the lower limit is above the upper one"},
         {"choice", [](FieldTable& t) { t.rows[1].kind = FieldKind::Choice; }, "row 1 (\"&Other:\"): it has no choices"},
+        {"choice without text",
+         [](FieldTable& t) {
+             t.rows[1].kind = FieldKind::Choice;
+             t.rows[1].choices = {"x", ""};
+         },
+         "row 1 (\"&Other:\"): the text of a choice is empty"},
         {"choices", [](FieldTable& t) { t.rows[1].choices = {"x"}; },
          "row 1 (\"&Other:\"): its kind cannot have choices"},
         {"set", [](FieldTable& t) { t.rows[1].set = [](GraphicStruct*, const FieldValue&) { return true; }; },

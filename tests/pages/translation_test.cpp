@@ -7,6 +7,7 @@
 #include <afxwin.h>
 
 #include <commctrl.h>
+#include <orlo_c.h>
 
 #include <algorithm>
 #include <cstring>
@@ -15,7 +16,10 @@
 #include <string>
 #include <vector>
 
+#include "demo/automation/sheet_pages.h"
+#include "demo/automation/user_input.h"
 #include "orlo/frame/sheet_pane.h"
+#include "orlo/pages/field_page.h"
 #include "orlo/resources/resource.h"
 #include "orlo/wizard/wizard_sheet.h"
 #include "pages/every_kind.h"
@@ -194,6 +198,39 @@ TEST_F(GermanSheet, HasGermanTexts) {
         user.Ok();
         EXPECT_EQ(boxes.OnlyText(), "Bitte eine Zahl eingeben.");
     });
+}
+
+// A host in C rejects a value without a message.
+TEST_F(GermanSheet, HasAGermanMessageForARejectedValue) {
+    OrloField field = ORLO_INIT(OrloField);
+    field.kind = kOrloFieldInteger;
+    field.label = "Rating:";
+    field.flags = kOrloFieldByCallback;
+    OrloPage page = ORLO_INIT(OrloPage);
+    page.number = 1;
+    page.caption = "Room";
+    page.fields = &field;
+    page.fieldCount = 1;
+    page.get = [](void*, GraphicStruct*, uint32_t, OrloValue*) -> int32_t { return 1; };
+    page.set = [](void*, GraphicStruct*, uint32_t, const OrloValue*) -> int32_t { return 1; };
+    page.check = [](void*, uint32_t, const OrloValue*, char*, size_t) -> int32_t { return 0; };
+    OrloSheet sheet = ORLO_INIT(OrloSheet);
+    sheet.filter = kOrloAllGraphics;
+    sheet.drawing = kinds.Drawing();
+    sheet.selection = kinds.Selection();
+    sheet.pages = &page;
+    sheet.pageCount = 1;
+    int32_t code = 0;
+    UserInput user(0);
+    user.InDialog([&] { EXPECT_EQ(::OrloRunSheet(&sheet, &code), kOrloOk); },
+                  [&](HWND window) {
+                      ASSERT_TRUE(ClickTab(user, window, 5));
+                      user.Replace(::GetDlgItem(ActivePageOf(window), CFieldPage::FieldID(0)), "2");
+                      const MessageBoxWatcher boxes;
+                      user.Click(::GetDlgItem(window, IDOK));
+                      EXPECT_EQ(boxes.OnlyText(), "Bitte einen g\xFCltigen Wert eingeben.");
+                      user.Click(::GetDlgItem(window, IDCANCEL));
+                  });
 }
 
 void ExpectWholeTexts(HWND parent) {
