@@ -188,7 +188,8 @@ typedef struct OrloValue {
 //
 // Get stores the value, Set changes it. They return 0 if the graphic has no such property or rejects the value. They
 // must not keep the pointer to the graphic, which can be the copy in the preview. A graphic whose text the system's
-// code page cannot represent is treated as if it had no such property, because an edit would damage the text.
+// code page cannot represent is treated as if it had no such property, because an edit would damage the text. So is one
+// whose number the kind cannot represent, such as 2.5 for kOrloFieldInteger.
 typedef int32_t(ORLO_CALL* OrloGetField)(void* context, struct GraphicStruct* graphic, uint32_t field,
                                          OrloValue* value);
 typedef int32_t(ORLO_CALL* OrloSetField)(void* context, struct GraphicStruct* graphic, uint32_t field,

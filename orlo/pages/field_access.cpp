@@ -4,10 +4,13 @@
 
 #include <objidl.h>
 
+#include <cmath>
 #include <cstring>
+#include <limits>
 
 #include "orlo/host/graphic.h"
 #include "orlo/host/memory.h"
+#include "orlo/pages/field_kinds.h"
 
 namespace {
 
@@ -47,6 +50,26 @@ void StoreValue(int vt, void* place, const FieldValue& value) {
     }
 }
 
+template <class Wire>
+bool IsWhole(double number) {
+    using Limits = std::numeric_limits<Wire>;
+    return number >= Limits::min() && number <= Limits::max() && number == std::trunc(number);
+}
+
+// Returns whether a row of that type can show the number as it is.
+bool IsRepresentable(int vt, double number) {
+    switch (vt) {
+    case VT_R8:
+        return std::isfinite(number);
+    case VT_I4:
+        return IsWhole<int32_t>(number);
+    case VT_UI4:
+        return IsWhole<uint32_t>(number);
+    default:
+        return true;
+    }
+}
+
 // Returns a value that is passed to PropSet.
 FieldValue ReadValue(int vt, const void* place) {
     switch (vt) {
@@ -69,7 +92,7 @@ bool FieldAccess::Find(GraphicStruct* graphic, const char* name, int32_t& number
     m_found = row != m_rows.end() ? row->second : nullptr;
     if (m_found != nullptr) {
         m_value = {};
-        return m_found->get(graphic, m_value);
+        return m_found->get(graphic, m_value) && IsRepresentable(TraitsOf(*m_found).vt, m_value.number);
     }
     const PropertyTable* table = ::GraphicGetVtbl(graphic);
     return table != nullptr && table->PropLookup(graphic, &name, 1, 0, &number) != 0;

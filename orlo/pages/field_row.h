@@ -68,7 +68,8 @@ struct FieldRow {
 
     // Read and write the value instead of the property table. Set both or neither; `set` can be empty for a read-only
     // row. They return false if the graphic has no such property or rejects the value. They must not keep the pointer
-    // to the graphic, which can be the copy in the preview.
+    // to the graphic, which can be the copy in the preview. A number that the kind cannot represent, such as 2.5 for an
+    // Integer, is treated as if the graphic had no such property.
     std::function<bool(GraphicStruct* graphic, FieldValue& value)> get;
     std::function<bool(GraphicStruct* graphic, const FieldValue& value)> set;
     // Called with an edited value within the limits. Returns the message to show if it is not valid, else an empty

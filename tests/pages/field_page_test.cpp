@@ -2,6 +2,7 @@
 // and rejected edits, the layout, and invalid tables.
 
 #include <algorithm>
+#include <limits>
 #include <set>
 #include <stdexcept>
 
@@ -365,6 +366,32 @@ TEST_F(FieldPage, AColorThatIsNotListedIsShown) {
         EXPECT_EQ(described(kOtherField), "varied");
     });
     EXPECT_EQ(kit.Writes(), 0);
+}
+
+// Shown as another number, it would be stored as that.
+TEST_F(FieldPage, ANumberThatTheKindCannotRepresentIsNoValue) {
+    const double infinite = std::numeric_limits<double>::infinity();
+    const struct {
+        FieldKind kind;
+        double number;
+    } cases[] = {{FieldKind::Integer, 2.5},     {FieldKind::Integer, 3e9},         {FieldKind::Choice, -3e9},
+                 {FieldKind::Color, -1},        {FieldKind::Layer, 5e9},           {FieldKind::Integer, std::nan("")},
+                 {FieldKind::Number, infinite}, {FieldKind::Length, std::nan("")}, {FieldKind::Date, infinite}};
+    kit.Add({{kOther, "stays"}});
+    table.rows.clear();
+    for (const auto& wrong : cases) {
+        FieldRow row = Row(wrong.kind, "Value:", "");
+        row.get = [number = wrong.number](GraphicStruct*, FieldValue& value) {
+            value.number = number;
+            return true;
+        };
+        row.set = [](GraphicStruct*, const FieldValue&) { return true; };
+        table.rows.push_back(row);
+    }
+    RunOk([&](SheetDriver& user) {
+        for (size_t i = 0; i < table.rows.size(); ++i)
+            EXPECT_FALSE(IsEnabled(user, CFieldPage::FieldID(i))) << cases[i].number;
+    });
 }
 
 TEST_F(FieldPage, MissingFaceIsShown) {
