@@ -11,8 +11,8 @@ import struct
 import sys
 
 ONLY_IN_SOURCES = re.compile(r"\./run\b|\bdemo/|\btests/|\btools/|\bdocs/|CONTRIBUTING|[\w/-]+\.md\b")
-# Demo and documents for developers.
-UNWANTED = re.compile(r"demo|architecture|performance|CHANGELOG|CONTRIBUTING|\.md$")
+# Demo, documents for developers, and the import library of a DLL that exports nothing.
+UNWANTED = re.compile(r"demo|architecture|performance|CHANGELOG|CONTRIBUTING|\.md$|^liborlo\.de\.")
 
 
 class Page(html.parser.HTMLParser):
@@ -66,7 +66,7 @@ def main():
     for path in sorted(root.rglob("*")):
         name = path.relative_to(root)
         if UNWANTED.search(path.name):
-            messages.append(f"{name}: is for developers")
+            messages.append(f"{name}: does not belong in the package")
         messages += [f"{name}: {fault}" for fault in checks.get(path.suffix, lambda _: [])(path)]
     print(*messages, sep="\n")
     return bool(messages)
