@@ -1,4 +1,5 @@
-// DRAWCORE_API, the import and export macro of the host's functions, and ORLO_CONSTANT. Plain C; no window header.
+// DRAWCORE_API, the import and export macro of the host's functions, ORLO_CONSTANT, and ORLO_CPP17, which is defined
+// for C++17 and later. Plain C; no window header.
 //
 // A database defines DRAWCORE_BUILD in its own sources, so that the functions are exported, or DRAWCORE_STATIC if it is
 // linked statically.
@@ -10,6 +11,11 @@
 #else
 #define DRAWCORE_LINKAGE extern
 #define ORLO_CONSTANT static const
+#endif
+
+// Microsoft's compiler states its standard in _MSVC_LANG.
+#if defined(__cplusplus) && (__cplusplus >= 201703L || (defined(_MSVC_LANG) && _MSVC_LANG >= 201703L))
+#define ORLO_CPP17
 #endif
 
 #if !defined(_WIN32) || defined(DRAWCORE_STATIC)

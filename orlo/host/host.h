@@ -48,7 +48,7 @@
 #include "orlo/host/viewport.h"
 #include "orlo/host/words.h"
 
-#ifdef __cplusplus
+#ifdef ORLO_CPP17
 #include "orlo/host/owners.h"
 #include "orlo/host/property.h"
 #include "orlo/host/walk.h"

@@ -1,4 +1,4 @@
-// The properties of graphics: their names and, for C++, their value types, meanings and limits. Plain C; no window
+// The properties of graphics: their names and, for C++17, their value types, meanings and limits. Plain C; no window
 // header.
 #pragma once
 
@@ -28,7 +28,7 @@ ORLO_CONSTANT char kPropTextSize[] = "TextSize";           // height of a capita
 ORLO_CONSTANT char kPropTextStyle[] = "TextStyle";         // bits: kTextItalic and following
 ORLO_CONSTANT char kPropTextFormat[] = "TextFormat";       // kTextLeft, kTextCenter or kTextRight
 
-#ifdef __cplusplus
+#ifdef ORLO_CPP17
 
 #include <string_view>
 

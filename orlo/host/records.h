@@ -73,7 +73,7 @@ struct VertexStruct {
 
 #pragma pack(pop)
 
-#ifdef __cplusplus
+#ifdef ORLO_CPP17
 static_assert(offsetof(GraphicStruct, dwFlags) == 4);
 static_assert(offsetof(GraphicStruct, bType) == 0x20);
 static_assert(offsetof(GraphicStruct, wRegenMethod) == 0x22);

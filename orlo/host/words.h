@@ -72,8 +72,8 @@ ORLO_CONSTANT uint32_t kColorOfPen = 0xFFFFFFFBu; // brushes only: the color of 
 
 // Markers: pen widths that are not lengths; lengths are never negative. PropSet may accept them. PropGet returns the
 // resolved width instead.
-ORLO_CONSTANT double kPenWidthByLayer = -0x1p126;
-ORLO_CONSTANT double kPenWidthByBlock = -0x1p127;
+ORLO_CONSTANT double kPenWidthByLayer = -85070591730234615865843651857942052864.0;  // -2^126
+ORLO_CONSTANT double kPenWidthByBlock = -170141183460469231731687303715884105728.0; // -2^127
 
 // Markers: line styles that are not an entry of kTableLineStyles.
 enum {

@@ -48,7 +48,7 @@
 //   OrloField fields[] = {ORLO_INIT(OrloField), ORLO_INIT(OrloField)};
 #ifdef __cplusplus
 template <class Record>
-constexpr Record OrloInitialized() {
+Record OrloInitialized() {
     Record record = {};
     record.size = sizeof record;
     return record;

@@ -30,20 +30,25 @@ foreach(part ${parts})
   endif()
 endforeach()
 
-# Compiles each C header alone, and all of them in a UNICODE program.
-function(check_c header)
-  execute_process(COMMAND ${CC} -std=c99 -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN ${ARGN}
-                          -I ${ROOT} -include ${header} -x c /dev/null
+# Compiles each C header alone, and all of them in a UNICODE program and in a C++ program of an earlier standard.
+function(compile header language standard)
+  execute_process(COMMAND ${CC} -std=${standard} -Wall -Wextra -Wpedantic -Werror -fsyntax-only -DWIN32_LEAN_AND_MEAN
+                          ${ARGN} -I ${ROOT} -I ${ROOT}/drawcore/include -I ${ROOT}/orlo/include
+                          -include ${header} -x ${language} /dev/null
                   RESULT_VARIABLE code ERROR_VARIABLE messages)
   if(code)
-    message(SEND_ERROR "${header} does not compile as C ${ARGN}:\n${messages}")
+    message(SEND_ERROR "${header} does not compile as ${standard}:\n${messages}")
   endif()
 endfunction()
 
-check_c(orlo/host/host.h -DUNICODE)
-foreach(part ${parts})
+compile(orlo/host/host.h c c99 -DUNICODE)
+file(GLOB drawcore RELATIVE ${ROOT} ${ROOT}/drawcore/include/drawcore/*.h)
+list(REMOVE_ITEM drawcore drawcore/include/drawcore/dxf_document.h drawcore/include/drawcore/owned_drawing.h) # C++
+foreach(part ${parts} ${drawcore} orlo/include/orlo_c.h)
   file(STRINGS ${ROOT}/${part} for_cpp REGEX "^namespace")
   if(NOT for_cpp)
-    check_c(${part})
+    compile(${part} c c99)
+    list(APPEND all -include ${part})
   endif()
 endforeach()
+compile(orlo/host/host.h c++ c++11 ${all})

@@ -6,7 +6,7 @@
 
 // Kinds of graphics, one bit each. A filter of GraphicFirst and GraphicNext selects the kinds whose bits are set, or
 // all kinds if none is set. The bit kNoStylePart is not a kind; the library uses it.
-enum : uint32_t {
+enum {
     kKindVertices = 1,  // lines, polylines, outlines, points (kGraphicVertices)
     kKindCurve = 2,     // circles, arcs, ellipses, splines (kGraphicPenBrush)
     kKindText = 8,      // kGraphicText

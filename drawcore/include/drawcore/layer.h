@@ -4,7 +4,7 @@
 #include "orlo/host/layer.h"
 
 // Flags of a layer.
-enum : uint32_t { kLayerOff = 1, kLayerFrozen = 2, kLayerLocked = 4 };
+enum { kLayerOff = 1, kLayerFrozen = 2, kLayerLocked = 4 };
 
 // Returns the flags of a layer, or 0 if there is no such layer.
 DRAWCORE_API uint32_t LayerGetFlags(DrawingStruct*, uint16_t id);

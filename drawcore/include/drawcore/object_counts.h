@@ -3,12 +3,12 @@
 
 #include "orlo/host/api.h"
 
-struct DrawCoreObjectCounts {
+typedef struct DrawCoreObjectCounts {
     long blocks;   // memory blocks of DrawCoreNew, including strings
     long graphics; // including those of drawings
     long vertices; // without those of graphics
     long viewports;
-};
+} DrawCoreObjectCounts;
 
 // Stores the current counts of the process.
 DRAWCORE_API void DrawCoreGetObjectCounts(DrawCoreObjectCounts*);

@@ -9,11 +9,11 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-struct RegenMethod {
+typedef struct RegenMethod {
     void* context;                                                          // passed to both callbacks
     void (*regen)(void* context, GraphicStruct* graphic);                   // may be null
     int (*getPropPage)(void* context, GraphicStruct* graphic, void* sheet); // may be null
-};
+} RegenMethod;
 
 // Creates an empty table of methods. The caller frees it with RegenMethodsDispose, which sets the pointer to null.
 // Returns null if memory runs out.

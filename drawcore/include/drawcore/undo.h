@@ -42,9 +42,9 @@ DRAWCORE_API uint32_t DrawingGetUndoMark(DrawingStruct*);
 
 // A listener that is called before graphics change, in an open step or when a step is undone or redone. Because it is
 // called often, it should only set a flag, for example that a view needs repainting.
-struct ChangeListener {
+typedef struct ChangeListener {
     void* context;
     void (*changing)(void* context);
-};
+} ChangeListener;
 // Sets the listener, which is copied; null removes it.
 DRAWCORE_API void DrawingSetChangeListener(DrawingStruct*, const ChangeListener*);

@@ -11,12 +11,12 @@
 
 // Format of lengths: 1 scientific, 2 decimal, 3 engineering (feet and decimal inches), 4 architectural (feet, inches
 // and fractions), 5 fractional.
-constexpr uint16_t kUnitLinearSystem = 0x5040;
+ORLO_CONSTANT uint16_t kUnitLinearSystem = 0x5040;
 // Decimal places of lengths, 0 to 12. For fractions: the denominator as a power of two.
-constexpr uint16_t kUnitLinearDigits = 0x5041;
+ORLO_CONSTANT uint16_t kUnitLinearDigits = 0x5041;
 // Format of angles: 0 degrees; 1 degrees, minutes and seconds; 2 grads; 3 radians; 4 bearings (from north or south to
 // east or west).
-constexpr uint16_t kUnitAngularSystem = 0x5042;
+ORLO_CONSTANT uint16_t kUnitAngularSystem = 0x5042;
 // Decimal places of angles, 0 to 12. For the formats 1 and 4: 0 is degrees only, 1 and 2 add minutes, 3 and 4 add
 // seconds, and each further one adds a decimal place to the seconds.
-constexpr uint16_t kUnitAngularDigits = 0x5043;
+ORLO_CONSTANT uint16_t kUnitAngularDigits = 0x5043;

@@ -33,7 +33,8 @@ int LayerGetReadOnly(DrawingStruct* drawing, uint16_t id) {
 uint32_t LayerGetFlags(DrawingStruct* drawing, uint16_t id) {
     const Layer* layer = FindLayer(drawing, id);
     if (!layer) return 0;
-    return (layer->off ? kLayerOff : 0u) | (layer->frozen ? kLayerFrozen : 0u) | (layer->locked ? kLayerLocked : 0u);
+    return uint32_t{layer->off} * kLayerOff | uint32_t{layer->frozen} * kLayerFrozen |
+           uint32_t{layer->locked} * kLayerLocked;
 }
 
 uint16_t LayerGetLineStyle(DrawingStruct* drawing, uint16_t id) {
