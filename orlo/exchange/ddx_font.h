@@ -25,6 +25,6 @@ ORLO_API int DDX_CBFontStyle(int bReport, CDataExchange* pDX, unsigned int nIDC,
 // control is missing or the height cannot be formatted.
 ORLO_API int DDX_CBFontSize(int bReport, CDataExchange* pDX, unsigned int nIDC, double& size);
 
-// Exchanges the five effects with the three-state check boxes 103 to 107. If a box in the indeterminate state stands
-// for an effect on which all texts agree, the effect is turned off and the box cleared. Cannot fail.
+// Exchanges the five effects with the three-state check boxes 103 to 107. If the box of an effect that all texts have,
+// or that none has, is indeterminate, the effect is turned off and the box cleared. Cannot fail.
 ORLO_API int DDX_ChkBoxEffects(int bReport, CDataExchange* pDX, unsigned short* pStyle);

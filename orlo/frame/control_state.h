@@ -1,4 +1,4 @@
-// Captures what a control displays in a comparable form, to decide whether the user has changed it.
+// Captures the displayed state of a control in a comparable form, to decide whether the user has changed it.
 #pragma once
 
 #include <windows.h>

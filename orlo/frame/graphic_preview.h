@@ -1,4 +1,4 @@
-// The preview pane of a sheet: draws the active page's preview graphic with the host's own drawing code on the
+// The preview window of a sheet: draws the active page's preview graphic with the host's own drawing code on the
 // application's background. An exception thrown by the host during drawing is reported by the framework, once per
 // window; the rest of the background stays visible.
 #pragma once

@@ -1,5 +1,5 @@
-// Records what the controls of a page displayed when they last matched the selection, and the values of the selection
-// at that time.
+// Records the displayed states of a page's controls when they last matched the selection, and the values of the
+// selection at that time.
 //
 // Text has less precision than the value: 1.23457 for 1.23456789. Therefore, a control that displays the same text as
 // when it was loaded or written does not count as edited, regardless of what happened in between, and its member
@@ -35,7 +35,7 @@ public:
     }
     // Records another control that displays the property.
     void Show(CDataExchange* pDX, unsigned int nID, const std::string& property);
-    // Records what a control displays that is not bound to a property, when the page is activated.
+    // Records the displayed state of a control that is not bound to a property, when the page is activated.
     void ShowUnbound(unsigned int nID);
 
     // While saving: if the user has not edited the control, sets the value to the loaded one and returns true. An

@@ -75,7 +75,7 @@ protected:
     virtual void OnOpen();        // before the first sheet
     virtual void OnClose();       // before the sheet is deleted
     virtual void OnApplied();     // after a successful Apply
-    virtual void OnReset();       // undo what was written since the last Apply
+    virtual void OnReset();       // undo the changes since the last Apply
     virtual void OnCloseButton(); // default: Close
     virtual void OnEscape();      // default: Reset
 

@@ -1,4 +1,4 @@
-// Collects what the host rejects during a write-back and reports it to the user once at the end.
+// Collects the graphics that reject values during a write-back, and reports them to the user once at the end.
 #pragma once
 
 #include <afx.h>
@@ -26,8 +26,8 @@ public:
     static WriteOutcome* Of(CGraphicPropertyPage& page);
     // Records an exception that is not the framework's. Only the first text is reported.
     void AddFailure(const char* text);
-    // Shows a message box if there is anything to report, and notifies the sheet of what was written. total: number of
-    // selected graphics.
+    // Shows a message box if there is anything to report, and notifies the sheet of the numbers of changed and
+    // unchanged graphics. total: number of selected graphics.
     void Report(int total) const;
 
 private:

@@ -23,7 +23,7 @@ static_assert(sizeof(InfoHeader) == 40, "the header is copied byte for byte");
 
 inline constexpr uint32_t kPublishedSizes[] = {40, 52, 56, 108, 124};
 inline constexpr uint32_t kBitFields = 3;
-inline constexpr uint64_t kMaskBytes = 12; // three masks, outside of the header only where it has no room for them
+inline constexpr uint64_t kMaskBytes = 12; // three masks, which follow a header that has no fields for them
 inline constexpr uint64_t kColorBytes = 4;
 
 inline uint64_t Colors(const InfoHeader& header) {

@@ -174,13 +174,13 @@ typedef struct OrloField {
     uint32_t choiceCount;
     uint32_t flags; // kOrloFieldReadOnly and others
     double min;     // limits of a number, inclusive; equal limits mean none
-    double max;     // of a text: the largest number of bytes
+    double max;     // for a text, the maximum number of bytes
 } OrloField;
 
 typedef struct OrloValue {
     uint32_t size; // set by the library
     double number;
-    const char* text; // UTF-8. Of `get`, it must stay valid until the next call of a callback; null is an empty text
+    const char* text; // UTF-8; null is an empty text. If `get` stores it, it must stay valid until the next callback
 } OrloValue;
 
 // Callbacks of a page; context is OrloPage::context, field the index in OrloPage::fields. They are called on the thread
@@ -227,7 +227,7 @@ typedef struct OrloPage {
 // Called after a page has written. changed is the number of graphics that accepted a value, rejected that of graphics
 // that rejected one.
 typedef void(ORLO_CALL* OrloWrittenCallback)(void* context, uint32_t changed, uint32_t rejected);
-// Called when the user has closed a modeless sheet, or has requested to undo what was written since the last Apply.
+// Called when the user has closed a modeless sheet, or has requested to undo the changes since the last Apply.
 typedef void(ORLO_CALL* OrloSheetCallback)(void* context);
 
 typedef struct OrloSheet {
@@ -270,13 +270,13 @@ ORLO_C_API OrloResult ORLO_CALL OrloOpenSheet(const OrloSheet* sheet, OrloSheetH
 ORLO_C_API int32_t ORLO_CALL OrloSheetTakesMessage(struct tagMSG* message);
 // Stores the window of the sheet, for example so that the program can move it.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetGetWindow(OrloSheetHandle handle, struct HWND__** window);
-// Applies what was typed, then shows the properties of another selection, or of the same one after its graphics have
+// Writes typed values, then shows the properties of another selection, or of the same one after its graphics have
 // changed; null means that nothing is selected. Shows the window again if the user has closed it. Fails with
 // kOrloInvalidInput if a field is not valid; the sheet then keeps the previous selection, which must stay valid.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetFollow(OrloSheetHandle handle, struct GraphicStruct* selection);
-// Writes what was typed. Fails with kOrloInvalidInput if a field is not valid.
+// Writes typed values. Fails with kOrloInvalidInput if a field is not valid.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetApply(OrloSheetHandle handle);
-// Discards what was typed and shows the values of the graphics.
+// Discards typed values and shows the values of the graphics.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetReset(OrloSheetHandle handle);
 // Closes the sheet without writing.
 ORLO_C_API OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle);
@@ -292,8 +292,8 @@ ORLO_C_API OrloResult ORLO_CALL OrloSheetClose(OrloSheetHandle handle);
 // current one, and with kOrloBadThread on a thread other than the dialog's.
 ORLO_C_API OrloResult ORLO_CALL OrloFillControls(struct HWND__* dialog, struct DrawingStruct* drawing,
                                                  OrloFillCallback fill, void* context);
-// Store and select what a control shows: an identifier of its table, a color, or a marker such as kColorByLayer. Fail
-// with kOrloBadArgument if the window is not such a control, with kOrloWrongType for font faces and heights, whose
+// Store and set the selection of a control: an identifier of its table, a color, or a marker such as kColorByLayer.
+// Fail with kOrloBadArgument if the window is not such a control, with kOrloWrongType for font faces and heights, whose
 // texts GetWindowText returns, and with kOrloNotFound if nothing is selected or the control does not list the value.
 ORLO_C_API OrloResult ORLO_CALL OrloGetSelected(struct HWND__* control, uint32_t* value);
 ORLO_C_API OrloResult ORLO_CALL OrloSetSelected(struct HWND__* control, uint32_t value);
@@ -301,10 +301,10 @@ ORLO_C_API OrloResult ORLO_CALL OrloSetSelected(struct HWND__* control, uint32_t
 // ---- Property sets and summaries of documents
 
 // A property set in memory. Calls with a closed handle fail with kOrloBadHandle. A set must not be used by two threads
-// at the same time; different sets can be.
+// at the same time. Different threads can use different sets.
 typedef struct OrloPropset__* OrloPropset;
 
-// Same layout as the system's GUID.
+// Has the layout of the system's GUID.
 typedef struct OrloGuid {
     uint32_t data1;
     uint16_t data2, data3;
@@ -500,7 +500,7 @@ ORLO_C_API OrloResult ORLO_CALL OrloPropsetGetItemText(OrloPropset set, const Or
 // Add or replace a property; its section is created if it does not exist. A new section has the code page 65001
 // (UTF-8). For another code page, set kOrloCodePage first; it cannot be changed later. An existing property can only be
 // replaced by a value of the same type. Fail with kOrloWrongType if the type cannot represent the value; a double is
-// rounded to a float. The bytes of SetBytes must be one value of the type.
+// rounded to a float. The data of OrloPropsetSetBytes must be exactly one value of the type.
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetInteger(OrloPropset set, const OrloGuid* format, uint32_t id,
                                                       uint32_t type, int64_t value);
 ORLO_C_API OrloResult ORLO_CALL OrloPropsetSetReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type,

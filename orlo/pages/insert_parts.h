@@ -12,8 +12,8 @@ struct InsertParts {
     double rotation[3]; // in radians, about x, y and z
 };
 
-// Leaves unchanged what cannot be computed: the whole record if the graphic lacks the four vertices of an insertion,
-// the rotations if an axis is collapsed (1e-7 or shorter).
+// Members that cannot be computed remain unchanged: the whole record if the graphic lacks the four vertices of an
+// insertion, the rotations if an axis is collapsed (1e-7 or shorter).
 void InsertGetParts(GraphicStruct* graphic, InsertParts* parts);
 
 // Writes the four vertices, or nothing if the graphic lacks them. Scales of almost 1 (all three, by CompareDoubles) and

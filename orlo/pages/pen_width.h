@@ -1,7 +1,8 @@
 // Converts pen widths to and from text in one of two unit systems, and fills and exchanges their combo box.
 //
-// With scale system 0 a width is stored in drawing units, otherwise in inches on paper. Those are shown in the pen
-// width unit of the drawing's units table, whose numbers are taken as millimeters here (a factor of 1/25.4).
+// With scale system 0 a width is stored in drawing units, otherwise in inches on paper. Widths on paper are shown in
+// the pen width unit of the drawing's units table. The host converts between that unit and millimeters, this module
+// between millimeters and inches.
 #pragma once
 
 #include <afxwin.h>

@@ -14,6 +14,6 @@ typedef struct BrushLine {
     double dashes[8];    // a positive item is a dash, a negative one a gap, 0 a dot
 } BrushLine;
 
-// Adds a style of 0 (solid) to 256 families of lines to a table kTableBrushStyles. Returns its identifier, or 0 if the
-// name is invalid or already exists, or if a value is not finite.
+// Adds a style to a table kTableBrushStyles, with 256 families of lines at most; without any, it is solid. Returns its
+// identifier, or 0 if the name is invalid or already exists, or if a value is not finite.
 DRAWCORE_API uint16_t BrushStyleAddLines(TableStruct*, const char* name, const BrushLine* lines, int count);

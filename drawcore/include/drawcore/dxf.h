@@ -40,7 +40,7 @@ enum {
 //
 //   kSaveDone         saved; from now on the drawing belongs to that file
 //   kSaveFileChanged  another program has changed the file since the drawing was opened from it; nothing was written
-//   kSaveCanceled    the listener canceled; no file was changed
+//   kSaveCanceled     the listener canceled; no file was changed
 //   kSaveFailed       no file was changed; message (at most size bytes, including the NUL) contains the reason, for
 //                     example: the drawing was not opened from a file, the version of the file has no such entity, the
 //                     disk is full, the file is open in another program
@@ -52,9 +52,9 @@ enum {
 // After the file has been written, `warning` is also called, with line 0, for each property that is stored in extended
 // data, where other programs do not show it.
 //
-// Saved are the properties of graphics, the positions of insertions, moved vertices, added and removed graphics, layers
-// and blocks, the style trees of blocks, and the states, colors and line types of layers. Unchanged values keep their
-// form in the file. The listener may be null.
+// The function saves the properties of graphics, the positions of insertions, moved vertices, added and removed
+// graphics, layers and blocks, the style trees of blocks, and the states, colors and line types of layers. Unchanged
+// values keep their form in the file. The listener may be null.
 DRAWCORE_API int DrawingSaveDxf(DrawingStruct*, const wchar_t* path, uint32_t flags, const DxfListener*, char* message,
                                 int size);
 

@@ -92,7 +92,7 @@ struct Contents {
         std::vector<double> dashes; // positive a dash, negative a gap, 0 a dot
     };
 
-    std::string version;                                       // "AC1015"; empty if the file does not say
+    std::string version;                                       // "AC1015"; empty if the file does not state it
     std::map<std::string, uint64_t, std::less<>> entityCounts; // records of the ENTITIES section by type
     size_t blocks = 0;
     std::vector<Layer> layers;
@@ -159,8 +159,8 @@ public:
     // Returns whether entities of two documents have the same values for the properties of the sheet. Numbers may
     // differ by rounding errors.
     bool HasSameProperties(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
-    // Returns the coordinates, lengths and texts of the entity as stored, for comparison: two entities with the same
-    // shape have equal ones.
+    // Returns the coordinates, lengths and texts of the entity as stored, for comparison: entities with the same shape
+    // have equal lists.
     std::vector<std::string> ShapeOf(const EntityRef& entity) const;
     // Returns whether the entities are stored identically, byte for byte. Shape, texts and positions are then the same.
     bool IsStoredLike(const EntityRef& entity, const DocumentReader& other, const EntityRef& otherEntity) const;
@@ -184,7 +184,7 @@ private:
     const std::unique_ptr<EntityExtents> extents_;
 };
 
-// New values for a layer; missing ones are not changed.
+// New values for a layer; values that are not set remain unchanged.
 struct LayerValues {
     std::optional<bool> isOn, isFrozen, isLocked, isPlotted;
     std::optional<std::string> color;      // in the formats of PenColor, except By Layer and By Block

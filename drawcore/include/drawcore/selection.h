@@ -1,4 +1,4 @@
-// Selections: sets of graphics that they do not own. A selection is itself a graphic: GraphicFirst and GraphicNext
+// Selections: sets that do not own their graphics. A selection is itself a graphic: GraphicFirst and GraphicNext
 // iterate over its members in the order in which they were added, and GraphicDispose frees it without its members.
 //
 //   GraphicStruct* selection = SelectionNew();

@@ -13,10 +13,10 @@
 #include "orlo/host/api.h"
 #include "orlo/host/records.h"
 
-// Sets the background color of the drawing. To keep lines visible, those in nearly the same color are drawn in black or
-// white, dark lines in a lighter shade on a dark background, and, if this function was called, light lines in a darker
-// shade on a light background. The default is the system's window color or, for previews, the application's preview
-// background.
+// Sets the background color of the drawing. Lines that would be hard to see are drawn in another color: lines in nearly
+// the background color in black or white, dark lines in a lighter shade on a dark background and, if this function was
+// called, light lines in a darker shade on a light background. The default is the system's window color or, for
+// previews, the application's preview background.
 DRAWCORE_API void ViewportSetBackground(ViewportStruct*, uint32_t color);
 
 // Draws pens at their true width (the default) or as hairlines.
