@@ -14,7 +14,7 @@ IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
 
 namespace {
 
-void NeedCommonControls(DWORD classes) {
+void InitControlClasses(DWORD classes) {
     const INITCOMMONCONTROLSEX init = {sizeof(INITCOMMONCONTROLSEX), classes};
     ::InitCommonControlsEx(&init);
 }
@@ -118,7 +118,7 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM, LPARAM lParam, LRESULT* pRes
 CTabCtrl::CTabCtrl() = default;
 CTabCtrl::~CTabCtrl() = default;
 BOOL CTabCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    NeedCommonControls(ICC_TAB_CLASSES);
+    InitControlClasses(ICC_TAB_CLASSES);
     return CWnd::Create(WC_TABCONTROLA, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 int CTabCtrl::InsertItem(int nItem, LPCSTR lpszItem) {
@@ -131,13 +131,13 @@ int CTabCtrl::InsertItem(int nItem, LPCSTR lpszItem) {
 CStatusBarCtrl::CStatusBarCtrl() = default;
 CStatusBarCtrl::~CStatusBarCtrl() = default;
 BOOL CStatusBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    NeedCommonControls(ICC_BAR_CLASSES);
+    InitControlClasses(ICC_BAR_CLASSES);
     return CWnd::Create(STATUSCLASSNAMEA, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 CProgressCtrl::CProgressCtrl() = default;
 CProgressCtrl::~CProgressCtrl() = default;
 BOOL CProgressCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
-    NeedCommonControls(ICC_PROGRESS_CLASS);
+    InitControlClasses(ICC_PROGRESS_CLASS);
     return CWnd::Create(PROGRESS_CLASSA, nullptr, dwStyle, rect, pParentWnd, nID);
 }

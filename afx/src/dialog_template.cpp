@@ -50,9 +50,9 @@ public:
             wide += static_cast<wchar_t>(ch);
         CString text;
         const int length = static_cast<int>(wide.size());
-        const int room = length * 2; // enough for double-byte code pages
-        LPSTR buffer = text.GetBufferSetLength(room);
-        text.ReleaseBuffer(::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), length, buffer, room, nullptr, nullptr));
+        const int capacity = length * 2; // enough for double-byte code pages
+        LPSTR buffer = text.GetBufferSetLength(capacity);
+        text.ReleaseBuffer(::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), length, buffer, capacity, nullptr, nullptr));
         return text;
     }
     // A menu or window class: 0xFFFF and a number, or a string.
@@ -66,15 +66,16 @@ public:
         }
     }
 
-    // Reads a name or number. Returns true if it is that name; classes of controls are written as names.
-    bool NextNameIs(const char* wanted) {
+    // Reads a name or number. Returns true if it is the given name. A number never matches: the templates write classes as
+    // names (CONTROL statements).
+    bool NextNameIs(const char* name) {
         const Reader before = *this;
         if (Word() == 0xFFFF) {
             Word();
             return false;
         }
         *this = before;
-        return Text().CompareNoCase(wanted) == 0;
+        return Text().CompareNoCase(name) == 0;
     }
     void Align(std::size_t whole) { Skip((whole - m_left) % sizeof(DWORD) ? sizeof(WORD) : 0); }
     std::size_t Left() const { return m_left; }
@@ -181,7 +182,7 @@ std::vector<BYTE> AfxDialogTemplate::AsPage(bool scrollingCombos) const {
     MakePageStyle(style, exStyle);
     std::memcpy(&copy[styleAt], &style, sizeof style);
     std::memcpy(&copy[exStyleAt], &exStyle, sizeof exStyle);
-    // The sheet determines the position; the size, which follows, is kept.
+    // The sheet determines the position; the size, which follows, is not changed.
     const std::size_t placeAt = (IsExtended() ? sizeof(ExtendedHead) : 2 * sizeof(DWORD)) + sizeof(WORD);
     std::memset(&copy[placeAt], 0, 2 * sizeof(WORD));
     if (scrollingCombos && !IsExtended()) ScrollCombos(copy);

@@ -55,11 +55,11 @@ int AfxLoadString(UINT nIDS, LPSTR lpszBuf, UINT nMaxBuf) {
 BOOL CString::ReadResource(UINT nID) {
     // The length of a string resource cannot be queried: a full buffer means that a larger one is needed.
     int length = 0;
-    int room = 256;
+    int capacity = 256;
     do {
-        room *= 2;
-        length = AfxLoadString(nID, GetBufferSetLength(room), static_cast<UINT>(room));
-    } while (length == room - 1);
+        capacity *= 2;
+        length = AfxLoadString(nID, GetBufferSetLength(capacity), static_cast<UINT>(capacity));
+    } while (length == capacity - 1);
     ReleaseBuffer(length);
     return length > 0;
 }

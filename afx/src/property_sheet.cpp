@@ -97,9 +97,9 @@ int CPropertySheet::OnCreate(LPCREATESTRUCTA) {
     if (!m_bModeless && !CreateButtons()) return -1;
     const DWORD rows = m_bStacked ? TCS_MULTILINE : TCS_SINGLELINE;
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP | WS_CLIPSIBLINGS | rows;
-    // Very wide, because a tab control that is too narrow for its tabs creates a scroll control.
-    const CRect nowhere(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
-    if (!CreateTabRow(style, nowhere, AFX_IDC_TAB_CONTROL)) return -1;
+    // As wide as the screen, because a tab control that is too narrow for its tabs creates a scroll control.
+    const CRect initial(0, 0, ::GetSystemMetrics(SM_CXSCREEN), 0);
+    if (!CreateTabRow(style, initial, AFX_IDC_TAB_CONTROL)) return -1;
     if (!ShowFirstPage(CRect())) return -1;
     MeasureUnits();
     return 0;
@@ -258,10 +258,10 @@ void CPropertySheet::FocusActivePage() {
     const CPropertyPage* page = GetActivePage();
     if (page == nullptr || page->m_hWnd == nullptr) return;
     HWND first = ::GetNextDlgTabItem(page->m_hWnd, nullptr, FALSE);
-    const bool takes = first != nullptr && (::GetWindowLongPtrA(first, GWL_STYLE) & WS_TABSTOP) != 0;
+    const bool acceptsFocus = first != nullptr && (::GetWindowLongPtrA(first, GWL_STYLE) & WS_TABSTOP) != 0;
     // If no control of the page accepts the focus, it goes to the tabs, the default button or, if that is disabled or
     // hidden, the control after it; in the previous page, now hidden, it would still receive keys.
-    if (!takes) {
+    if (!acceptsFocus) {
         const bool tabs = m_tabRow.m_hWnd != nullptr && m_tabRow.IsWindowVisible();
         first = tabs ? m_tabRow.m_hWnd : ::GetDlgItem(m_hWnd, LOWORD(SendMessage(DM_GETDEFID)));
         if (first != nullptr && !IsUsable(first)) first = ::GetNextDlgTabItem(m_hWnd, first, FALSE);

@@ -9,12 +9,12 @@
 #include <unordered_map>
 #include <utility>
 
-// Remembers controls by their identifiers, because searching for a child is slow.
+// Caches controls by their identifiers, because searching for a child is slow.
 class AfxDialogItems {
 public:
     // Returns the control of the dialog, or null.
     HWND Find(HWND dialog, int nID);
-    // Remembers a control that was found in another way, unless one with its identifier is known.
+    // Adds a control that was found in another way, unless one with its identifier is cached.
     void Note(HWND control);
 
 private:

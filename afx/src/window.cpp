@@ -66,7 +66,7 @@ BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent) {
 HWND CWnd::UnsubclassWindow() {
     WNDPROC* super = GetSuperWndProcAddr();
     ::SetWindowLongPtrA(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));
-    m_pfnSuper = nullptr; // a procedure shared by the class is kept for its other objects
+    m_pfnSuper = nullptr; // a procedure shared by the class remains stored for its other objects
     return Detach();
 }
 
@@ -173,8 +173,8 @@ struct MessageToDescendants {
 BOOL CALLBACK SendToDescendant(HWND window, LPARAM lParam) {
     const auto& send = *reinterpret_cast<const MessageToDescendants*>(lParam);
     AfxThreadState::Get().items.Note(window);
-    const bool wanted = send.deep || ::GetParent(window) == send.ancestor;
-    if (wanted && (!send.onlyPermanent || CWnd::FromHandlePermanent(window) != nullptr))
+    const bool isTarget = send.deep || ::GetParent(window) == send.ancestor;
+    if (isTarget && (!send.onlyPermanent || CWnd::FromHandlePermanent(window) != nullptr))
         ::SendMessageA(window, send.message, send.wParam, send.lParam);
     return TRUE;
 }
@@ -241,14 +241,14 @@ void CWnd::SetFont(CFont* pFont, BOOL bRedraw) {
 }
 
 void AfxSetWindowText(HWND hWndCtrl, LPCSTR lpszNew) {
-    const CString wanted(lpszNew);
-    if (::GetWindowTextLengthA(hWndCtrl) == wanted.GetLength()) {
+    const CString text(lpszNew);
+    if (::GetWindowTextLengthA(hWndCtrl) == text.GetLength()) {
         CString present;
-        ::GetWindowTextA(hWndCtrl, present.GetBufferSetLength(wanted.GetLength()), wanted.GetLength() + 1);
+        ::GetWindowTextA(hWndCtrl, present.GetBufferSetLength(text.GetLength()), text.GetLength() + 1);
         present.ReleaseBuffer();
-        if (present == wanted) return;
+        if (present == text) return;
     }
-    ::SetWindowTextA(hWndCtrl, wanted);
+    ::SetWindowTextA(hWndCtrl, text);
 }
 
 // ---- Position
@@ -332,19 +332,19 @@ LPCSTR AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbrBackgrou
     name.Format("Afx:%x:%p:%p:%p", nClassStyle, static_cast<void*>(hCursor), static_cast<void*>(hbrBackground),
                 static_cast<void*>(hIcon));
     static std::set<std::string> names; // returned pointers remain valid
-    LPCSTR kept = names.insert(static_cast<LPCSTR>(name)).first->c_str();
+    LPCSTR registered = names.insert(static_cast<LPCSTR>(name)).first->c_str();
     HINSTANCE instance = AfxGetInstanceHandle();
     WNDCLASSA found;
-    if (::GetClassInfoA(instance, kept, &found)) return kept;
+    if (::GetClassInfoA(instance, registered, &found)) return registered;
 
-    WNDCLASSA wanted = {};
-    wanted.style = nClassStyle;
-    wanted.lpfnWndProc = ::DefWindowProcA;
-    wanted.hInstance = instance;
-    wanted.hIcon = hIcon;
-    wanted.hCursor = hCursor;
-    wanted.hbrBackground = hbrBackground;
-    wanted.lpszClassName = kept;
-    if (::RegisterClassA(&wanted) == 0) AfxThrowResourceException();
-    return kept;
+    WNDCLASSA windowClass = {};
+    windowClass.style = nClassStyle;
+    windowClass.lpfnWndProc = ::DefWindowProcA;
+    windowClass.hInstance = instance;
+    windowClass.hIcon = hIcon;
+    windowClass.hCursor = hCursor;
+    windowClass.hbrBackground = hbrBackground;
+    windowClass.lpszClassName = registered;
+    if (::RegisterClassA(&windowClass) == 0) AfxThrowResourceException();
+    return registered;
 }

@@ -78,7 +78,7 @@ OrloResult ORLO_CALL OrloFillControls(HWND dialog, DrawingStruct* drawing, OrloF
 }
 
 OrloResult ORLO_CALL OrloGetSelected(HWND control, uint32_t* value) {
-    return orlo::GuardedAnswer(value, "the value", [&] {
+    return orlo::GuardedResult(value, "the value", [&] {
         const ControlItems items = RequireItems(control);
         const int index = items.Selected();
         if (index < 0) ThrowError(kOrloNotFound, "nothing is selected");

@@ -32,7 +32,7 @@ FrameworkScope::FrameworkScope(ControlReady onReady) : m_main(std::move(onReady)
     if (AfxGetThread() == nullptr) m_application.emplace();
     m_previousMain = AfxGetThread()->m_pMainWnd;
     if (!m_main.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr))
-        RefuseWithSystemError(static_cast<long>(::GetLastError()), "cannot create the main window for the controls");
+        ThrowSystemError(static_cast<long>(::GetLastError()), "cannot create the main window for the controls");
     AfxGetThread()->m_pMainWnd = &m_main;
 }
 

@@ -30,8 +30,8 @@ private:
 // which they are closed does not matter.
 class FrameworkScope {
 public:
-    // Returns the scope of this thread. A new one passes the controls to onReady. Throws Refusal if the framework runs
-    // on another thread, or if the main window cannot be created.
+    // Returns the scope of this thread. A new one passes the controls to onReady. Throws CallError if the framework
+    // runs on another thread, or if the main window cannot be created.
     static std::shared_ptr<FrameworkScope> OfThread(const ControlReady& onReady);
 
     explicit FrameworkScope(ControlReady onReady);
@@ -48,7 +48,7 @@ private:
 // The framework's object of a window that owns a sheet.
 class OwnerObject {
 public:
-    // owner is null or a window of this thread. Throws Refusal if it is neither.
+    // owner is null or a window of this thread. Throws CallError if it is neither.
     explicit OwnerObject(HWND owner);
     ~OwnerObject();
     OwnerObject(const OwnerObject&) = delete;

@@ -49,20 +49,20 @@ std::string SystemTextToUtf8(const std::string& text) {
 }
 
 void ThrowError(OrloResult result, const char* text) {
-    throw Refusal{result, text};
+    throw CallError{result, text};
 }
 
-void RefuseWithSystemError(long error, const char* what) {
+void ThrowSystemError(long error, const char* what) {
     const std::string text = files::SystemMessage({static_cast<int>(error), std::system_category()});
-    throw Refusal{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError, std::string(what) + ": " + text};
+    throw CallError{error == E_OUTOFMEMORY ? kOrloOutOfMemory : kOrloSystemError, std::string(what) + ": " + text};
 }
 
 OrloResult GuardedCall(const std::function<void()>& work) {
     try {
         work();
         return kOrloOk;
-    } catch (const Refusal& refusal) {
-        return Failed(refusal.result, refusal.text.c_str());
+    } catch (const CallError& error) {
+        return Failed(error.result, error.text.c_str());
     } catch (CException* exception) {
         return Failed(exception);
     } catch (const std::bad_alloc&) {

@@ -142,10 +142,10 @@ void AddPages(const OrloSheet& record, CGraphicPropertySheet& sheet) {
             if (!numbers.insert(page.number).second)
                 ThrowError(kOrloBadArgument, ("another page has the number " + std::to_string(page.number)).c_str());
             ::AddFieldPage(&sheet, page.number, TableOf(page));
-        } catch (const std::invalid_argument& refusal) {
-            ThrowError(kOrloBadArgument, (name + ": " + SystemTextToUtf8(refusal.what())).c_str());
-        } catch (const Refusal& refusal) {
-            ThrowError(refusal.result, (name + ": " + refusal.text).c_str());
+        } catch (const std::invalid_argument& error) {
+            ThrowError(kOrloBadArgument, (name + ": " + SystemTextToUtf8(error.what())).c_str());
+        } catch (const CallError& error) {
+            ThrowError(error.result, (name + ": " + error.text).c_str());
         }
     }
 }

@@ -7,7 +7,7 @@ class CGraphicPropertySheet;
 
 namespace orlo {
 
-// Adds the pages of the record that are for one of the selected graphics. Throws Refusal if one is not valid.
+// Adds the pages of the record that are for one of the selected graphics. Throws CallError if one is not valid.
 void AddPages(const OrloSheet& record, CGraphicPropertySheet& sheet);
 
 } // namespace orlo

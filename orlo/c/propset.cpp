@@ -90,7 +90,7 @@ void CopyOut(const void* bytes, size_t count, void* buffer, size_t* size) {
 using namespace orlo;
 
 OrloResult ORLO_CALL OrloPropsetNew(OrloPropset* set) {
-    return GuardedAnswer(set, "the handle", [] { return AddSet({}); });
+    return GuardedResult(set, "the handle", [] { return AddSet({}); });
 }
 
 OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
@@ -98,7 +98,7 @@ OrloResult ORLO_CALL OrloPropsetClose(OrloPropset set) {
 }
 
 OrloResult ORLO_CALL OrloPropsetIsDamaged(OrloPropset set, uint32_t* isDamaged) {
-    return GuardedAnswer(isDamaged, "the result", [&] { return RequireSet(set)->IsDamaged(); });
+    return GuardedResult(isDamaged, "the result", [&] { return RequireSet(set)->IsDamaged(); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, OrloFinding* finding, char* buffer,
@@ -117,7 +117,7 @@ OrloResult ORLO_CALL OrloPropsetGetFinding(OrloPropset set, uint32_t index, Orlo
 }
 
 OrloResult ORLO_CALL OrloPropsetCountSections(OrloPropset set, uint32_t* count) {
-    return GuardedAnswer(count, "the count",
+    return GuardedResult(count, "the count",
                          [&] { return static_cast<uint32_t>(RequireSet(set)->image.sections.size()); });
 }
 

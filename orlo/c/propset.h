@@ -29,20 +29,20 @@ struct OpenSet {
     bool IsDamaged() const;
 };
 
-// Throws Refusal if the handle was never issued or is closed.
+// Throws CallError if the handle was never issued or is closed.
 std::shared_ptr<OpenSet> RequireSet(OrloPropset handle);
-// Also throws Refusal if the set is damaged. For sets that will be changed or written.
+// Also throws CallError if the set is damaged. For sets that will be changed or written.
 std::shared_ptr<OpenSet> RequireUndamagedSet(OrloPropset handle);
 OrloPropset AddSet(OpenSet set);
 void Release(OrloPropset handle);
 
 const GUID& AsGuid(const OrloGuid& format);
-// Returns the first section of that format. Throws Refusal if there is none.
+// Returns the first section of that format. Throws CallError if there is none.
 ImageSection& RequireSection(SetImage& image, const OrloGuid* format);
 ImageProperty& RequireProperty(SetImage& image, const OrloGuid* format, uint32_t id);
 
 // Copies bytes to the caller's buffer. size: in, the capacity of the buffer; out, the number of bytes. With a null
-// buffer only the number is stored. Throws Refusal if the buffer is too small.
+// buffer only the number is stored. Throws CallError if the buffer is too small.
 void CopyOut(const void* bytes, size_t count, void* buffer, size_t* size);
 
 } // namespace orlo

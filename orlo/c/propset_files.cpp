@@ -20,7 +20,7 @@ namespace {
 
 constexpr size_t kLongest = 0x10000000; // maximum number of bytes read from a stream
 void Check(HRESULT result, const char* what) {
-    if (FAILED(result)) RefuseWithSystemError(result, what);
+    if (FAILED(result)) ThrowSystemError(result, what);
 }
 
 OrloPropset Open(const uint8_t* data, size_t size, std::optional<Origin> origin = std::nullopt) {
@@ -95,8 +95,8 @@ void Save(OpenSet& set, const Bytes& bytes, const std::filesystem::path& path, c
             ThrowError(kOrloChanged, "the stream has been changed since the set was read");
         document.Write(stream, bytes);
         document.Commit();
-    } catch (const UnfitDocument& unfit) {
-        ThrowError(kOrloDamaged, unfit.what());
+    } catch (const UnfitDocument& error) {
+        ThrowError(kOrloDamaged, error.what());
     } catch (const files::FileError& error) {
         ThrowError(error.Reason() == std::errc::not_enough_memory ? kOrloOutOfMemory : kOrloSystemError, error.what());
     }
@@ -106,19 +106,19 @@ void Save(OpenSet& set, const Bytes& bytes, const std::filesystem::path& path, c
 } // namespace
 
 OrloResult ORLO_CALL OrloPropsetOpenMemory(const void* data, size_t size, OrloPropset* set) {
-    return GuardedAnswer(set, "the handle",
+    return GuardedResult(set, "the handle",
                          [&] { return Open(&RequireNotNull(static_cast<const uint8_t*>(data), "the data"), size); });
 }
 
 OrloResult ORLO_CALL OrloPropsetOpenStream(IStream* stream, OrloPropset* set) {
-    return GuardedAnswer(set, "the handle", [&] {
+    return GuardedResult(set, "the handle", [&] {
         const Bytes bytes = ReadToEnd(RequireNotNull(stream, "the stream"));
         return Open(bytes.data(), bytes.size());
     });
 }
 
 OrloResult ORLO_CALL OrloPropsetOpenFile(const wchar_t* path, const char* streamName, OrloPropset* set) {
-    return GuardedAnswer(set, "the handle", [&] {
+    return GuardedResult(set, "the handle", [&] {
         const std::string stream = StreamName(streamName);
         Bytes bytes = ReadStream(&RequireNotNull(path, "the path"), stream);
         const uint8_t* data = bytes.data();

@@ -107,8 +107,7 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
         const SIZE pixels =
             RequestedSize(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));
         const size_t count = static_cast<size_t>(pixels.cx) * static_cast<size_t>(pixels.cy);
-        if (buffer == nullptr || *size < count * sizeof(uint32_t)) // only the size is requested, so drawing can be
-                                                                   // skipped
+        if (buffer == nullptr || *size < count * sizeof(uint32_t)) // stores the size, and fails for a small buffer
             return CopyOut(nullptr, count * sizeof(uint32_t), buffer, size);
         const Picture picture = Render(value, pixels);
         if (order == kOrloRgba) std::for_each(picture.pixels, picture.pixels + count, SwapRedAndBlue);
@@ -118,7 +117,7 @@ OrloResult ORLO_CALL OrloPropsetGetThumbnailPixels(OrloPropset set, uint32_t ord
 
 OrloResult ORLO_CALL OrloPropsetGetThumbnailBitmap(OrloPropset set, uint32_t* width, uint32_t* height,
                                                    HBITMAP__** bitmap) {
-    return GuardedAnswer(bitmap, "the bitmap", [&] {
+    return GuardedResult(bitmap, "the bitmap", [&] {
         const Bytes value = RequireThumbnail(set);
         const SIZE size =
             RequestedSize(value, RequireNotNull(width, "the width"), RequireNotNull(height, "the height"));

@@ -63,30 +63,30 @@ uint16_t CodePageOf(SetImage& image, const OrloGuid* format) {
 
 // Creates the section. Fails if it exists already, since its texts are encoded in its code page.
 void StoreCodePage(SetImage& image, const OrloGuid* format, int64_t codePage) {
-    const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
+    const GUID& guid = AsGuid(RequireNotNull(format, "the format"));
     if (codePage <= 0 || codePage > UINT16_MAX) ThrowError(kOrloBadArgument, "not a code page");
-    if (image.Find(wanted) != nullptr)
+    if (image.Find(guid) != nullptr)
         ThrowError(kOrloBadArgument, "the code page of an existing section cannot be changed");
     if (!Utf8ToCodePage("a", static_cast<uint16_t>(codePage)))
         ThrowError(kOrloBadArgument, "the code page is not supported by the system");
-    SectionFor(image, wanted, static_cast<uint16_t>(codePage));
+    SectionFor(image, guid, static_cast<uint16_t>(codePage));
 }
 
 void StoreBytes(SetImage& image, const OrloGuid* format, uint32_t id, uint32_t type, Bytes bytes) {
     if (id <= kOrloCodePage) ThrowError(kOrloBadArgument, "the dictionary and the code page cannot be set as values");
-    const GUID& wanted = AsGuid(RequireNotNull(format, "the format"));
-    const ImageSection* section = image.Find(wanted);
+    const GUID& guid = AsGuid(RequireNotNull(format, "the format"));
+    const ImageSection* section = image.Find(guid);
     const ImageProperty* property = section != nullptr ? section->Find(id) : nullptr;
     if (property != nullptr && property->type != type)
         ThrowError(kOrloWrongType, "the property exists with another type");
-    StoreValue(SectionFor(image, wanted, kCodePageUtf8), id, type, std::move(bytes));
+    StoreValue(SectionFor(image, guid, kCodePageUtf8), id, type, std::move(bytes));
 }
 
-// Encodes and stores a value. Fails with `unfit` if the value is out of range for its type.
-void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult unfit) {
+// Encodes and stores a value. Throws CallError with the result `rangeError` if the value is out of range for its type.
+void Store(OrloPropset set, const OrloGuid* format, uint32_t id, const Value& value, OrloResult rangeError) {
     const auto open = RequireUndamagedSet(set);
     std::optional<Bytes> bytes = EncodeValue(value, CodePageOf(open->image, format));
-    if (!bytes) ThrowError(unfit, "the value cannot be represented in its type");
+    if (!bytes) ThrowError(rangeError, "the value cannot be represented in its type");
     StoreBytes(open->image, format, id, value.type, std::move(*bytes));
 }
 
@@ -119,22 +119,22 @@ Value TextValue(uint32_t type, const char* text) {
 // Stores a list with an item for each element of the array.
 template <class Item>
 void StoreList(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t type, const Item* items, uint32_t count,
-               Value (*itemValue)(uint32_t type, Item item), OrloResult unfit) {
+               Value (*itemValue)(uint32_t type, Item item), OrloResult rangeError) {
     if (count > 0) RequireNotNull(items, "the values");
     Value list = {VT_VECTOR | type, {}, {}};
     for (uint32_t i = 0; i < count; ++i)
         list.elements.push_back(itemValue(type, items[i]));
-    Store(set, format, id, list, unfit);
+    Store(set, format, id, list, rangeError);
 }
 
 } // namespace
 
 OrloResult ORLO_CALL OrloPropsetGetInteger(OrloPropset set, const OrloGuid* format, uint32_t id, int64_t* value) {
-    return GuardedAnswer(value, "the value", [&] { return IntegerOf(ValueOf(set, format, id)); });
+    return GuardedResult(value, "the value", [&] { return IntegerOf(ValueOf(set, format, id)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetReal(OrloPropset set, const OrloGuid* format, uint32_t id, double* value) {
-    return GuardedAnswer(value, "the value", [&] { return RealOf(ValueOf(set, format, id)); });
+    return GuardedResult(value, "the value", [&] { return RealOf(ValueOf(set, format, id)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetText(OrloPropset set, const OrloGuid* format, uint32_t id, char* buffer,
@@ -187,23 +187,23 @@ OrloResult ORLO_CALL OrloPropsetSetTexts(OrloPropset set, const OrloGuid* format
 }
 
 OrloResult ORLO_CALL OrloPropsetCountItems(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t* count) {
-    return GuardedAnswer(count, "the count",
+    return GuardedResult(count, "the count",
                          [&] { return static_cast<uint32_t>(ItemsOf(ValueOf(set, format, id)).size()); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemType(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
                                             uint32_t* type) {
-    return GuardedAnswer(type, "the type", [&] { return ItemOf(ValueOf(set, format, id), index).type; });
+    return GuardedResult(type, "the type", [&] { return ItemOf(ValueOf(set, format, id), index).type; });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemInteger(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
                                                int64_t* value) {
-    return GuardedAnswer(value, "the value", [&] { return IntegerOf(ItemOf(ValueOf(set, format, id), index)); });
+    return GuardedResult(value, "the value", [&] { return IntegerOf(ItemOf(ValueOf(set, format, id), index)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemReal(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
                                             double* value) {
-    return GuardedAnswer(value, "the value", [&] { return RealOf(ItemOf(ValueOf(set, format, id), index)); });
+    return GuardedResult(value, "the value", [&] { return RealOf(ItemOf(ValueOf(set, format, id), index)); });
 }
 
 OrloResult ORLO_CALL OrloPropsetGetItemText(OrloPropset set, const OrloGuid* format, uint32_t id, uint32_t index,
@@ -266,7 +266,7 @@ OrloResult ORLO_CALL OrloPropsetGetNameAt(OrloPropset set, uint32_t section, uin
 }
 
 OrloResult ORLO_CALL OrloPropsetFindName(OrloPropset set, const OrloGuid* format, const char* name, uint32_t* id) {
-    return GuardedAnswer(id, "the identifier", [&] {
+    return GuardedResult(id, "the identifier", [&] {
         const auto open = RequireSet(set);
         const DictionaryEntry* entry = FindName(RequireSection(open->image, format), &RequireNotNull(name, "the name"));
         if (entry == nullptr) ThrowError(kOrloNotFound, "no property has that name");
@@ -284,8 +284,8 @@ OrloResult ORLO_CALL OrloPropsetSetName(OrloPropset set, const OrloGuid* format,
             ThrowError(kOrloBadArgument, "the name is empty, or the property cannot have a name");
         if (!Utf8ToCodePage(text, section.codePage.value_or(kUsualCodePage)))
             ThrowError(kOrloNotEncodable, "the name cannot be represented in the code page of the section");
-        const DictionaryEntry* there = FindName(section, text);
-        if (there != nullptr && there->id != id) ThrowError(kOrloBadArgument, "another property has that name");
+        const DictionaryEntry* existing = FindName(section, text);
+        if (existing != nullptr && existing->id != id) ThrowError(kOrloBadArgument, "another property has that name");
         StoreName(section, id, text);
     });
 }

@@ -114,7 +114,7 @@ std::unique_ptr<CGraphicPropertySheet> SheetRecord::NewSheet() {
 } // namespace orlo
 
 OrloResult ORLO_CALL OrloRunSheet(const OrloSheet* sheet, int32_t* code) {
-    return orlo::GuardedAnswer(code, "code", [=] {
+    return orlo::GuardedResult(code, "code", [=] {
         orlo::SheetRecord record(sheet);
         return static_cast<int32_t>(record.NewSheet()->DoModal());
     });

@@ -13,7 +13,7 @@ namespace orlo {
 
 class SheetRecord {
 public:
-    // Copies the caller's record, which can be of an earlier version. Throws Refusal if it is not valid.
+    // Copies the caller's record, which can be of an earlier version. Throws CallError if it is not valid.
     explicit SheetRecord(const OrloSheet* record);
     virtual ~SheetRecord();
     SheetRecord(const SheetRecord&) = delete;
@@ -23,7 +23,7 @@ public:
     CWnd* Owner() { return m_owner.Get(); }
     void Select(GraphicStruct* selection) { m_record.selection = selection; }
     bool HasGraphics() const;
-    // Returns a sheet with all its pages. Throws Refusal if a page is not valid.
+    // Returns a sheet with all its pages. Throws CallError if a page is not valid.
     std::unique_ptr<CGraphicPropertySheet> NewSheet();
 
     // Returns whether a control is in the sheet.

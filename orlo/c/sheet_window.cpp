@@ -1,4 +1,4 @@
-// The modeless sheet of C programs, in a window of its own.
+// The modeless sheet of C programs, in its own window.
 
 #include <map>
 #include <memory>
@@ -26,7 +26,7 @@ class SheetWindow final : public CSheetPane {
 public:
     explicit SheetWindow(const OrloSheet* record) : m_record(*this, record), m_next(m_record.NewSheet()) {
         if (!CreatePane(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME, m_record.Owner(), 0))
-            orlo::RefuseWithSystemError(static_cast<long>(::GetLastError()), "cannot create the window of the sheet");
+            orlo::ThrowSystemError(static_cast<long>(::GetLastError()), "cannot create the window of the sheet");
         Open();
         Fit();
     }
@@ -35,7 +35,7 @@ public:
         DestroyWindow();
     }
 
-    // Throws Refusal if a field is not valid.
+    // Throws CallError if a field is not valid.
     void RequireApplied() {
         if (!Apply()) ThrowError(kOrloInvalidInput, "a field of the sheet is not valid");
     }
@@ -50,11 +50,12 @@ public:
     }
 
 protected:
-    // A page that was valid is not refused now; out of memory, nothing is shown.
+    // The pages were validated when the sheet was opened, so this can only fail if memory runs out; no sheet is shown
+    // then.
     CGraphicPropertySheet* NewSheet() override try {
         m_sheet = m_next ? std::move(m_next) : m_record.NewSheet();
         return m_sheet.get();
-    } catch (const orlo::Refusal&) {
+    } catch (const orlo::CallError&) {
         return nullptr;
     }
     void DeleteSheet() override { m_sheet.reset(); }
@@ -82,7 +83,7 @@ private:
         if (callback != nullptr) orlo::CallHost(callback, m_record.Get().context);
     }
 
-    // As large as the sheet, over the owner.
+    // Fits the window to the sheet and centers it over the owner.
     void Fit() {
         const CSize sheet = SheetSize();
         CRect frame(0, 0, sheet.cx, sheet.cy);
@@ -92,9 +93,9 @@ private:
     }
 
     WindowRecord m_record;
-    std::unique_ptr<CGraphicPropertySheet> m_next;  // made to see whether its pages are valid
-    std::unique_ptr<CGraphicPropertySheet> m_sheet; // shown now
-    HWND m_focus = nullptr;                         // when the window was deactivated
+    std::unique_ptr<CGraphicPropertySheet> m_next;  // created in advance to validate its pages; replaced by m_sheet
+    std::unique_ptr<CGraphicPropertySheet> m_sheet; // the sheet that is shown
+    HWND m_focus = nullptr;                         // the control that had the focus when the window was deactivated
 };
 
 // Handles are numbers that are never reused, and valid on the thread of their sheet.
@@ -112,7 +113,7 @@ Windows::iterator Find(OrloSheetHandle handle) {
     return found;
 }
 
-// Throws Refusal during a callback or a message box.
+// Throws CallError during a callback or a message box.
 Windows::iterator FindIdle(OrloSheetHandle handle) {
     const auto found = Find(handle);
     if (orlo::BusyScope::IsBusy() || found->second->IsBusy())
@@ -128,7 +129,7 @@ OrloResult CallWindow(OrloSheetHandle handle, Work work) {
 } // namespace
 
 OrloResult ORLO_CALL OrloOpenSheet(const OrloSheet* sheet, OrloSheetHandle* handle) {
-    return orlo::GuardedAnswer(handle, "handle", [&] {
+    return orlo::GuardedResult(handle, "handle", [&] {
         thread_local uintptr_t last = 0;
         auto window = std::make_unique<SheetWindow>(sheet);
         WindowsOfThread()[++last] = std::move(window);
@@ -140,19 +141,19 @@ int32_t ORLO_CALL OrloSheetTakesMessage(MSG* message) {
     if (message == nullptr) return 0;
     for (const auto& [handle, window] : WindowsOfThread()) {
         if (message->hwnd != window->m_hWnd && !::IsChild(window->m_hWnd, message->hwnd)) continue;
-        int32_t taken = 0;
+        int32_t isHandled = 0;
         SheetWindow& receiver = *window;
         orlo::GuardedCall([&] {
             receiver.RevealFocus();
-            taken = CWnd::WalkPreTranslateTree(receiver.m_hWnd, message);
+            isHandled = CWnd::WalkPreTranslateTree(receiver.m_hWnd, message);
         });
-        return taken;
+        return isHandled;
     }
     return 0;
 }
 
 OrloResult ORLO_CALL OrloSheetGetWindow(OrloSheetHandle handle, HWND* window) {
-    return orlo::GuardedAnswer(window, "window", [=] { return Find(handle)->second->m_hWnd; });
+    return orlo::GuardedResult(window, "window", [=] { return Find(handle)->second->m_hWnd; });
 }
 
 OrloResult ORLO_CALL OrloSheetFollow(OrloSheetHandle handle, GraphicStruct* selection) {

@@ -106,7 +106,7 @@ int CColorControl::FindColor(DWORD dwColor) {
 
 int CColorControl::AddControlItem(const char* pszItem) {
     const FillScope* const scope = FillScope::Of(m_hWnd);
-    if (scope && scope->ItemsInFinalOrder()) return InsertString(-1, pszItem);
+    if (scope && scope->ItemsAreSorted()) return InsertString(-1, pszItem);
 
     char text[kItemTextSize];
     ::lstrcpynA(text, pszItem, sizeof text);
@@ -119,7 +119,7 @@ int CColorControl::AddControlItem(const char* pszItem) {
 }
 
 void CColorControl::FillControl(WPARAM, LPARAM pFill) {
-    const FillScope scope(m_hWnd, FillScope::Items::InFinalOrder);
+    const FillScope scope(m_hWnd, FillScope::Items::Sorted);
     if (!BeginFill(*this, pFill)) return;
 
     for (const Entry& entry : SortedColors(m_pTable)) {

@@ -108,7 +108,7 @@ bool DropList::HasPointerMoved() const {
 
 } // namespace
 
-// The part of a combo box that is not in its interface: the names of its items, the choice that Escape restores, and
+// The part of a combo box that is not in its interface: the names of its items, the selection that Escape restores, and
 // the window of its list.
 class ComboState {
 public:
@@ -117,7 +117,7 @@ public:
     // Sizes the list and records the choice, unless the list is open.
     void PrepareToOpen();
     void RecordChoice() { m_choice = GetChoice(); }
-    void RestoreChoice() const;
+    void RestoreSelection() const;
     // Gives the list its own accessibility object, without which it would expose its items with their keys.
     void WatchList();
     // Makes the list as wide as the widest name, if the control draws names.
@@ -167,8 +167,8 @@ ComboState::Choice ComboState::GetChoice() const {
     return choice;
 }
 
-// With an edit field, the text decides: the open list selects the item that begins with it.
-void ComboState::RestoreChoice() const {
+// With an edit field, the text determines the selection: the open list selects the item that begins with it.
+void ComboState::RestoreSelection() const {
     const Choice now = GetChoice();
     const bool edit = !IsDropDownList(m_combo.m_hWnd);
     if (edit ? now.text == m_choice.text : now.index == m_choice.index) return;
@@ -266,13 +266,13 @@ LRESULT CComboControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         if (const LRESULT object = HandleGetObject(m_hWnd, wParam, lParam, kComboKind)) return object;
     }
     if (message == WM_CHAR && TypeAhead(m_hWnd, items, m_state->names, wParam)) return 0;
-    // Not at CBN_DROPDOWN, which only the parent receives.
+    // Not done at CBN_DROPDOWN, because only the parent receives it.
     if (OpensList(message, wParam)) m_state->PrepareToOpen();
     const bool cancels = message == WM_KEYDOWN && wParam == VK_ESCAPE && GetDroppedState();
     if (message == WM_DESTROY) m_state->names = ItemNames();
     const LRESULT result = CComboBox::WindowProc(message, wParam, lParam); // can delete this object
     if (items.IsChange(message)) m_state->names.Change(items, message, lParam, result);
-    if (cancels) m_state->RestoreChoice();
+    if (cancels) m_state->RestoreSelection();
     if (items.IsSelection(message)) NotifyValueChange(m_hWnd);
     return result;
 }

@@ -35,12 +35,12 @@ int RegisterControlClass(HINSTANCE module, const char* systemName, const char* n
     systemProc = windowClass.lpfnWndProc;
 
     WNDCLASSA present = {};
-    const bool taken = ::GetClassInfoA(module, name, &present);
-    if (taken && present.lpfnWndProc == first) return 1;
+    const bool isRegistered = ::GetClassInfoA(module, name, &present);
+    if (isRegistered && present.lpfnWndProc == first) return 1;
 
     windowClass.lpszClassName = name;
     windowClass.hInstance = module;
-    if (!taken) windowClass.style |= CS_GLOBALCLASS;
+    if (!isRegistered) windowClass.style |= CS_GLOBALCLASS;
     windowClass.lpfnWndProc = first;
     const ATOM atom = ::RegisterClassA(&windowClass);
     if (atom) AfxRegisterSuperWndProc(atom, systemProc);

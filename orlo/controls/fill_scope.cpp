@@ -19,7 +19,8 @@ FillScope::FillScope(HWND window, Items items) : window_(window), items_(items),
 FillScope::~FillScope() {
     g_current = outer_;
     ::SendMessageA(window_, WM_SETREDRAW, TRUE, 0);
-    if (::IsWindowVisible(window_)) ::InvalidateRect(window_, nullptr, TRUE); // not null: that would be all windows
+    if (::IsWindowVisible(window_))
+        ::InvalidateRect(window_, nullptr, TRUE); // a null window would invalidate all windows
 }
 
 FillScope* FillScope::Of(HWND window) {

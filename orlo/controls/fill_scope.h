@@ -6,9 +6,9 @@
 // Suppresses redrawing while a control is filled, and measures its rows only once.
 class FillScope {
 public:
-    enum class Items { AsTheyCome, InFinalOrder };
+    enum class Items { Unsorted, Sorted };
 
-    explicit FillScope(HWND window, Items items = Items::AsTheyCome);
+    explicit FillScope(HWND window, Items items = Items::Unsorted);
     ~FillScope();
     FillScope(const FillScope&) = delete;
     FillScope& operator=(const FillScope&) = delete;
@@ -16,7 +16,7 @@ public:
     // Returns the active scope of that window, or null.
     static FillScope* Of(HWND window);
 
-    bool ItemsInFinalOrder() const { return items_ == Items::InFinalOrder; }
+    bool ItemsAreSorted() const { return items_ == Items::Sorted; }
     int TextHeight();
 
 private:

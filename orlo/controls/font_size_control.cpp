@@ -30,7 +30,7 @@ void WatchEditField(CFontSizeControl& control) {
 }
 
 // Reads drawing, font and coordinate space from the table. Returns false if there are no sizes to list.
-bool TakeDrawing(CFontSizeControl& control) {
+bool ReadDrawing(CFontSizeControl& control) {
     DrawingStruct* const drawing = ::TableGetOwner(control.m_pTable);
     control.m_pDrawing = drawing;
     if (!drawing) return false;
@@ -119,7 +119,7 @@ void CFontSizeControl::FillControl(WPARAM, LPARAM lParam) {
     WatchEditField(*this); // a subclassed window was created without this object
     const FillScope scope(m_hWnd);
     m_pDrawing = nullptr; // the host may be about to close it
-    if (!BeginFill(*this, lParam) || !TakeDrawing(*this)) return;
+    if (!BeginFill(*this, lParam) || !ReadDrawing(*this)) return;
     const FontListRequest request = {this, m_strFontName};
     FillFontDropDown(m_hWnd, reinterpret_cast<LPARAM>(&request));
 

@@ -16,5 +16,5 @@ public:
 
 private:
     std::vector<std::string> names_;
-    bool known_ = false;
+    bool isLoaded_ = false;
 };

@@ -19,8 +19,8 @@ namespace {
 constexpr unsigned int kKind = kControlLayers;
 
 constexpr int kMinPicture = 16;
-constexpr int kGap = 3;  // before a chip and before the name, in pixels at 96 dpi
-constexpr int kChip = 9; // side of the square that shows a layer's color if the name is not drawn in it
+constexpr int kGap = 3;    // before a square and before the name, in pixels at 96 dpi
+constexpr int kSquare = 9; // side of the square that shows a layer's color if the name is not drawn in it
 
 // Returns the width of an icon column: half the system's icon size, 16 pixels at 96 dpi.
 int ColumnWidth() {
@@ -41,8 +41,8 @@ bool IsReadable(HDC dc, COLORREF color) {
 }
 
 // Draws a vertically centered square and returns its width.
-int DrawChip(HDC dc, int x, const RECT& row, COLORREF color, COLORREF frame) {
-    const int size = ScreenPixels(kChip), top = (row.top + row.bottom - size) / 2;
+int DrawSquare(HDC dc, int x, const RECT& row, COLORREF color, COLORREF frame) {
+    const int size = ScreenPixels(kSquare), top = (row.top + row.bottom - size) / 2;
     const RECT chip = {x, top, x + size, top + size};
     FillSolid(dc, chip, color);
     FrameRectangle(dc, chip, frame, 1);
@@ -80,7 +80,7 @@ void DrawLayerName(const DRAWITEMSTRUCT& request, const ShownLayer& layer) {
     const bool plain = !(request.itemState & (ODS_SELECTED | ODS_DISABLED));
     const COLORREF textColor = plain ? TextColorOnWindow() : ColorsOf(request).text;
     int x = rect.left + 2 * ColumnWidth() + ScreenPixels(kGap);
-    if (hasColor && !readable) x += DrawChip(request.hDC, x, rect, color, textColor) + ScreenPixels(kGap);
+    if (hasColor && !readable) x += DrawSquare(request.hDC, x, rect, color, textColor) + ScreenPixels(kGap);
     DrawClippedText(request.hDC, x, CenteredTextTop(request.hDC, rect, 0), rect, layer.name,
                     plain && readable ? color : textColor);
 }
@@ -111,7 +111,7 @@ void CLayerControl::MeasureItem(MEASUREITEMSTRUCT* pMIS) {
 }
 
 int CLayerControl::MeasureNameWidth(HDC dc, const char* name) {
-    return 2 * ColumnWidth() + ScreenPixels(dc, 3 * kGap + kChip) + TextWidth(dc, name);
+    return 2 * ColumnWidth() + ScreenPixels(dc, 3 * kGap + kSquare) + TextWidth(dc, name);
 }
 
 void CLayerControl::DrawItem(DRAWITEMSTRUCT* pDIS) {

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr double kGapsAcross = 15.0;      // number of the style's first gaps that span the sample
+constexpr double kGapsAcross = 15.0;      // width of the sample in multiples of the style's first gap
 constexpr double kLengthWithoutGap = 2.5; // length used for a style without gaps
 constexpr double kNoLength = 1e-7;
 

@@ -22,7 +22,7 @@ bool BeginFill(Control& control, LPARAM lParam) {
 unsigned long ItemOf(const ControlItems& items, int index, char* text);
 
 // Initializes a window that existed before its object: sets the row height (device pixels) and notifies the
-// application, which may fill the control at once.
+// application, which may fill the control immediately.
 void InitializeSubclassedWindow(HWND control, const ControlItems& items, int rowHeight);
 
 // Returns the row height in device pixels, as the control measures it.

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr DWORD kDoubleClicksOfPause = 4; // as in the system's list boxes
+constexpr DWORD kPauseInDoubleClicks = 4; // as in the system's list boxes
 
 std::string Upper(std::string text) {
     ::CharUpperBuffA(&text[0], static_cast<DWORD>(text.size()));
@@ -31,7 +31,7 @@ int FindName(const std::vector<std::string>& names, const std::string& prefix, i
 class TypedText {
 public:
     bool GoesOnIn(HWND control, int selected) const {
-        const DWORD pause = kDoubleClicksOfPause * ::GetDoubleClickTime();
+        const DWORD pause = kPauseInDoubleClicks * ::GetDoubleClickTime();
         return control == control_ && !before_.empty() && ::GetTickCount() - last_ <= pause && selected == selected_;
     }
     void BeginIn(HWND control) {
@@ -51,7 +51,7 @@ public:
         before_.clear();
         return Accept(alone, selected, found);
     }
-    int TakeBack() {
+    int RemoveLast() {
         const int selected = before_.back();
         before_.pop_back();
         text_.pop_back();
@@ -81,15 +81,15 @@ TypedText g_typed;
 } // namespace
 
 bool TypeAhead(HWND control, const ControlItems& items, ItemNames& names, WPARAM character) {
-    const bool takesBack = character == VK_BACK;
-    if ((character < ' ' && !takesBack) || character > 0xFF || items.Count() <= 0) return false;
+    const bool isBackspace = character == VK_BACK;
+    if ((character < ' ' && !isBackspace) || character > 0xFF || items.Count() <= 0) return false;
     const int before = items.Selected();
     if (!g_typed.GoesOnIn(control, before)) {
-        if (character == ' ' || takesBack) return false;
+        if (character == ' ' || isBackspace) return false;
         g_typed.BeginIn(control);
     }
     const int index =
-        takesBack ? g_typed.TakeBack() : g_typed.Add(static_cast<char>(character), names.Of(items), before);
+        isBackspace ? g_typed.RemoveLast() : g_typed.Add(static_cast<char>(character), names.Of(items), before);
     if (index != before) items.Select(index);
     g_typed.Leave(items.Selected());
     if (index != before) NotifySelectionChange(control);

@@ -53,7 +53,7 @@ bool IsBeginningOfReal(const char* text) {
     if (ScanRealText(text, value)) return false;
     const auto open = std::count(begun.begin(), begun.end(), '(') - std::count(begun.begin(), begun.end(), ')');
     const std::string closed(static_cast<size_t>(std::max<ptrdiff_t>(open, 0)), ')');
-    // The bar completes "6 1", which may become "6 1/2".
+    // The slash completes "6 1", which may become "6 1/2".
     for (const char* next : {"", "1", "/1"})
         if (ScanRealText((begun + next + closed).c_str(), value)) return true;
     return false;

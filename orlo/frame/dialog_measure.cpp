@@ -70,7 +70,8 @@ CSize BaseUnits(const DialogFont& font) {
     const orlo::SelectedObject selected(screen.get(), created.m_hObject);
     TEXTMETRICA metrics;
     ::GetTextMetricsA(screen.get(), &metrics);
-    const bool isVariable = (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) != 0; // the name of the bit is wrong
+    const bool isVariable =
+        (metrics.tmPitchAndFamily & TMPF_FIXED_PITCH) != 0; // contrary to its name, the bit means variable pitch
     return CSize(isVariable ? AverageLetterWidth(screen.get()) : metrics.tmAveCharWidth, metrics.tmHeight);
 }
 

@@ -61,7 +61,7 @@ public:
     // one.
     using Written = std::function<void(int changed, int rejected)>;
     void SetWritten(Written written) { m_written = std::move(written); }
-    bool WantsWritten() const { return m_written != nullptr; }
+    bool HasWrittenCallback() const { return m_written != nullptr; }
     void OnWritten(int changed, int rejected) const {
         if (m_written) m_written(changed, rejected);
     }

@@ -30,8 +30,7 @@ bool IsWithin(const RECT& inner, const RECT& outer) {
            inner.top <= outer.bottom; // a list may extend beyond its box
 }
 
-// Returns the distance of a text from the field that it precedes or stands above, or a negative number if it does
-// neither.
+// Returns the distance between a field and a text before or above it, or a negative number if the text is elsewhere.
 LONG DistanceToText(const RECT& text, const RECT& field) {
     const LONG middle = (text.top + text.bottom) / 2;
     const LONG across = field.left - text.right, down = field.top - text.bottom;

@@ -12,14 +12,14 @@ namespace {
 constexpr int kLine = 20, kMargin = 8; // in pixels at 96 dpi
 constexpr int kLinesOfWheel = 3;
 
-// Returns the distance that brings [low, high] into [0, end], or at least its beginning.
-int WayTo(LONG low, LONG high, LONG end) {
+// Returns the distance by which to scroll so that [low, high] is inside [0, end], or at least its beginning.
+int DistanceInto(LONG low, LONG high, LONG end) {
     const LONG margin = ScreenPixels(kMargin);
     if (low < 0) return static_cast<int>(low - margin);
     return high > end ? static_cast<int>(std::min(high - end + margin, low)) : 0;
 }
 
-int WayOf(const SCROLLINFO& info, int code) {
+int ScrollDistance(const SCROLLINFO& info, int code) {
     switch (code) {
     case SB_LINEUP:
         return -ScreenPixels(kLine);
@@ -80,8 +80,8 @@ void ScrollArea::ArrangeBars(HWND window) {
 
 // Limited by the scroll range.
 void ScrollArea::ScrollBy(HWND window, CSize pixels) {
-    const auto move = [window](int bar, int way) {
-        ::SetScrollPos(window, bar, ::GetScrollPos(window, bar) + way, TRUE);
+    const auto move = [window](int bar, int distance) {
+        ::SetScrollPos(window, bar, ::GetScrollPos(window, bar) + distance, TRUE);
         return -::GetScrollPos(window, bar);
     };
     const CPoint place(move(SB_HORZ, pixels.cx), move(SB_VERT, pixels.cy));
@@ -97,8 +97,8 @@ void ScrollArea::Scroll(HWND window, int bar, int code) {
     info.cbSize = sizeof info;
     info.fMask = SIF_ALL;
     ::GetScrollInfo(window, bar, &info);
-    const int way = WayOf(info, code);
-    ScrollBy(window, bar == SB_VERT ? CSize(0, way) : CSize(way, 0));
+    const int distance = ScrollDistance(info, code);
+    ScrollBy(window, bar == SB_VERT ? CSize(0, distance) : CSize(distance, 0));
 }
 
 bool ScrollArea::Handle(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -125,6 +125,6 @@ void ScrollArea::Reveal(HWND window, HWND control) {
     RECT client;
     ::GetClientRect(window, &client);
     const RECT place = PlaceIn(window, control);
-    ScrollBy(window,
-             CSize(WayTo(place.left, place.right, client.right), WayTo(place.top, place.bottom, client.bottom)));
+    ScrollBy(window, CSize(DistanceInto(place.left, place.right, client.right),
+                           DistanceInto(place.top, place.bottom, client.bottom)));
 }

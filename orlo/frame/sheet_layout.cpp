@@ -46,8 +46,9 @@ void CGraphicPropertySheet::PlaceButtons(int left, int top, const int (&widths)[
     }
 }
 
-// Returns the size of all pages in pixels: that of the active page or, as far as the monitor is large enough, the
-// largest that a page wants. The rest of the sheet takes `beside`. A page that has to scroll gets space for its bar.
+// Returns the size of all pages in pixels: the larger of the active page's size and the largest m_sizeWanted, limited
+// by the monitor's work area. `beside` is the size of the rest of the sheet. A page that has to scroll gets space for
+// its scroll bar.
 CSize CGraphicPropertySheet::PageSize(const CPropertyPage& active, CSize beside) const {
     CRect wanted;
     for (int i = 0; i < GetPageCount(); ++i) {
@@ -75,7 +76,8 @@ void CGraphicPropertySheet::RecalcLayout() {
     const int cxSide = std::max<int>(m_cxPreview + mx + kFrame, m_sizeButton.cx + mx);
     const HWND tabs = GetTabControl()->m_hWnd;
     const UINT keep = SWP_NOZORDER | SWP_NOACTIVATE;
-    ::SetWindowPos(tabs, nullptr, 0, 0, WindowRect(tabs).Width(), 0, keep | SWP_NOMOVE); // takes the height of its rows
+    ::SetWindowPos(tabs, nullptr, 0, 0, WindowRect(tabs).Width(), 0,
+                   keep | SWP_NOMOVE); // the tab control sets its own height
     CRect beside(0, 0, 2 * mx + kFrame + cxSide, WindowRect(tabs).Height() + 2 * my + kFrame + 1);
     ::AdjustWindowRectEx(&beside, ::GetWindowLongA(m_hWnd, GWL_STYLE), FALSE, ::GetWindowLongA(m_hWnd, GWL_EXSTYLE));
     const CSize pageSize = PageSize(*page, beside.Size());

@@ -46,7 +46,7 @@ LRESULT CALLBACK OnSheetMessage(HWND sheet, UINT message, WPARAM wParam, LPARAM 
     return ::DefSubclassProc(sheet, message, wParam, lParam);
 }
 
-// Where a modal sheet has its buttons: in the column beside the page, above the preview.
+// Adds the buttons at the position of a modal sheet's buttons: in the column beside the page, above the preview.
 void AddButtons(const CGraphicPropertySheet& propertySheet) {
     const HWND sheet = propertySheet.m_hWnd, page = propertySheet.GetActivePage()->m_hWnd;
     CRect units(4, 4, 50, 14); // dialog units
@@ -104,7 +104,7 @@ std::optional<Focus> FocusWithin(const CGraphicPropertySheet* sheet) {
     return Focus{inPage, ::GetDlgCtrlID(control)};
 }
 
-// Returns false if there is no such control to see.
+// Returns false if the control does not exist or is not visible.
 bool SetFocusWithin(CGraphicPropertySheet& sheet, const Focus& focus) {
     const CWnd* parent = focus.inPage ? static_cast<CWnd*>(ActivePageOf(&sheet)) : &sheet;
     const HWND control = parent != nullptr ? ::GetDlgItem(parent->m_hWnd, focus.control) : nullptr;
@@ -127,8 +127,8 @@ BOOL CSheetPane::CreatePane(DWORD dwStyle, CWnd* pParent, UINT nID) {
     const auto menu = dwStyle & WS_CHILD ? reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)) : nullptr;
     if (!CreateEx(0, windowClass, LibraryText(IDS_PROPERTIES), dwStyle | WS_CLIPCHILDREN, 0, 0, 0, 0, parent, menu))
         return FALSE;
-    return m_nothing.Create("STATIC", LibraryText(IDS_NOTHING_SELECTED), WS_CHILD | SS_NOPREFIX, CRect(), this,
-                            kNothingId);
+    return m_emptyText.Create("STATIC", LibraryText(IDS_NOTHING_SELECTED), WS_CHILD | SS_NOPREFIX, CRect(), this,
+                              kNothingId);
 }
 
 LRESULT CSheetPane::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
@@ -136,8 +136,8 @@ LRESULT CSheetPane::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if ((message == WM_COMMAND || message == WM_CLOSE) && IsBusy()) return 0;
     switch (message) {
     case WM_SIZE:
-        m_nothing.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
-        m_nothing.MoveWindow(kMargin, kMargin, LOWORD(lParam) - 2 * kMargin, 2 * kMargin);
+        m_emptyText.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)));
+        m_emptyText.MoveWindow(kMargin, kMargin, LOWORD(lParam) - 2 * kMargin, 2 * kMargin);
         break;
     case WM_CLOSE:
         OnCloseButton();
@@ -166,7 +166,7 @@ void CSheetPane::RevealFocus() {
     if (HasFocus() && m_sheet != nullptr && focus != m_sheet->m_hWnd) m_scroll->Reveal(m_hWnd, focus);
 }
 
-// ---- What it shows
+// ---- The sheet
 
 void CSheetPane::OnOpen() {}
 void CSheetPane::OnClose() {}
@@ -228,7 +228,7 @@ void CSheetPane::Renew() {
     const bool any = m_sheet != nullptr && HasGraphics();
     m_scroll->SetContents(m_hWnd, any ? m_sheetSize : CSize());
     if (m_sheet != nullptr) m_sheet->ShowWindow(any ? SW_SHOWNA : SW_HIDE);
-    m_nothing.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
+    m_emptyText.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
     SendMessage(WM_SETREDRAW, TRUE);
     ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     if (within && any) {

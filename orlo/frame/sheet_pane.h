@@ -89,7 +89,7 @@ protected:
 
 private:
     CGraphicPropertySheet* m_sheet = nullptr; // owned by the derived class
-    CWnd m_nothing;                           // the text shown if nothing is selected
+    CWnd m_emptyText;                         // the text shown if nothing is selected
     std::unique_ptr<ScrollArea> m_scroll;
     CSize m_sheetSize;
     unsigned int m_lastPage = 0;

@@ -13,7 +13,7 @@
 
 WriteOutcome::WriteOutcome(CGraphicPropertyPage* page)
     : m_page(page), m_before(std::exchange(PageState::Of(*page).outcome, this)),
-      m_countsChanged(page->GetSheet() != nullptr && page->GetSheet()->WantsWritten()) {
+      m_countsChanged(page->GetSheet() != nullptr && page->GetSheet()->HasWrittenCallback()) {
     if (m_before != nullptr) m_changed.swap(m_before->m_changed);
 }
 

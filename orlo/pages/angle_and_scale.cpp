@@ -1,4 +1,4 @@
-// Exchanges angles and scales, which show a word if values differ.
+// Exchanges angles and scales, which show "Indeterminate" if values differ.
 
 #include "orlo/pages/angle_and_scale.h"
 

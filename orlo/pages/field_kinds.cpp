@@ -72,7 +72,8 @@ bool ReadDate(const char* text, double& days) {
         ::VarDateFromStr(const_cast<OLECHAR*>(wide.c_str()), LOCALE_USER_DEFAULT, VAR_DATEVALUEONLY, &days));
 }
 
-// ---- Between control and value. The convention is that of ddx.h; a field that shows multiple values saves the marker.
+// ---- Exchange between control and value. The convention is that of ddx.h; a field that shows multiple values saves
+// the marker.
 
 int TransferText(int bReport, CDataExchange* pDX, Field& field, CString& value) {
     CString shown = IsIndeterminate(value) ? CString(kIndeterminateInfo) : value;
@@ -167,20 +168,21 @@ int TransferRadio(int bReport, CDataExchange* pDX, Field& field, int& value) {
     return result;
 }
 
-// A control that has no item for the value draws what was selected last: here the value, or the marker for several.
-void DrawWithoutItem(HWND control, unsigned int value) {
+// Makes a control that has no item for the value draw the value, or nothing for the indeterminate marker: such a
+// control draws m_nSelected.
+void SetValueWithoutItem(HWND control, unsigned int value) {
     if (CComboControl* const combo = ComboControlOf(control)) combo->m_nSelected = value;
 }
 
 int TransferColor(int bReport, CDataExchange* pDX, Field& field, unsigned long& value) {
-    if (!pDX->m_bSaveAndValidate) DrawWithoutItem(pDX->PrepareCtrl(field.id), static_cast<unsigned int>(value));
+    if (!pDX->m_bSaveAndValidate) SetValueWithoutItem(pDX->PrepareCtrl(field.id), static_cast<unsigned int>(value));
     return DDX_CBTableColor(bReport, pDX, field.id, value);
 }
 
 int TransferEntry(int bReport, CDataExchange* pDX, Field& field, unsigned int& value) {
     if (!pDX->m_bSaveAndValidate) {
         const HWND control = pDX->PrepareCtrl(field.id);
-        DrawWithoutItem(control, value);
+        SetValueWithoutItem(control, value);
         ShowBlank(control); // an entry that is not in the list selects nothing
     }
     return DDX_CBTableIndex(bReport, pDX, field.id, value);
@@ -191,7 +193,7 @@ int TransferFace(int bReport, CDataExchange* pDX, Field& field, CString& value) 
         ShowBlank(pDX->PrepareCtrl(field.id));
         return 1;
     }
-    // A face that the system lacks is listed too: a blank field would mean several values.
+    // A face that the system does not have is listed too, because a blank field would mean multiple values.
     if (!pDX->m_bSaveAndValidate && !value.IsEmpty())
         ControlItems::OfCombo(pDX->PrepareCtrl(field.id)).FindOrAdd(value);
     DDX_CBString(bReport, pDX, field.id, value);
@@ -199,7 +201,7 @@ int TransferFace(int bReport, CDataExchange* pDX, Field& field, CString& value) 
     return 1;
 }
 
-// ---- Between value and graphics
+// ---- Exchange between value and graphics
 
 CString& Member(Field& field, CString*) {
     return field.text;
@@ -208,7 +210,7 @@ double& Member(Field& field, double*) {
     return field.real;
 }
 int& Member(Field& field, int*) {
-    return field.whole;
+    return field.integer;
 }
 unsigned int& Member(Field& field, unsigned int*) {
     return field.entry;
@@ -286,12 +288,12 @@ struct AsCheck {
     static void Bind(CDataExchange* pDX, int id, int& value, const char* name) { DDP_Check(pDX, id, value, name); }
 };
 
-template <class T, int (*Transfer)(int, CDataExchange*, Field&, T&), class Way = AsText<T>>
+template <class T, int (*Transfer)(int, CDataExchange*, Field&, T&), class Binding = AsText<T>>
 struct Value {
     static void Load(CGraphicPropertyPage& page, CDataExchange* pDX, Field& field) {
         T& value = Member(field, static_cast<T*>(nullptr));
-        value = Way::Marker();
-        const bool found = Way::Get(page, field.property.c_str(), value);
+        value = Binding::Marker();
+        const bool found = Binding::Get(page, field.property.c_str(), value);
         LoadedControls::Of(page).Load(pDX, static_cast<unsigned int>(field.id), field.property, value);
         // If the host cannot format the value, the field is blank.
         if (!found || !Transfer(0, pDX, field, value)) ClearField(page.m_hWnd, field);
@@ -301,10 +303,10 @@ struct Value {
     static void Save(CGraphicPropertyPage& page, CDataExchange* pDX, Field& field) {
         if (field.row->readOnly) return;
         T& value = Member(field, static_cast<T*>(nullptr));
-        Way::Bind(pDX, field.id, value, field.property.c_str());
+        Binding::Bind(pDX, field.id, value, field.property.c_str());
         if (!page.IsEdited(static_cast<unsigned int>(field.id))) return;
         Transfer(1, pDX, field, value);
-        if (value == Way::Marker()) return;
+        if (value == Binding::Marker()) return;
         CheckLimits(1, pDX, field, value);
         CheckRow(1, pDX, field, ValueOf(value));
     }
@@ -312,10 +314,10 @@ struct Value {
         (pDX->m_bSaveAndValidate ? Save : Load)(page, pDX, field);
     }
     static void Preview(CGraphicPropertyPage& page, CDataExchange* pDX, Field& field) {
-        T value = Way::Marker();
-        if (Transfer(0, pDX, field, value) && value != Way::Marker() && CheckLimits(0, pDX, field, value) &&
+        T value = Binding::Marker();
+        if (Transfer(0, pDX, field, value) && value != Binding::Marker() && CheckLimits(0, pDX, field, value) &&
             CheckRow(0, pDX, field, ValueOf(value)))
-            Way::Preview(page, field.property.c_str(), value);
+            Binding::Preview(page, field.property.c_str(), value);
     }
 };
 

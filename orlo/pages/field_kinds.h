@@ -24,7 +24,7 @@ struct Field {
     // The value, in one of these members depending on the kind. Pending writes refer to them by address.
     CString text;
     double real = 0.0;
-    int whole = 0;
+    int integer = 0;
     unsigned int entry = 0;
     unsigned long color = 0;
 

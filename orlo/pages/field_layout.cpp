@@ -30,7 +30,7 @@ constexpr int kRadioPitch = 12;
 constexpr int kBoxWidth = 14; // of a check box, with the gap to its text
 constexpr int kButtonWidth = 50, kButtonPadding = 12;
 constexpr int kDotsWidth = 14;
-constexpr int kSplitGroup = 24; // by which a column may be longer to keep a group together
+constexpr int kSplitGroup = 24; // by which a column may be higher to keep a group together
 
 constexpr char kDots[] = "...";
 
@@ -100,8 +100,8 @@ private:
         return {std::move(m_items), CSize(left - kColumnGap + kMargin, height + 2 * kMargin)};
     }
 
-    // Returns the row at which the second column begins: the one that makes the longer column shortest, or one between
-    // two groups if that costs little.
+    // Returns the row at which the second column begins: the one that minimizes the height of the higher column, except
+    // that splitting a group counts as kSplitGroup.
     size_t BestSplit() const {
         size_t best = 1;
         int least = std::numeric_limits<int>::max();

@@ -64,7 +64,7 @@ constexpr RowRule kRowRules[] = {
     {[](const FieldRow& row) { return row.kind == FieldKind::Button && !row.press; }, "the button does nothing"},
 };
 
-[[noreturn]] void RefuseRow(size_t index, const FieldRow& row, const std::string& why) {
+[[noreturn]] void ThrowRowError(size_t index, const FieldRow& row, const std::string& why) {
     throw std::invalid_argument("row " + std::to_string(index) + " (\"" + row.label + "\"): " + why);
 }
 
@@ -76,9 +76,9 @@ const FieldTable& RequireValid(unsigned int page, const FieldTable& table) {
     for (size_t i = 0; i < table.rows.size(); ++i) {
         const FieldRow& row = table.rows[i];
         for (const RowRule& rule : kRowRules)
-            if (rule.isBroken(row)) RefuseRow(i, row, rule.message);
+            if (rule.isBroken(row)) ThrowRowError(i, row, rule.message);
         if (!row.property.empty() && !properties.insert(row.property).second)
-            RefuseRow(i, row, "an earlier row has the property \"" + row.property + "\"");
+            ThrowRowError(i, row, "an earlier row has the property \"" + row.property + "\"");
     }
     return table;
 }

@@ -141,13 +141,13 @@ int CGeneralPage::FindInCombo(const char* name) const {
     return ControlItems::OfCombo(::GetDlgItem(m_hWnd, IDC_STYLE_NAME)).FindExact(name);
 }
 
-bool CGeneralPage::MayDelete(const char* name) const {
+bool CGeneralPage::CanDelete(const char* name) const {
     return FindInCombo(name) != CB_ERR && IsUserStyleName(name);
 }
 
 void CGeneralPage::EnableButtons(const char* name) {
     EnableDlgControl(m_hWnd, IDC_STYLE_NEW, *name != '\0' && FindInCombo(name) == CB_ERR);
-    EnableDlgControl(m_hWnd, IDC_STYLE_DELETE, MayDelete(name));
+    EnableDlgControl(m_hWnd, IDC_STYLE_DELETE, CanDelete(name));
 }
 
 // The system sends no notification for a selection made by a program.
@@ -179,7 +179,7 @@ void CGeneralPage::OnNew() {
 
 void CGeneralPage::OnDelete() {
     const CString name = NameInCombo();
-    if (!MayDelete(name)) return;
+    if (!CanDelete(name)) return;
     SelectInCombo(0);
     TableStruct* table = StyleTable();
     CGraphicPropertySheet* sheet = GetSheet();
@@ -200,7 +200,7 @@ void CGeneralPage::OnStyleKillFocus() {
     if (!name.IsEmpty() && FindInCombo(name) != CB_ERR)
         LeaveComboForStyle(name, focus);
     else if (name.IsEmpty() || focus != ::GetDlgItem(m_hWnd, IDC_STYLE_NEW))
-        GoBackToCurrentStyle();
+        SelectCurrentStyle();
 }
 
 void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
@@ -215,13 +215,13 @@ void CGeneralPage::LeaveComboForStyle(const CString& name, HWND focus) {
     if (!byOk) ::PostMessageA(sheet->m_hWnd, WM_COMMAND, IDOK, 0);
 }
 
-void CGeneralPage::GoBackToCurrentStyle() {
+void CGeneralPage::SelectCurrentStyle() {
     const CString current = CurrentStyleName();
     const int index = current.IsEmpty() ? CB_ERR : FindInCombo(current);
     SelectInCombo(index == CB_ERR ? 0 : index);
 }
 
-bool CGeneralPage::RefuseToLeave(const char* name) {
+bool CGeneralPage::NamesOtherStyle(const char* name) {
     const CString current = CurrentStyleName();
     return FindInCombo(name) == CB_ERR || ::_stricmp(current, name) != 0;
 }
@@ -232,7 +232,7 @@ BOOL CGeneralPage::OnKillActive() {
     if (combo == nullptr || !::IsWindowVisible(combo)) return CGraphicPropertyPage::OnKillActive();
 
     const CString name = NameInCombo();
-    if (RefuseToLeave(name)) {
+    if (NamesOtherStyle(name)) {
         ::SetFocus(combo);
         ::SetWindowTextA(combo, name);
         ::MessageBeep(MB_ICONWARNING);

@@ -19,7 +19,7 @@ public:
 
     ORLO_API void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    // Fails with a beep while the style combo box shows the name of a style other than the current one.
+    // Fails with a beep while the style combo box shows a name other than that of the current style.
     BOOL OnKillActive() override;
 
 protected:
@@ -38,12 +38,12 @@ private:
     CString CurrentStyleName() const;
     CString NameInCombo() const;
     int FindInCombo(const char* name) const;
-    bool MayDelete(const char* name) const;
+    bool CanDelete(const char* name) const;
     void EnableButtons(const char* name);
     void SelectInCombo(int index);
     void LeaveComboForStyle(const CString& name, HWND focus);
-    void GoBackToCurrentStyle();
-    bool RefuseToLeave(const char* name);
+    void SelectCurrentStyle();
+    bool NamesOtherStyle(const char* name);
 
     unsigned int m_nLayer;
     unsigned int m_nStyleTree;

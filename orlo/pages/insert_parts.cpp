@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr double kCollapsed = 1e-7; // an axis that is not longer has no direction
+constexpr double kCollapsed = 1e-7; // an axis of at most this length has no direction
 constexpr double kNoTurn = 1e-7;
 
 struct Vector {
@@ -61,7 +61,7 @@ Axes AxesOf(const Corners& corners) {
 // Computes the rotations of a frame without shear from the directions of its x and z axes. Adding 0.0 turns -0.0 into
 // 0.0.
 void FindRotations(Vector a, const Vector& c, bool withZ, double rotation[3]) {
-    if (c.x == 0.0 && c.y == 0.0 && c.z > 0.0) { // shortcut for insertions in the plane, which most are
+    if (c.x == 0.0 && c.y == 0.0 && c.z > 0.0) { // shortcut for insertions in the plane, the most common case
         rotation[0] = rotation[1] = 0.0;
         if (withZ) rotation[2] = a.y == 0.0 && a.x > 0.0 ? 0.0 : std::atan2(a.y, a.x);
         return;
@@ -93,7 +93,7 @@ bool GetParts(const Corners& corners, bool withRotationZ, InsertParts& parts) {
 }
 
 // Normalizes a vector. Returns false if it has no direction.
-bool Direct(Vector& axis) {
+bool Normalize(Vector& axis) {
     const double length = Length(axis);
     if (!(length > kCollapsed)) return false;
     axis = axis / length;
@@ -102,32 +102,32 @@ bool Direct(Vector& axis) {
 
 // Returns a unit vector perpendicular to the direction, derived from the first of the axes z, x, y that is far enough
 // from it.
-Vector RightAngleTo(const Vector& direction) {
+Vector PerpendicularTo(const Vector& direction) {
     const Vector kCandidates[] = {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}};
     for (const Vector& candidate : kCandidates) {
         const double along = Dot(candidate, direction);
         Vector rest = candidate - Vector{direction.x * along, direction.y * along, direction.z * along};
-        if (std::fabs(along) < 0.8 && Direct(rest)) return rest;
+        if (std::fabs(along) < 0.8 && Normalize(rest)) return rest;
     }
     return kCandidates[0];
 }
 
 // Replaces collapsed axes by perpendicular directions.
 Axes CompleteFrame(Axes axes) {
-    bool there[3];
+    bool hasDirection[3];
     for (size_t i = 0; i < 3; ++i)
-        there[i] = Direct(axes[i]);
-    if (!there[0] && !there[1] && !there[2]) return {Vector{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
+        hasDirection[i] = Normalize(axes[i]);
+    if (!hasDirection[0] && !hasDirection[1] && !hasDirection[2]) return {Vector{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
     for (size_t i = 0; i < 3; ++i) {
         const size_t next = (i + 1) % 3, last = (i + 2) % 3;
-        if (there[i]) continue;
-        if (there[next] && there[last]) {
+        if (hasDirection[i]) continue;
+        if (hasDirection[next] && hasDirection[last]) {
             axes[i] = Cross(axes[next], axes[last]);
-            there[i] = Direct(axes[i]);
+            hasDirection[i] = Normalize(axes[i]);
         }
-        if (there[i]) continue;
-        axes[i] = RightAngleTo(axes[there[next] ? next : last]);
-        there[i] = true;
+        if (hasDirection[i]) continue;
+        axes[i] = PerpendicularTo(axes[hasDirection[next] ? next : last]);
+        hasDirection[i] = true;
     }
     return axes;
 }

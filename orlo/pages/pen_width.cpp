@@ -20,7 +20,7 @@ void SelectText(HWND combo, const char* text) {
 }
 
 // Returns 0 in silent mode. With bReport it beeps and does not return.
-int Refuse(int bReport, CDataExchange* pDX) {
+int RejectWidth(int bReport, CDataExchange* pDX) {
     if (bReport) {
         ::MessageBeep(MB_ICONWARNING);
         pDX->Fail();
@@ -53,14 +53,14 @@ int DDX_CBPenWidth(int bReport, CDataExchange* pDX, int nIDC, double& value, uns
         if (IsIndeterminateText(text)) return 1;
         if (TextToPenWidth(drawing, scaleSystem, text, &value)) return 1;
         pDX->PrepareCtrl(nIDC); // so that the width gets the focus for the next keystroke
-        return Refuse(bReport, pDX);
+        return RejectWidth(bReport, pDX);
     }
     if (IsIndeterminate(value)) {
         SelectText(combo, kIndeterminateStars);
         return 1;
     }
     char text[256];
-    if (!PenWidthToText(drawing, scaleSystem, value, text, sizeof text)) return Refuse(bReport, pDX);
+    if (!PenWidthToText(drawing, scaleSystem, value, text, sizeof text)) return RejectWidth(bReport, pDX);
     SelectText(combo, text);
     return 1;
 }

@@ -11,7 +11,7 @@
 template <class Page>
 struct PreviewRow {
     std::array<unsigned int, 6> controls;
-    void (*carry)(Page& page, CDataExchange* pDX, int bAll);
+    void (*transfer)(Page& page, CDataExchange* pDX, int bAll);
 
     bool IsDirty(Page& page) const {
         return std::any_of(controls.begin(), controls.end(),
@@ -24,7 +24,7 @@ template <class Page, size_t N>
 void TransferToPreview(Page& page, const PreviewRow<Page> (&rows)[N], int bAll) {
     CDataExchange save(&page, TRUE);
     for (const PreviewRow<Page>& row : rows)
-        if (bAll || row.IsDirty(page)) row.carry(page, &save, bAll);
+        if (bAll || row.IsDirty(page)) row.transfer(page, &save, bAll);
 }
 
 // Transfers the color selected in the control, if any.

@@ -17,7 +17,7 @@ public:
     size_t Size() const { return bytes_.size(); }
 
     // Reserves memory for about that many further bytes.
-    void Expect(size_t size) {
+    void Reserve(size_t size) {
         if (bytes_.capacity() - bytes_.size() < size)
             bytes_.reserve(std::max(bytes_.size() + size, 2 * bytes_.capacity()));
     }

@@ -232,10 +232,10 @@ int CProperty::ReadFrom(orlo::StreamReader& reader) {
     auto* block = static_cast<BYTE*>(AllocValue(static_cast<DWORD>(total)));
     if (block == nullptr) return 0;
     if (head != 0) orlo::PutLittleEndian<uint32_t>(block, count);
-    const auto wanted = static_cast<size_t>(*elements);
-    const size_t readSize = reader.Read(block + head, wanted);
-    std::memset(block + head + readSize, 0, wanted - readSize);
-    return readSize == wanted;
+    const auto expected = static_cast<size_t>(*elements);
+    const size_t readSize = reader.Read(block + head, expected);
+    std::memset(block + head + readSize, 0, expected - readSize);
+    return readSize == expected;
 }
 
 DWORD CProperty::WriteToRC(CRCFile* pRC) {

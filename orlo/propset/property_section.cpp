@@ -49,7 +49,7 @@ CPropertySection::CPropertySection() : CPropertySection(GUID{}) {}
 
 CPropertySection::CPropertySection(GUID FormatID)
     : m_FormatID(FormatID), m_dwSize(0), m_dwPropertyCount(0), m_PropertyList(10), m_NameMap(10),
-      m_bListGivenOut(false) {}
+      m_bListExposed(false) {}
 
 CPropertySection::~CPropertySection() {
     RemoveAll();
@@ -67,9 +67,9 @@ int CPropertySection::Set(DWORD dwPropID, void* pValue, DWORD dwType) {
         existing->Set(dwPropID, pValue, dwType);
         return 1;
     }
-    auto* made = new (std::nothrow) CProperty(dwPropID, pValue, dwType);
-    if (made == nullptr) return 0;
-    AddProperty(made);
+    auto* property = new (std::nothrow) CProperty(dwPropID, pValue, dwType);
+    if (property == nullptr) return 0;
+    AddProperty(property);
     return 1;
 }
 
@@ -113,7 +113,7 @@ CProperty* CPropertySection::GetProperty(DWORD dwPropID) {
 }
 
 POSITION CPropertySection::FindProperty(DWORD dwPropID) {
-    if (m_PropertyList.GetCount() >= orlo::kIndexedFrom && !m_bListGivenOut) {
+    if (m_PropertyList.GetCount() >= orlo::kIndexedFrom && !m_bListExposed) {
         if (!m_pIndex || !m_pIndex->IsUpToDate()) m_pIndex = std::make_unique<orlo::PropertyIndex>(m_PropertyList);
         return m_pIndex->Find(dwPropID);
     }
@@ -143,7 +143,7 @@ DWORD CPropertySection::GetCount() {
 }
 
 CObList* CPropertySection::GetList() {
-    m_bListGivenOut = true; // the caller may change the list at any time
+    m_bListExposed = true; // the caller may change the list at any time
     m_pIndex.reset();
     return &m_PropertyList;
 }
@@ -194,7 +194,7 @@ int CPropertySection::AppendTo(orlo::ImageWriter& image) {
     m_dwSize = 0;
     m_dwPropertyCount = GetCount();
     const size_t head = image.Size();
-    image.Expect(kUsualPropertySize * (size_t{m_dwPropertyCount} + static_cast<size_t>(m_NameMap.GetCount())));
+    image.Reserve(kUsualPropertySize * (size_t{m_dwPropertyCount} + static_cast<size_t>(m_NameMap.GetCount())));
     image.Put32(m_dwSize);
     image.Put32(m_dwPropertyCount);
     if (m_dwPropertyCount == 0) return 1;
@@ -264,9 +264,9 @@ int CPropertySection::ReadTable(orlo::StreamReader& reader, ULONGLONG values, UL
     std::vector<ULONGLONG> dictionaries;
     DWORD left = m_dwPropertyCount;
     while (left > 0) {
-        const DWORD wanted = left < std::size(entries) ? left : static_cast<DWORD>(std::size(entries));
+        const DWORD count = left < std::size(entries) ? left : static_cast<DWORD>(std::size(entries));
         reader.SeekTo(table);
-        const auto readCount = static_cast<DWORD>(reader.Read(entries, wanted * sizeof(Entry)) / sizeof(Entry));
+        const auto readCount = static_cast<DWORD>(reader.Read(entries, count * sizeof(Entry)) / sizeof(Entry));
         if (readCount == 0 || !reader.Spend(ULONGLONG{readCount} * sizeof(Entry))) break;
         for (DWORD i = 0; i < readCount; ++i) {
             if (entries[i].id == orlo::kDictionaryId) {

@@ -100,6 +100,6 @@ private:
     CMapStringToPtr m_NameMap;
     std::unordered_map<DWORD, CString> m_NameOfID; // the first name of each
     CString m_strSectionName;
-    bool m_bListGivenOut;
+    bool m_bListExposed;
     std::unique_ptr<orlo::PropertyIndex> m_pIndex;
 };

@@ -136,17 +136,17 @@ CObList* CPropertySet::GetList() {
 }
 
 int CPropertySet::WriteToStream(IStream* pStream) {
-    LARGE_INTEGER nowhere;
-    nowhere.QuadPart = 0;
+    LARGE_INTEGER noOffset;
+    noOffset.QuadPart = 0;
     ULARGE_INTEGER start;
-    if (FAILED(pStream->Seek(nowhere, STREAM_SEEK_CUR, &start))) return 0;
+    if (FAILED(pStream->Seek(noOffset, STREAM_SEEK_CUR, &start))) return 0;
     return orlo::ImageWriter::WriteTo(pStream,
                                       [&](orlo::ImageWriter& image) { return AppendTo(image, start.QuadPart); });
 }
 
 int CPropertySet::AppendTo(orlo::ImageWriter& image, ULONGLONG start) {
     m_dwSectionCount = GetCount();
-    image.Expect(kUsualSetSize);
+    image.Reserve(kUsualSetSize);
     image.Put16(m_wByteOrder);
     image.Put16(m_wFormatVersion);
     image.Put32(m_dwOSVersion);

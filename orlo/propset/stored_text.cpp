@@ -20,13 +20,13 @@ namespace orlo {
 namespace {
 
 // Returns the number at the start, clamped to 32 bits, or 0 if there is none.
-int32_t WholeNumber(const char* token) {
+int32_t ParseInteger(const char* token) {
     return static_cast<int32_t>(std::clamp<long long>(std::strtoll(token, nullptr, 10), INT32_MIN, INT32_MAX));
 }
 
 // Returns the real number at the start, with "." as decimal point in any locale, or 0 if there is none or it is out of
 // range.
-double RealNumber(std::string_view token) {
+double ParseReal(std::string_view token) {
     while (!token.empty() && std::isspace(static_cast<unsigned char>(token.front())))
         token.remove_prefix(1);
     const bool isNegative = !token.empty() && token.front() == '-';
@@ -60,20 +60,20 @@ bool PutElement(ImageWriter& image, const char* token, DWORD type) {
         return true;
     case VT_I2:
     case VT_UI2:
-        image.Put16(static_cast<uint16_t>(WholeNumber(token)));
+        image.Put16(static_cast<uint16_t>(ParseInteger(token)));
         return true;
     case VT_I4:
     case VT_UI4:
     case VT_BOOL:
-        image.Put32(static_cast<uint32_t>(WholeNumber(token)));
+        image.Put32(static_cast<uint32_t>(ParseInteger(token)));
         return true;
     case VT_R4: {
-        const auto number = static_cast<float>(RealNumber(token));
+        const auto number = static_cast<float>(ParseReal(token));
         image.Put(&number, sizeof number);
         return true;
     }
     case VT_R8: {
-        const double number = RealNumber(token);
+        const double number = ParseReal(token);
         image.Put(&number, sizeof number);
         return true;
     }

@@ -19,7 +19,7 @@ constexpr TypeForm Text(const char* name) {
 constexpr TypeForm Counted(const char* name) {
     return {name, Form::bytes, 0, false, true};
 }
-constexpr TypeForm Foreign(const char* name, uint8_t size) {
+constexpr TypeForm ImageOnly(const char* name, uint8_t size) {
     return {name, Form::fixed, size, false, false};
 }
 
@@ -52,14 +52,14 @@ constexpr std::array<TypeForm, kLastType + 1> MakeForms() {
     forms[74] = Counted("type 0x004A");
     forms[75] = Counted("type 0x004B");
 
-    forms[VT_NULL] = Foreign("VT_NULL", 0);
-    forms[VT_I1] = Foreign("VT_I1", 1);
-    forms[VT_UI1] = Foreign("VT_UI1", 1);
-    forms[VT_INT] = Foreign("VT_INT", 4);
-    forms[VT_UINT] = Foreign("VT_UINT", 4);
-    forms[VT_ERROR] = Foreign("VT_ERROR", 4);
-    forms[VT_UI8] = Foreign("VT_UI8", 8);
-    forms[VT_DECIMAL] = Foreign("VT_DECIMAL", 16);
+    forms[VT_NULL] = ImageOnly("VT_NULL", 0);
+    forms[VT_I1] = ImageOnly("VT_I1", 1);
+    forms[VT_UI1] = ImageOnly("VT_UI1", 1);
+    forms[VT_INT] = ImageOnly("VT_INT", 4);
+    forms[VT_UINT] = ImageOnly("VT_UINT", 4);
+    forms[VT_ERROR] = ImageOnly("VT_ERROR", 4);
+    forms[VT_UI8] = ImageOnly("VT_UI8", 8);
+    forms[VT_DECIMAL] = ImageOnly("VT_DECIMAL", 16);
     return forms;
 }
 

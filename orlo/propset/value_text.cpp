@@ -15,9 +15,9 @@ constexpr int64_t kTicksPerSecond = 10'000'000;
 constexpr int64_t kSecondsPerDay = 86'400;
 
 // The part of a text that has not been parsed yet.
-class Rest {
+class TextParser {
 public:
-    explicit Rest(std::string_view text) : text_(text) {}
+    explicit TextParser(std::string_view text) : text_(text) {}
     bool IsEmpty() const { return text_.empty(); }
     bool Take(char character) {
         if (text_.empty() || text_.front() != character) return false;
@@ -62,7 +62,7 @@ bool IsDate(uint64_t year, uint64_t month, uint64_t day) {
 }
 
 // Reads "04:05" or "04:05:06" and returns the seconds.
-std::optional<uint64_t> ReadTime(Rest& rest) {
+std::optional<uint64_t> ReadTime(TextParser& rest) {
     uint64_t hour, minute, second = 0;
     if (!rest.TakeDigits(2, 10, hour) || !rest.Take(':') || !rest.TakeDigits(2, 10, minute)) return std::nullopt;
     if (rest.Take(':') && !rest.TakeDigits(2, 10, second)) return std::nullopt;
@@ -73,7 +73,7 @@ std::optional<uint64_t> ReadTime(Rest& rest) {
 // Returns the seconds since 1601 for "2001-02-03", optionally with "T04:05" or " 04:05:06", and a final Z if it is
 // allowed.
 std::optional<int64_t> ReadDate(std::string_view text, bool isUtc) {
-    Rest rest(text);
+    TextParser rest(text);
     uint64_t year, month, day;
     if (!rest.TakeDigits(4, 10, year) || !rest.Take('-') || !rest.TakeDigits(2, 10, month) || !rest.Take('-') ||
         !rest.TakeDigits(2, 10, day) || !IsDate(year, month, day))
@@ -89,7 +89,7 @@ std::optional<int64_t> ReadDate(std::string_view text, bool isUtc) {
 
 std::optional<uint64_t> ReadFileTime(std::string_view text) {
     uint64_t ticks;
-    if (Rest(text).TakeNumber(ticks)) return ticks;
+    if (TextParser(text).TakeNumber(ticks)) return ticks;
     const std::optional<int64_t> seconds = ReadDate(text, true);
     if (!seconds) return std::nullopt;
     return static_cast<uint64_t>(*seconds * kTicksPerSecond);
@@ -121,13 +121,13 @@ std::optional<int64_t> ReadMoney(std::string_view text) {
     digits += decimals;
     digits.append(4 - decimals.size(), '0');
     int64_t number;
-    if (!Rest(digits).TakeNumber(number)) return std::nullopt;
+    if (!TextParser(digits).TakeNumber(number)) return std::nullopt;
     return number;
 }
 
 std::optional<GUID> ReadGuid(std::string_view text) {
     if (text.size() == 38 && text.front() == '{' && text.back() == '}') text = text.substr(1, 36);
-    Rest rest(text);
+    TextParser rest(text);
     uint64_t first = 0, second = 0, third = 0, fourth = 0, fifth = 0;
     const bool whole = rest.TakeDigits(8, 16, first) && rest.Take('-') && rest.TakeDigits(4, 16, second) &&
                        rest.Take('-') && rest.TakeDigits(4, 16, third) && rest.Take('-') &&
@@ -149,7 +149,7 @@ bool Store(const std::optional<Number>& number, uint8_t* element) {
 
 std::optional<int64_t> ReadLong(std::string_view text) {
     int64_t number;
-    return Rest(text).TakeNumber(number) ? std::optional(number) : std::nullopt;
+    return TextParser(text).TakeNumber(number) ? std::optional(number) : std::nullopt;
 }
 
 } // namespace

@@ -15,10 +15,10 @@ struct Cursor {
 
     const uint8_t* Take(size_t size) {
         if (size > left) return nullptr;
-        const uint8_t* taken = at;
+        const uint8_t* start = at;
         at += size;
         left -= size;
-        return taken;
+        return start;
     }
 };
 

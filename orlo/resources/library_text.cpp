@@ -20,8 +20,8 @@ Translation translation;
 std::wstring LibraryPath() {
     wchar_t path[MAX_PATH];
     const DWORD length = ::GetModuleFileNameW(LibraryModule(), path, MAX_PATH);
-    const std::wstring whole(path, length < MAX_PATH ? length : 0);
-    return whole.substr(0, whole.rfind(L'.'));
+    const std::wstring file(path, length < MAX_PATH ? length : 0);
+    return file.substr(0, file.rfind(L'.'));
 }
 
 HINSTANCE LoadTranslation(const std::wstring& language) {
@@ -33,8 +33,8 @@ bool IsEnglish(const std::wstring& language) {
     return language == L"en" || language.compare(0, 3, L"en-") == 0;
 }
 
-// Tries the languages that the user prefers, in their order, each as it is and without its region. English is the
-// language of the library itself.
+// Tries the user's preferred languages in order, each with and without its region. English is the language of the
+// library itself.
 HINSTANCE FindTranslation() {
     wchar_t names[512];
     ULONG count = 0, size = static_cast<ULONG>(std::size(names));

@@ -10,7 +10,7 @@ namespace orlo::compound {
 constexpr size_t kHeaderBytes = 512; // followed by zeros up to the size of a sector
 constexpr size_t kEntryBytes = 128;
 constexpr size_t kShortSectorBytes = 64;
-constexpr uint32_t kShorterAreShort = 4096;     // size in bytes
+constexpr uint32_t kShortStreamLimit = 4096;    // size in bytes
 constexpr uint32_t kHighestSector = 0xFFFFFFFA; // greater values are markers
 constexpr uint32_t kListSector = 0xFFFFFFFC;    // marker of a sector that lists allocation tables
 constexpr uint32_t kTableSector = 0xFFFFFFFD;   // marker of a sector of the allocation table
@@ -53,7 +53,7 @@ constexpr size_t kStart = 116;
 constexpr size_t kSize = 120;
 
 // Returns the number of sectors or entries of that size.
-constexpr uint64_t Pieces(uint64_t size, uint64_t each) {
+constexpr uint64_t UnitCount(uint64_t size, uint64_t each) {
     return size / each + (size % each != 0);
 }
 

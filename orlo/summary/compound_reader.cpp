@@ -14,10 +14,10 @@ using namespace compound;
 
 namespace {
 
-constexpr size_t kDeepestStorage = 64; // no document has more
+constexpr size_t kDeepestStorage = 64; // real documents have fewer levels
 
 bool IsShort(uint64_t size) {
-    return size < kShorterAreShort;
+    return size < kShortStreamLimit;
 }
 
 // Siblings are sorted by name: by length, then by letters ignoring case. Returns true if in doubt, since the order of
@@ -92,14 +92,14 @@ private:
     std::vector<Entry> ReadDirectory();
     void ReadShortStreams(const Entry& root);
     void WalkTree(const std::vector<Entry>& entries);
-    bool MayEnter(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& seen);
-    void WalkStorage(const std::vector<Entry>& entries, const Storage& storage, std::vector<bool>& seen,
+    bool VisitEntry(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& visited);
+    void WalkStorage(const std::vector<Entry>& entries, const Storage& storage, std::vector<bool>& visited,
                      std::vector<Storage>& ahead);
-    void AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen);
+    void AddLost(const std::vector<Entry>& entries, const std::vector<bool>& visited);
     void CheckName(const Entry& entry, const Entry* before, uint32_t id);
     void AddStream(const Entry& entry, std::u16string path, bool isLost);
     void WalkStream(CompoundStream& stream);
-    uint64_t SectorsOfOthers(const CompoundStream& stream, uint64_t wanted, bool isShort);
+    uint64_t SharedSectors(const CompoundStream& stream, uint64_t required, bool isShort);
     uint64_t BytesOf(const std::vector<uint32_t>& chain) const;
     uint64_t At(uint32_t sector) const { return (uint64_t{sector} + 1) * sectorBytes_; }
     uint64_t ShortAt(uint32_t sector) const;
@@ -151,7 +151,7 @@ bool CompoundReader::Structure::ReadHeader() {
         return false;
     }
     sectorBytes_ = size_t{1} << shift;
-    sectors_ = std::min<uint64_t>(Pieces(fileSize_, sectorBytes_) - 1, kHighestSector);
+    sectors_ = std::min<uint64_t>(UnitCount(fileSize_, sectorBytes_) - 1, kHighestSector);
     sharedLeft_ = sectors_;
     CheckHeader();
     return true;
@@ -167,7 +167,7 @@ void CompoundReader::Structure::CheckHeader() {
     hasWideSizes_ = isFixed(kVersion, 4);
     if (!isFixed(kByteOrder, 0xFFFE)) Damaged("the header: its byte order");
     if (!isFixed(kShortSectorShift, 6)) Damaged("the header: the size of short sectors");
-    if (HeaderNumber(kShortLimit) != kShorterAreShort) Damaged("the header: the limit of short streams");
+    if (HeaderNumber(kShortLimit) != kShortStreamLimit) Damaged("the header: the limit of short streams");
 }
 
 // Compares a number in the header with the number found.
@@ -180,10 +180,10 @@ void CompoundReader::Structure::Count(const char* what, size_t offset, size_t fo
 // Reads a sector of the structure. Missing bytes are left unchanged.
 void CompoundReader::Structure::ReadSector(uint32_t sector, uint8_t* bytes, const char* what) {
     const uint64_t at = At(sector);
-    const uint64_t there = sector < sectors_ ? std::min<uint64_t>(sectorBytes_, fileSize_ - at) : 0;
-    if (there == sectorBytes_ && read_(at, bytes, sectorBytes_)) return;
+    const uint64_t available = sector < sectors_ ? std::min<uint64_t>(sectorBytes_, fileSize_ - at) : 0;
+    if (available == sectorBytes_ && read_(at, bytes, sectorBytes_)) return;
     Damaged(std::string(what) + ": sector " + std::to_string(sector) + " cannot be read");
-    if (there != 0) read_(at, bytes, static_cast<size_t>(there));
+    if (available != 0) read_(at, bytes, static_cast<size_t>(available));
 }
 
 // Reads sectors and concatenates them, reading neighboring ones at once. Missing sectors are filled with the value for
@@ -251,7 +251,7 @@ SectorTable::Chain CompoundReader::Structure::WalkWhole(uint32_t start, const ch
     SectorTable::Chain chain = table_.Walk(start);
     if (chain.fault != ChainFault::none)
         Damaged(std::string(what) + ": its chain of sectors " + InWords(chain.fault),
-                chain.fault == ChainFault::isCut ? CompoundState::damaged : CompoundState::unsafe);
+                chain.fault == ChainFault::pastEnd ? CompoundState::damaged : CompoundState::unsafe);
     return chain;
 }
 
@@ -275,62 +275,62 @@ void CompoundReader::Structure::ReadShortStreams(const Entry& root) {
                                           : WalkWhole(HeaderNumber(kShortTableStart), kTable);
     Count(kTable, kShortTableSectors, tables.length);
     const SectorTable::Chain streams = root.size == 0 ? SectorTable::Chain() : WalkWhole(root.start, kStreams);
-    const uint64_t there = std::min(root.size, BytesOf(streams.sectors));
-    if (streams.length < Pieces(root.size, sectorBytes_))
+    const uint64_t available = std::min(root.size, BytesOf(streams.sectors));
+    if (streams.length < UnitCount(root.size, sectorBytes_))
         Damaged(std::string(kStreams) + ": their chain of sectors is too short");
-    else if (there < root.size)
+    else if (available < root.size)
         Damaged(std::string(kStreams) + ": they continue past the end of the file", CompoundState::damaged);
     std::vector<uint32_t> next = Numbers(tables.sectors, kTable);
-    next.resize(static_cast<size_t>(std::min<uint64_t>(next.size(), Pieces(root.size, kShortSectorBytes))));
-    shortTable_ = SectorTable(std::move(next), there / kShortSectorBytes);
+    next.resize(static_cast<size_t>(std::min<uint64_t>(next.size(), UnitCount(root.size, kShortSectorBytes))));
+    shortTable_ = SectorTable(std::move(next), available / kShortSectorBytes);
     shortStreams_ = streams.sectors;
 }
 
 void CompoundReader::Structure::WalkTree(const std::vector<Entry>& entries) {
-    std::vector<bool> seen(entries.size());
-    seen[0] = true;
+    std::vector<bool> visited(entries.size());
+    visited[0] = true;
     elements_.push_back({{}, entries[0].record, 0, std::nullopt});
     std::vector<Storage> ahead = {{entries[0].child, {}, 0, 0}};
     for (size_t i = 0; i < ahead.size(); ++i)
-        WalkStorage(entries, Storage(ahead[i]), seen, ahead);
-    AddLost(entries, seen);
+        WalkStorage(entries, Storage(ahead[i]), visited, ahead);
+    AddLost(entries, visited);
 }
 
 // Adds entries that are not reachable: the tree has a damaged link, but their streams may be intact.
-void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const std::vector<bool>& seen) {
+void CompoundReader::Structure::AddLost(const std::vector<Entry>& entries, const std::vector<bool>& visited) {
     size_t lost = 0;
     for (size_t id = 0; id < entries.size(); ++id) {
-        if (seen[id] || entries[id].kind == kFree) continue;
+        if (visited[id] || entries[id].kind == kFree) continue;
         ++lost;
         if (entries[id].kind == kStream && entries[id].isNamed) AddStream(entries[id], entries[id].name, true);
     }
     if (lost != 0) Damaged("the directory: " + std::to_string(lost) + " unreachable entries", CompoundState::damaged);
 }
 
-bool CompoundReader::Structure::MayEnter(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& seen) {
+bool CompoundReader::Structure::VisitEntry(const std::vector<Entry>& entries, uint32_t id, std::vector<bool>& visited) {
     if (id == kNone) return false;
     const char* fault = nullptr;
     if (id >= entries.size())
         fault = " does not exist";
-    else if (seen[id])
+    else if (visited[id])
         fault = " is linked twice";
     else if (!entries[id].isNamed || (entries[id].kind != kStorage && entries[id].kind != kStream))
         fault = " is neither stream nor storage";
     if (fault)
         Damaged("the directory: entry " + std::to_string(id) + fault);
     else
-        seen[id] = true;
+        visited[id] = true;
     return !fault;
 }
 
 // The entries of a storage form a tree sorted by name.
 void CompoundReader::Structure::WalkStorage(const std::vector<Entry>& entries, const Storage& storage,
-                                            std::vector<bool>& seen, std::vector<Storage>& ahead) {
+                                            std::vector<bool>& visited, std::vector<Storage>& ahead) {
     std::vector<uint32_t> above;
     const Entry* before = nullptr;
     uint32_t id = storage.firstEntry;
     while (true) {
-        for (; MayEnter(entries, id, seen); id = entries[id].left)
+        for (; VisitEntry(entries, id, visited); id = entries[id].left)
             above.push_back(id);
         if (above.empty()) return;
         const Entry& entry = entries[above.back()];
@@ -361,8 +361,8 @@ void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string pat
     if (entry.size != 0)
         WalkStream(stream);
     else if (entry.start < kHighestSector)
-        stream.fault = ChainFault::isOfNothing;
-    const bool isCircular = stream.fault == ChainFault::isCircle && !isLost;
+        stream.fault = ChainFault::unexpected;
+    const bool isCircular = stream.fault == ChainFault::circular && !isLost;
     if (stream.fault != ChainFault::none)
         state_ = std::max(state_, isCircular ? CompoundState::unsafe : CompoundState::damaged);
     streams_.push_back(std::move(stream));
@@ -371,20 +371,20 @@ void CompoundReader::Structure::AddStream(const Entry& entry, std::u16string pat
 void CompoundReader::Structure::WalkStream(CompoundStream& stream) {
     const bool isShort = IsShort(stream.size);
     const SectorTable::Chain chain = (isShort ? shortTable_ : table_).Walk(stream.start);
-    const uint64_t wanted = Pieces(stream.size, isShort ? kShortSectorBytes : sectorBytes_);
+    const uint64_t required = UnitCount(stream.size, isShort ? kShortSectorBytes : sectorBytes_);
     stream.sectors = chain.sectors.size();
     stream.fault = chain.fault;
-    if (stream.fault == ChainFault::isShared) stream.sectors += SectorsOfOthers(stream, wanted, isShort);
+    if (stream.fault == ChainFault::shared) stream.sectors += SharedSectors(stream, required, isShort);
     if (stream.fault == ChainFault::none &&
-        (stream.sectors < wanted || (!isShort && BytesOf(chain.sectors) < stream.size)))
-        stream.fault = ChainFault::isShort;
+        (stream.sectors < required || (!isShort && BytesOf(chain.sectors) < stream.size)))
+        stream.fault = ChainFault::tooShort;
 }
 
-// Returns the number of readable sectors after the point where the chain runs into another stream's. The total for all
-// streams is limited to the number of sectors in the file, since these sectors are read again for each stream.
-uint64_t CompoundReader::Structure::SectorsOfOthers(const CompoundStream& stream, uint64_t wanted, bool isShort) {
-    if (stream.sectors >= wanted) return 0;
-    const uint64_t most = std::min(wanted, stream.sectors + sharedLeft_);
+// Returns the number of readable sectors after the point at which the chain joins that of another stream. The total for
+// all streams is limited to the number of sectors in the file, since these sectors are read again for each stream.
+uint64_t CompoundReader::Structure::SharedSectors(const CompoundStream& stream, uint64_t required, bool isShort) {
+    if (stream.sectors >= required) return 0;
+    const uint64_t most = std::min(required, stream.sectors + sharedLeft_);
     const uint64_t shared = (isShort ? shortTable_ : table_).Follow(stream.start, most).size() - stream.sectors;
     sharedLeft_ -= shared;
     return shared;
@@ -404,7 +404,7 @@ uint64_t CompoundReader::Structure::ShortAt(uint32_t sector) const {
 
 std::vector<uint32_t> CompoundReader::Structure::SectorsOf(const CompoundStream& stream) const {
     const bool isShort = IsShort(stream.size);
-    const uint64_t most = std::min(stream.sectors, Pieces(stream.size, isShort ? kShortSectorBytes : sectorBytes_));
+    const uint64_t most = std::min(stream.sectors, UnitCount(stream.size, isShort ? kShortSectorBytes : sectorBytes_));
     return (isShort ? shortTable_ : table_).Follow(stream.start, most);
 }
 
@@ -423,11 +423,11 @@ bool CompoundReader::Structure::ReadPiece(const CompoundStream& stream, const st
         while (next < end && at(next) == at(next - 1) + each);
         const size_t before = piece.size();
         const uint64_t start = at(first);
-        const uint64_t wanted = std::min<uint64_t>((next - first) * each, stream.size - first * uint64_t{each});
-        const auto there = static_cast<size_t>(start < fileSize_ ? std::min(wanted, fileSize_ - start) : 0);
-        piece.resize(before + there);
-        if (there == 0 || !read_(start, piece.data() + before, there)) piece.resize(before);
-        if (piece.size() - before != wanted) return false;
+        const uint64_t required = std::min<uint64_t>((next - first) * each, stream.size - first * uint64_t{each});
+        const auto available = static_cast<size_t>(start < fileSize_ ? std::min(required, fileSize_ - start) : 0);
+        piece.resize(before + available);
+        if (available == 0 || !read_(start, piece.data() + before, available)) piece.resize(before);
+        if (piece.size() - before != required) return false;
     }
     return true;
 }

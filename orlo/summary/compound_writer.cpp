@@ -24,13 +24,13 @@ using Append = std::function<void(std::string_view bytes)>;
 struct Element {
     EntryBytes record = {};
     size_t storage = 0;
-    const CompoundStream* kept = nullptr;
+    const CompoundStream* source = nullptr;
     const std::vector<uint8_t>* written = nullptr;
     uint64_t size = 0;
 
     bool IsStream() const { return record[kEntryKind] == kStream; }
-    bool IsShort() const { return IsStream() && size != 0 && size < kShorterAreShort; }
-    bool IsLong() const { return IsStream() && size >= kShorterAreShort; }
+    bool IsShort() const { return IsStream() && size != 0 && size < kShortStreamLimit; }
+    bool IsLong() const { return IsStream() && size >= kShortStreamLimit; }
     std::u16string Name() const {
         std::u16string name(LittleEndian<uint16_t>(&record[kNameSize]) / sizeof(char16_t) - 1, u'\0');
         std::memcpy(name.data(), record.data(), name.size() * sizeof(char16_t));
@@ -71,8 +71,8 @@ private:
             added.record = element.record;
             added.storage = element.storage;
             if (!element.stream) continue;
-            added.kept = &original.Streams()[*element.stream];
-            added.size = added.kept->size;
+            added.source = &original.Streams()[*element.stream];
+            added.size = added.source->size;
         }
     }
 
@@ -96,7 +96,7 @@ private:
 
     static void Replace(Element& element, const std::vector<uint8_t>& bytes) {
         if (!element.IsStream()) throw std::runtime_error("the stream cannot be written: a storage has its name");
-        element.kept = nullptr;
+        element.source = nullptr;
         element.written = &bytes;
         element.size = bytes.size();
     }
@@ -243,7 +243,7 @@ private:
         PutLittleEndian(&header[kByteOrder], uint16_t{0xFFFE});
         PutLittleEndian(&header[kSectorShift], uint16_t{9});
         PutLittleEndian(&header[kShortSectorShift], uint16_t{6});
-        PutLittleEndian(&header[kShortLimit], kShorterAreShort);
+        PutLittleEndian(&header[kShortLimit], kShortStreamLimit);
         return header;
     }
     bool HasWideSizes() const { return LittleEndian<uint16_t>(&header_[kVersion]) == 4; }
@@ -258,7 +258,8 @@ private:
 
     void PlaceStreams() {
         for (Element& element : directory_.Elements())
-            if (element.IsLong()) PutPlace(element, allocation_.Take(Pieces(element.size, sectorBytes_)), element.size);
+            if (element.IsLong())
+                PutPlace(element, allocation_.Take(UnitCount(element.size, sectorBytes_)), element.size);
     }
 
     void PlaceShortStreams() {
@@ -266,29 +267,29 @@ private:
         for (Element& element : directory_.Elements()) {
             if (!element.IsStream() || element.IsLong()) continue;
             PutPlace(element, element.IsShort() ? next : kEndOfChain, element.size);
-            next += static_cast<uint32_t>(Pieces(element.size, kShortSectorBytes));
+            next += static_cast<uint32_t>(UnitCount(element.size, kShortSectorBytes));
         }
         const uint64_t size = uint64_t{next} * kShortSectorBytes;
-        PutPlace(directory_.Elements()[0], allocation_.Take(Pieces(size, sectorBytes_)), size);
-        const uint64_t tables = Pieces(next, NumbersInSector());
+        PutPlace(directory_.Elements()[0], allocation_.Take(UnitCount(size, sectorBytes_)), size);
+        const uint64_t tables = UnitCount(next, NumbersInSector());
         PutHeader(kShortTableSectors, tables);
         PutHeader(kShortTableStart, allocation_.Take(tables));
     }
 
     void PlaceDirectory() {
-        const uint64_t sectors = Pieces(directory_.Elements().size() * kEntryBytes, sectorBytes_);
+        const uint64_t sectors = UnitCount(directory_.Elements().size() * kEntryBytes, sectorBytes_);
         PutHeader(kDirectorySectors, HasWideSizes() ? sectors : 0);
         PutHeader(kDirectoryStart, allocation_.Take(sectors));
     }
 
     // The table includes its own sectors, those of the lists, and the locked sector.
     void PlaceTable() {
-        const uint64_t others = allocation_.Count();
+        const uint64_t otherSectors = allocation_.Count();
         uint64_t before = 0;
         do {
             before = tables_;
-            tables_ = Pieces(others + before + lists_ + 1, NumbersInSector());
-            lists_ = tables_ > kTablesInHeader ? Pieces(tables_ - kTablesInHeader, NumbersInSector() - 1) : 0;
+            tables_ = UnitCount(otherSectors + before + lists_ + 1, NumbersInSector());
+            lists_ = tables_ > kTablesInHeader ? UnitCount(tables_ - kTablesInHeader, NumbersInSector() - 1) : 0;
         } while (tables_ != before);
         tableStart_ = allocation_.Take(tables_, kTableSector);
         listStart_ = allocation_.Take(lists_, kListSector);
@@ -312,7 +313,7 @@ private:
         if (element.written != nullptr)
             output_.Write(element.written->data(), element.written->size());
         else
-            CopyStream(*element.kept);
+            CopyStream(*element.source);
         output_.Pad(unit);
     }
 
@@ -331,7 +332,7 @@ private:
         uint32_t sector = 0;
         for (const Element& element : directory_.Elements()) {
             if (!element.IsShort()) continue;
-            const auto end = static_cast<uint32_t>(sector + Pieces(element.size, kShortSectorBytes));
+            const auto end = static_cast<uint32_t>(sector + UnitCount(element.size, kShortSectorBytes));
             while (++sector < end)
                 output_.WriteNumber(sector);
             output_.WriteNumber(kEndOfChain);

@@ -13,7 +13,7 @@
 namespace orlo {
 namespace {
 
-constexpr char kUnlikeIntended[] = "the file was left unchanged: verification of the new copy failed";
+constexpr char kVerificationFailed[] = "the file was left unchanged: verification of the new copy failed";
 constexpr char kChangedMeanwhile[] = "another program has changed the file in the meantime";
 
 std::u16string StreamNameFrom(const std::string& utf8) {
@@ -124,15 +124,15 @@ Bytes EditedDocument::Contents() const {
 }
 
 // Returns the elements of a file that were not replaced.
-std::vector<const CompoundElement*> EditedDocument::KeptIn(const CompoundReader& file) const {
-    std::vector<const CompoundElement*> kept;
+std::vector<const CompoundElement*> EditedDocument::UnchangedElements(const CompoundReader& file) const {
+    std::vector<const CompoundElement*> unchanged;
     for (const CompoundElement& element : file.Elements()) {
         const bool isWritten = std::any_of(written_.begin(), written_.end(), [&](const auto& written) {
             return CompareNames(written.first, element.path) == 0;
         });
-        if (!isWritten) kept.push_back(&element);
+        if (!isWritten) unchanged.push_back(&element);
     }
-    return kept;
+    return unchanged;
 }
 
 bool EditedDocument::HasWritten(const CompoundReader& copy) const {
@@ -147,20 +147,20 @@ bool EditedDocument::HasWritten(const CompoundReader& copy) const {
 
 // Verifies that the copy is intact, contains everything that was written, and is otherwise equal to the file.
 void EditedDocument::Check(const CompoundReader& copy) const {
-    const std::vector<const CompoundElement*> copied = KeptIn(copy);
-    bool isGood = copy.State() == CompoundState::intact && HasWritten(copy) &&
-                  copied.size() + written_.size() == copy.Elements().size();
+    const std::vector<const CompoundElement*> copied = UnchangedElements(copy);
+    bool isValid = copy.State() == CompoundState::intact && HasWritten(copy) &&
+                   copied.size() + written_.size() == copy.Elements().size();
     if (original_) {
         const CompoundReader now = path_.empty() ? original_->reader : OpenCompoundFile(path_);
         for (const auto& [name, bytes] : read_)
             if (ReadStream(now, name) != bytes) throw files::FileError(kChangedMeanwhile);
-        const std::vector<const CompoundElement*> kept = KeptIn(now);
+        const std::vector<const CompoundElement*> unchanged = UnchangedElements(now);
         const auto isSame = [&](const CompoundElement* a, const CompoundElement* b) {
             return IsSameEntry(*a, *b) && IsSameStream(now, *a, copy, *b);
         };
-        isGood = isGood && std::equal(kept.begin(), kept.end(), copied.begin(), copied.end(), isSame);
+        isValid = isValid && std::equal(unchanged.begin(), unchanged.end(), copied.begin(), copied.end(), isSame);
     }
-    if (!isGood) throw files::FileError(kUnlikeIntended);
+    if (!isValid) throw files::FileError(kVerificationFailed);
 }
 
 } // namespace orlo

@@ -52,7 +52,7 @@ private:
     class Original;
 
     void RequireIntact() const;
-    std::vector<const CompoundElement*> KeptIn(const CompoundReader& file) const;
+    std::vector<const CompoundElement*> UnchangedElements(const CompoundReader& file) const;
     bool HasWritten(const CompoundReader& copy) const;
     void Check(const CompoundReader& copy) const;
 

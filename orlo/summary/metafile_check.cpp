@@ -94,7 +94,7 @@ public:
     uint16_t Word(size_t index) const { return LittleEndian<uint16_t>(data_ + 2 * index); }
     const uint8_t* At(size_t index) const { return data_ + 2 * index; }
     // Returns the number of words after the first `used` ones.
-    size_t Behind(size_t used) const { return used < words_ ? words_ - used : 0; }
+    size_t After(size_t used) const { return used < words_ ? words_ - used : 0; }
 
 private:
     const uint8_t* data_;
@@ -164,20 +164,20 @@ const Row* Find(const Row (&rows)[n], uint16_t function) {
 }
 
 bool PointsFit(const Parameters& p) {
-    return p.Count() >= 1 && p.Word(0) <= p.Behind(1) / 2;
+    return p.Count() >= 1 && p.Word(0) <= p.After(1) / 2;
 }
 
 bool PolyPolygonFits(const Parameters& p) {
-    if (p.Count() < 1 || p.Word(0) > p.Behind(1)) return false;
+    if (p.Count() < 1 || p.Word(0) > p.After(1)) return false;
     const size_t polygons = p.Word(0);
     size_t points = 0;
     for (size_t i = 0; i < polygons; ++i)
         points += p.Word(1 + i);
-    return points <= p.Behind(1 + polygons) / 2;
+    return points <= p.After(1 + polygons) / 2;
 }
 
 bool TextFits(const Parameters& p) {
-    return p.Count() >= 1 && (p.Word(0) + 1u) / 2 + 2 <= p.Behind(1);
+    return p.Count() >= 1 && (p.Word(0) + 1u) / 2 + 2 <= p.After(1);
 }
 
 bool PositionedTextFits(const Parameters& p) {
@@ -189,11 +189,11 @@ bool PositionedTextFits(const Parameters& p) {
     const uint16_t options = p.Word(3);
     if (options & ~(kOpaque | kClipped | kHarmless)) return false;
     const size_t rectangle = options != 0 ? 4 : 0;
-    return rectangle + (p.Word(2) + 1u) / 2 <= p.Behind(4);
+    return rectangle + (p.Word(2) + 1u) / 2 <= p.After(4);
 }
 
 bool PaletteFits(const Parameters& p) {
-    return p.Count() >= 2 && p.Word(1) <= p.Behind(2) / 2;
+    return p.Count() >= 2 && p.Word(1) <= p.After(2) / 2;
 }
 
 // Checks the scan lines of a region: count, top, bottom, pairs of left and right, and the count again.
@@ -202,9 +202,9 @@ bool RegionFits(const Parameters& p) {
     if (p.Count() < kHead) return false;
     size_t at = kHead;
     for (size_t band = 0; band < p.Word(5); ++band) {
-        if (p.Behind(at) < 4) return false;
+        if (p.After(at) < 4) return false;
         const size_t count = p.Word(at);
-        if (count % 2 != 0 || p.Behind(at + 3) < count + 1) return false;
+        if (count % 2 != 0 || p.After(at + 3) < count + 1) return false;
         at += count + 4;
     }
     return true;
@@ -217,7 +217,7 @@ bool BrushFits(const Parameters& p) {
 
 std::optional<DibLayout> BitmapIn(const Parameters& p, size_t at, DibColors colors, uint32_t maxLines = UINT32_MAX) {
     if (p.Count() <= at) return std::nullopt;
-    return ReadDibLayout(p.At(at), 2 * p.Behind(at), colors, maxLines);
+    return ReadDibLayout(p.At(at), 2 * p.After(at), colors, maxLines);
 }
 
 std::optional<DibColors> ColorsOf(uint16_t usage) {

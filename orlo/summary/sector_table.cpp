@@ -6,31 +6,31 @@ namespace orlo {
 
 const char* InWords(ChainFault fault) {
     switch (fault) {
-    case ChainFault::isCut:
+    case ChainFault::pastEnd:
         return "continues past the end of the file";
-    case ChainFault::isShort:
+    case ChainFault::tooShort:
         return "is too short";
-    case ChainFault::leadsNowhere:
+    case ChainFault::invalidSector:
         return "refers to a sector that does not exist";
-    case ChainFault::isShared:
+    case ChainFault::shared:
         return "runs into another chain";
-    case ChainFault::isCircle:
+    case ChainFault::circular:
         return "is circular";
-    case ChainFault::isOfNothing:
+    case ChainFault::unexpected:
         return "exists although the stream is empty";
     default:
-        return "is whole";
+        return "is intact";
     }
 }
 
 bool SectorTable::Reserve(const std::vector<uint32_t>& sectors) {
     ++chains_;
-    bool allTaken = true;
+    bool allUsed = true;
     for (const uint32_t sector : sectors) {
         if (sector < next_.size()) chainOf_[sector] = chains_;
-        allTaken = allTaken && sector < next_.size() && next_[sector] != kFreeSector;
+        allUsed = allUsed && sector < next_.size() && next_[sector] != kFreeSector;
     }
-    return allTaken;
+    return allUsed;
 }
 
 SectorTable::Chain SectorTable::Walk(uint32_t start) {
@@ -38,24 +38,24 @@ SectorTable::Chain SectorTable::Walk(uint32_t start) {
     Chain chain;
     for (uint32_t at = start; at != kEndOfChain; at = next_[at]) {
         if (at >= next_.size()) {
-            chain.fault = ChainFault::leadsNowhere;
+            chain.fault = ChainFault::invalidSector;
             break;
         }
         if (chainOf_[at] != 0) {
-            chain.fault = chainOf_[at] == chains_ ? ChainFault::isCircle : ChainFault::isShared;
+            chain.fault = chainOf_[at] == chains_ ? ChainFault::circular : ChainFault::shared;
             break;
         }
         chainOf_[at] = chains_;
-        if (at < there_ && chain.sectors.size() == chain.length) chain.sectors.push_back(at);
+        if (at < sectorCount_ && chain.sectors.size() == chain.length) chain.sectors.push_back(at);
         ++chain.length;
     }
-    if (chain.fault == ChainFault::none && chain.sectors.size() != chain.length) chain.fault = ChainFault::isCut;
+    if (chain.fault == ChainFault::none && chain.sectors.size() != chain.length) chain.fault = ChainFault::pastEnd;
     return chain;
 }
 
 std::vector<uint32_t> SectorTable::Follow(uint32_t start, uint64_t most) const {
     std::vector<uint32_t> sectors;
-    for (uint32_t at = start; at < next_.size() && at < there_ && sectors.size() < most; at = next_[at])
+    for (uint32_t at = start; at < next_.size() && at < sectorCount_ && sectors.size() < most; at = next_[at])
         sectors.push_back(at);
     return sectors;
 }

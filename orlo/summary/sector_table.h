@@ -13,7 +13,7 @@ namespace orlo {
 constexpr uint32_t kEndOfChain = 0xFFFFFFFE;
 constexpr uint32_t kFreeSector = 0xFFFFFFFF;
 
-enum class ChainFault { none, isCut, isShort, leadsNowhere, isShared, isCircle, isOfNothing };
+enum class ChainFault { none, pastEnd, tooShort, invalidSector, shared, circular, unexpected };
 // Returns text to follow "its chain of sectors".
 ORLO_API const char* InWords(ChainFault fault);
 
@@ -27,8 +27,8 @@ public:
 
     // `there` is the number of sectors in the file; higher numbers are past its end.
     SectorTable() = default;
-    SectorTable(std::vector<uint32_t> next, uint64_t there)
-        : next_(std::move(next)), chainOf_(next_.size()), there_(there) {}
+    SectorTable(std::vector<uint32_t> next, uint64_t sectorCount)
+        : next_(std::move(next)), chainOf_(next_.size()), sectorCount_(sectorCount) {}
 
     // Marks sectors that are outside of all chains. Returns false if the table lists one as free, since the system
     // would overwrite it.
@@ -43,7 +43,7 @@ private:
     std::vector<uint32_t> next_;
     std::vector<uint32_t> chainOf_; // number of the chain that a sector is assigned to, or 0
     uint32_t chains_ = 0;
-    uint64_t there_ = 0;
+    uint64_t sectorCount_ = 0;
 };
 
 } // namespace orlo

@@ -22,7 +22,7 @@ namespace {
 constexpr DWORD kRead = STGM_READ | STGM_SHARE_EXCLUSIVE;
 constexpr DWORD kChange = STGM_READWRITE | STGM_SHARE_EXCLUSIVE;
 constexpr DWORD kReplace = STGM_CREATE | STGM_WRITE | STGM_SHARE_EXCLUSIVE;
-constexpr size_t kShortestLong = 4096; // in bytes; shorter streams share sectors
+constexpr size_t kMinLongStream = 4096; // in bytes; shorter streams share sectors
 using Bytes = std::vector<BYTE>;
 
 bool SeekTo(IStream* stream, size_t offset) {
@@ -74,9 +74,9 @@ bool WriteOver(IStream* stream, const Bytes& before, const Bytes& after) {
 }
 
 // Restores the old contents. Some systems cannot make a long stream short again; it then stays long, padded with zeros.
-void PutBack(IStream* stream, Bytes bytes) {
+void RestoreContents(IStream* stream, Bytes bytes) {
     if (!SetLength(stream, bytes.size())) {
-        bytes.resize(std::max(bytes.size(), kShortestLong));
+        bytes.resize(std::max(bytes.size(), kMinLongStream));
         SetLength(stream, bytes.size());
     }
     WritePart(stream, bytes, 0, bytes.size());
@@ -84,15 +84,16 @@ void PutBack(IStream* stream, Bytes bytes) {
 
 bool Replace(IStream* stream, const Bytes& before, Bytes after) {
     // A long stream stays long, padded with zeros: moving it to the short ones would require new space.
-    if (before.size() >= kShortestLong && after.size() < kShortestLong) after.resize(kShortestLong);
+    if (before.size() >= kMinLongStream && after.size() < kMinLongStream) after.resize(kMinLongStream);
     if (WriteOver(stream, before, after)) return true;
-    PutBack(stream, before);
+    RestoreContents(stream, before);
     return false;
 }
 
-// Tests for the space of a short stream with a long one, which the system can remove again even if the disk is full.
-bool HasRoomForShort(IStream* stream) {
-    const Bytes reserve(2 * kShortestLong);
+// Tests whether there is space for a short stream by writing a long one, which the system can remove again even if the
+// disk is full.
+bool HasSpaceForShortStream(IStream* stream) {
+    const Bytes reserve(2 * kMinLongStream);
     const bool written = SetLength(stream, reserve.size()) && WritePart(stream, reserve, 0, reserve.size());
     return SetLength(stream, 0) && written;
 }
@@ -108,7 +109,7 @@ HRESULT WriteNew(IStorage* storage, const wchar_t* name, const Bytes& image) {
     Owned<IStream> stream;
     const HRESULT created = storage->CreateStream(name, kReplace, 0, 0, Receive(stream));
     if (FAILED(created)) return created;
-    if ((image.size() >= kShortestLong || HasRoomForShort(stream.get())) &&
+    if ((image.size() >= kMinLongStream || HasSpaceForShortStream(stream.get())) &&
         WritePart(stream.get(), image, 0, image.size()))
         return created;
     stream.reset();

@@ -93,8 +93,8 @@ public:
     STDMETHODIMP Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* exception, UINT* argument) override {
         ITypeInfo* found = nullptr;
-        const HRESULT told = system_->GetTypeInfo(0, locale, &found);
-        if (FAILED(told)) return told;
+        const HRESULT status = system_->GetTypeInfo(0, locale, &found);
+        if (FAILED(status)) return status;
         const orlo::Owned<ITypeInfo> info(found);
         return iid == IID_NULL ? ::DispInvoke(this, found, id, flags, parameters, result, exception, argument)
                                : DISP_E_UNKNOWNINTERFACE;
@@ -117,7 +117,7 @@ public:
     }
     STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
         *name = nullptr;
-        if (IsSelf(child)) return Give(kind_.Name(window_), name);
+        if (IsSelf(child)) return ReturnText(kind_.Name(window_), name);
         if (IsItem(child)) return ToBstr(kind_.ItemName(window_, IndexOf(child)), name);
         return HasItems() ? E_INVALIDARG : system_->get_accName(child, name);
     }
@@ -159,14 +159,14 @@ public:
     }
     STDMETHODIMP get_accFocus(VARIANT* child) override {
         if (!HasItems() || ::GetFocus() != window_) return system_->get_accFocus(child);
-        return GiveItem(kind_.SelectedItem(window_), child);
+        return ReturnItem(kind_.SelectedItem(window_), child);
     }
     STDMETHODIMP get_accSelection(VARIANT* children) override {
-        return HasItems() ? GiveItem(kind_.SelectedItem(window_), children) : system_->get_accSelection(children);
+        return HasItems() ? ReturnItem(kind_.SelectedItem(window_), children) : system_->get_accSelection(children);
     }
     STDMETHODIMP get_accDefaultAction(VARIANT child, BSTR* action) override {
         *action = nullptr;
-        return IsItem(child) ? Give(kind_.ItemAction(window_, IndexOf(child)), action)
+        return IsItem(child) ? ReturnText(kind_.ItemAction(window_, IndexOf(child)), action)
                              : system_->get_accDefaultAction(child, action);
     }
     STDMETHODIMP accSelect(long flags, VARIANT child) override {
@@ -188,13 +188,13 @@ public:
     STDMETHODIMP accNavigate(long direction, VARIANT start, VARIANT* end) override {
         if (!HasItems()) return system_->accNavigate(direction, start, end);
         const int count = *kind_.ItemCount(window_);
-        if (IsSelf(start) && direction == NAVDIR_FIRSTCHILD) return GiveItem(count > 0 ? 0 : -1, end);
-        if (IsSelf(start) && direction == NAVDIR_LASTCHILD) return GiveItem(count - 1, end);
+        if (IsSelf(start) && direction == NAVDIR_FIRSTCHILD) return ReturnItem(count > 0 ? 0 : -1, end);
+        if (IsSelf(start) && direction == NAVDIR_LASTCHILD) return ReturnItem(count - 1, end);
         if (!IsItem(start)) return system_->accNavigate(direction, start, end);
         const bool next = direction == NAVDIR_NEXT || direction == NAVDIR_DOWN;
         const bool previous = direction == NAVDIR_PREVIOUS || direction == NAVDIR_UP;
         const int index = IndexOf(start) + (next ? 1 : previous ? -1 : count);
-        return GiveItem(index < count ? index : -1, end);
+        return ReturnItem(index < count ? index : -1, end);
     }
     STDMETHODIMP accHitTest(long left, long top, VARIANT* child) override {
         const int count = kind_.ItemCount(window_).value_or(0);
@@ -204,7 +204,7 @@ public:
         ::GetClientRect(window_, &client);
         for (int i = 0; ::PtInRect(&client, point) && i < count; ++i) {
             const RECT item = kind_.ItemRect(window_, i);
-            if (::PtInRect(&item, point)) return GiveItem(i, child);
+            if (::PtInRect(&item, point)) return ReturnItem(i, child);
         }
         return system_->accHitTest(left, top, child);
     }
@@ -225,8 +225,10 @@ private:
     bool IsItem(const VARIANT& child) const {
         return child.vt == VT_I4 && child.lVal > 0 && child.lVal <= kind_.ItemCount(window_).value_or(0);
     }
-    static HRESULT Give(const std::string& text, BSTR* result) { return text.empty() ? S_FALSE : ToBstr(text, result); }
-    static HRESULT GiveItem(int index, VARIANT* child) {
+    static HRESULT ReturnText(const std::string& text, BSTR* result) {
+        return text.empty() ? S_FALSE : ToBstr(text, result);
+    }
+    static HRESULT ReturnItem(int index, VARIANT* child) {
         child->vt = index >= 0 ? VT_I4 : VT_EMPTY;
         child->lVal = index + 1;
         return index >= 0 ? S_OK : S_FALSE;
@@ -325,8 +327,8 @@ long AccessibleListBox::ItemState(HWND window, int index) const {
     RECT client;
     ::GetClientRect(window, &client);
     const RECT item = ItemRect(window, index);
-    RECT seen;
-    if (!::IntersectRect(&seen, &client, &item)) state |= STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
+    RECT visible;
+    if (!::IntersectRect(&visible, &client, &item)) state |= STATE_SYSTEM_OFFSCREEN | STATE_SYSTEM_INVISIBLE;
     return ::IsWindowEnabled(window) ? state : state | STATE_SYSTEM_UNAVAILABLE;
 }
 

@@ -139,7 +139,7 @@ TEST(SectorTable, DoesNotFollowChainsBeyondTheEndOfTheFile) {
     const orlo::SectorTable::Chain chain = table.Walk(0);
     EXPECT_EQ(chain.sectors, (std::vector<uint32_t>{0, 1}));
     EXPECT_EQ(chain.length, 4u);
-    EXPECT_EQ(chain.fault, orlo::ChainFault::isCut);
+    EXPECT_EQ(chain.fault, orlo::ChainFault::pastEnd);
 }
 
 struct Bend {

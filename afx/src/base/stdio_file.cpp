@@ -10,7 +10,7 @@ IMPLEMENT_DYNAMIC(CStdioFile, CObject)
 namespace {
 
 // Opens a file for update without truncating it, or creates it; neither "w+" nor "r+" does both.
-FILE* OpenKeeping(LPCSTR name, const std::string& suffix) {
+FILE* OpenWithoutTruncating(LPCSTR name, const std::string& suffix) {
     if (FILE* stream = std::fopen(name, ("r+" + suffix).c_str())) return stream;
     return errno == ENOENT ? std::fopen(name, ("w+" + suffix).c_str()) : nullptr;
 }
@@ -19,7 +19,7 @@ FILE* OpenStream(LPCSTR name, UINT flags) {
     const std::string suffix = (flags & CStdioFile::typeBinary) != 0 ? "b" : "";
     const bool writes = (flags & (CStdioFile::modeWrite | CStdioFile::modeReadWrite)) != 0;
     if ((flags & CStdioFile::modeCreate) == 0) return std::fopen(name, ((writes ? "r+" : "r") + suffix).c_str());
-    if ((flags & CStdioFile::modeNoTruncate) != 0) return OpenKeeping(name, suffix);
+    if ((flags & CStdioFile::modeNoTruncate) != 0) return OpenWithoutTruncating(name, suffix);
     return std::fopen(name, ("w+" + suffix).c_str());
 }
 

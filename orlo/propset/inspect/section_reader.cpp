@@ -33,7 +33,7 @@ bool HasForm(uint32_t type) {
     return IsVector(type) ? SmallestElement(BaseType(type)) != 0 : FormOf(type).form != Form::none;
 }
 
-std::string DescribeNeeds(uint32_t type, const uint8_t* bytes, size_t size) {
+std::string DescribeRequiredSize(uint32_t type, const uint8_t* bytes, size_t size) {
     const TypeForm& form = FormOf(type);
     if (form.form == Form::fixed) return "needs " + std::to_string(form.size) + " bytes";
     if (size < 4) return "needs 4 bytes for its count";
@@ -193,13 +193,13 @@ void SectionReader::ReadContents(Entry& entry) {
     if (isVector && !budget_.Spend(reach)) return ReportTooLarge(entry);
     if (const std::optional<Extent> extent = MeasureValue(property.type, bytes, reach)) {
         if (!isVector && !budget_.Spend(extent->size)) return ReportTooLarge(entry);
-        Keep(entry, ValueState::complete, extent->size);
+        SetValue(entry, ValueState::complete, extent->size);
     } else if (HasForm(property.type)) {
         report_.Add(FindingCode::valueShort, Severity::damaged, at, NameOf(entry), ": ", TypeName(property.type), " ",
-                    DescribeNeeds(property.type, bytes, reach), ", ", reach,
+                    DescribeRequiredSize(property.type, bytes, reach), ", ", reach,
                     " bytes are present; the value is truncated");
         if (!isVector && !budget_.Spend(entry.available)) return ReportTooLarge(entry);
-        Keep(entry, ValueState::partial, entry.available);
+        SetValue(entry, ValueState::partial, entry.available);
     } else {
         report_.Add(FindingCode::typeUnknown, Severity::irregular, at, NameOf(entry), ": ", TypeName(property.type),
                     " is unknown; its bytes up to the next value are preserved");
@@ -207,7 +207,7 @@ void SectionReader::ReadContents(Entry& entry) {
             section_.size > entry.offset + kTypeSize ? section_.size - entry.offset - kTypeSize : 0;
         const size_t size = std::min(entry.available, toSectionEnd > 0 ? toSectionEnd : entry.available);
         if (!isVector && !budget_.Spend(size)) return ReportTooLarge(entry);
-        Keep(entry, ValueState::opaque, size);
+        SetValue(entry, ValueState::opaque, size);
     }
 }
 
@@ -216,7 +216,7 @@ void SectionReader::ReportTooLarge(Entry& entry) {
                 ": the values are larger than the stream allows; ignored");
 }
 
-void SectionReader::Keep(Entry& entry, ValueState state, size_t size) {
+void SectionReader::SetValue(Entry& entry, ValueState state, size_t size) {
     const uint8_t* bytes = head_ + entry.offset + kTypeSize;
     entry.property.state = state;
     entry.property.bytes.assign(bytes, bytes + size);

@@ -50,7 +50,7 @@ private:
     void ReadValue(Entry& entry);
     void ReadContents(Entry& entry); // after the type code
     void ReportTooLarge(Entry& entry);
-    void Keep(Entry& entry, ValueState state, size_t size);
+    void SetValue(Entry& entry, ValueState state, size_t size);
     void ReadCodePage();
     void ReadDictionary(Entry& entry);
     void CheckGaps();

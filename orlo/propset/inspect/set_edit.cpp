@@ -14,10 +14,10 @@ namespace {
 
 template <class List>
 bool EraseId(List& list, uint32_t id) {
-    const auto kept = std::remove_if(list.begin(), list.end(), [id](const auto& item) { return item.id == id; });
-    const bool isThere = kept != list.end();
-    list.erase(kept, list.end());
-    return isThere;
+    const auto end = std::remove_if(list.begin(), list.end(), [id](const auto& item) { return item.id == id; });
+    const bool isFound = end != list.end();
+    list.erase(end, list.end());
+    return isFound;
 }
 
 void StoreCodePage(ImageSection& section, uint16_t codePage) {

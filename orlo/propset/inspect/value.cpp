@@ -59,7 +59,7 @@ bool IsOneOf(std::initializer_list<uint32_t> types, uint32_t type) {
     return std::find(types.begin(), types.end(), type) != types.end();
 }
 
-uint64_t LoadWhole(std::string_view bytes) {
+uint64_t LoadInteger(std::string_view bytes) {
     uint64_t number = 0;
     std::memcpy(&number, bytes.data(), bytes.size());
     return number;
@@ -67,7 +67,7 @@ uint64_t LoadWhole(std::string_view bytes) {
 
 int64_t LoadSigned(std::string_view bytes) {
     const size_t unused = 64 - 8 * bytes.size();
-    return static_cast<int64_t>(LoadWhole(bytes) << unused) >> unused; // the sign is repeated
+    return static_cast<int64_t>(LoadInteger(bytes) << unused) >> unused; // sign extension
 }
 
 bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, uint16_t codePage, Value& value) {
@@ -76,11 +76,11 @@ bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, 
     if (form.isText) return DecodeText(bytes, type == VT_LPWSTR ? kCodePageUtf16 : codePage, value);
     if (type == VT_CF) return DecodeClipboard(bytes, value);
     if (type == VT_BOOL)
-        value.data = LoadWhole(bytes) != 0;
+        value.data = LoadInteger(bytes) != 0;
     else if (IsSignedType(type))
         value.data = LoadSigned(bytes);
     else if (IsUnsignedType(type))
-        value.data = LoadWhole(bytes);
+        value.data = LoadInteger(bytes);
     else if (type == VT_R4)
         value.data = double{Load<float>(bytes)};
     else if (type == VT_R8 || type == VT_DATE)
@@ -93,7 +93,7 @@ bool DecodeElement(uint32_t type, const TypeForm& form, std::string_view bytes, 
 }
 
 // Encodes an integer of that size if it is in range.
-bool EncodeWhole(const Value& value, uint8_t size, ImageWriter& image) {
+bool EncodeInteger(const Value& value, uint8_t size, ImageWriter& image) {
     if (const auto* number = std::get_if<uint64_t>(&value.data)) {
         if (size < 8 && *number >> (8 * size) != 0) return false;
         image.Put(number, size);
@@ -182,7 +182,7 @@ bool EncodeElement(const Value& value, uint16_t codePage, ImageWriter& image) {
         return EncodeClipboard(value, image);
     default:
         const bool isNumber = form.form == Form::fixed && value.type != VT_DECIMAL;
-        return isNumber ? EncodeWhole(value, form.size, image) : EncodeBytes(value, form, image);
+        return isNumber ? EncodeInteger(value, form.size, image) : EncodeBytes(value, form, image);
     }
 }
 
