@@ -13,9 +13,9 @@ constexpr uint16_t kUtf8 = 65001;
 constexpr uint16_t kWesternEuropean = 1252;
 
 // Determines how bytes that are not text in the code page are handled.
-enum class Invalid { Refuse, Replace };
+enum class Invalid { Reject, Replace };
 
-// Returns nothing if the code page is unknown or, with Refuse, if the bytes are not text. Code pages 0 to 3 are the
+// Returns nothing if the code page is unknown or, with Reject, if the bytes are not text. Code pages 0 to 3 are the
 // system's own; on Linux 1252 is used for 0 and 3.
 std::optional<std::u16string> ToUtf16(std::string_view bytes, uint16_t codePage, Invalid invalid);
 

@@ -67,7 +67,7 @@ std::optional<std::u16string> FromUtf8(std::string_view utf8, Invalid invalid) {
     text.reserve(utf8.size());
     while (!utf8.empty()) {
         const std::optional<char32_t> code = TakeCharacter(utf8);
-        if (!code && invalid == Invalid::Refuse) return std::nullopt;
+        if (!code && invalid == Invalid::Reject) return std::nullopt;
         if (code >= kPastHalves) {
             text += static_cast<char16_t>(kFirstHalf + ((*code - kPastHalves) >> 10));
             text += static_cast<char16_t>(kSecondHalf + ((*code - kPastHalves) & 0x3FF));
@@ -79,7 +79,7 @@ std::optional<std::u16string> FromUtf8(std::string_view utf8, Invalid invalid) {
 }
 
 // Returns null for an unknown code page. Tables are cached, because reading a file takes longer than converting most
-// texts. Numbers below 4 stand for code pages of the system.
+// texts. Numbers below 4 denote code pages of the system.
 const NlsTable* TableOf(uint16_t codePage) {
     constexpr uint16_t kOfTheSystem[] = {kWesternEuropean, 437, 10000, kWesternEuropean};
     if (codePage < std::size(kOfTheSystem)) codePage = kOfTheSystem[codePage];

@@ -65,10 +65,10 @@ std::optional<std::u16string> NlsTable::ToUtf16(std::string_view text, Invalid i
     characters.reserve(text.size());
     for (size_t i = 0; i < text.size(); ++i) {
         uint16_t code = static_cast<uint8_t>(text[i]);
-        const bool isLead = IsLead(static_cast<uint8_t>(code)), isCutOff = isLead && i + 1 == text.size();
-        if (isLead && !isCutOff) code = static_cast<uint16_t>(code << 8 | static_cast<uint8_t>(text[++i]));
-        if (invalid == Invalid::Refuse && (isCutOff || !IsText(code))) return std::nullopt;
-        characters += isCutOff ? noCharacter_ : CharacterOf(code);
+        const bool isLead = IsLead(static_cast<uint8_t>(code)), isTruncated = isLead && i + 1 == text.size();
+        if (isLead && !isTruncated) code = static_cast<uint16_t>(code << 8 | static_cast<uint8_t>(text[++i]));
+        if (invalid == Invalid::Reject && (isTruncated || !IsText(code))) return std::nullopt;
+        characters += isTruncated ? noCharacter_ : CharacterOf(code);
     }
     return characters;
 }

@@ -17,7 +17,7 @@ public:
     explicit NlsTable(uint16_t codePage);
 
     bool IsKnown() const { return !words_.empty(); }
-    // With Refuse, returns nothing if the bytes are not text in the code page.
+    // With Reject, returns nothing if the bytes are not text in the code page.
     std::optional<std::u16string> ToUtf16(std::string_view text, Invalid invalid) const;
     // Returns nothing if a character is missing. Best-fit mappings are not used.
     std::optional<std::string> FromUtf16(std::u16string_view text) const;

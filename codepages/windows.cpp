@@ -21,7 +21,7 @@ const wchar_t* Wide(std::u16string_view text) {
 } // namespace
 
 std::optional<std::u16string> ToUtf16(std::string_view bytes, uint16_t codePage, Invalid invalid) {
-    const DWORD flags = invalid == Invalid::Refuse ? MB_ERR_INVALID_CHARS : 0;
+    const DWORD flags = invalid == Invalid::Reject ? MB_ERR_INVALID_CHARS : 0;
     const int size = Length(bytes.size());
     std::u16string text(bytes.size(), u'\0'); // a byte becomes at most one unit
     const int units = ::MultiByteToWideChar(codePage, flags, bytes.data(), size,

@@ -13,7 +13,7 @@ using codepages::Invalid;
 // Returns nothing if the bytes are not text. Bytes that a Windows code page leaves undefined are converted to control
 // characters, which are not accepted as text either.
 std::optional<std::u16string> CheckedToWide(std::string_view text, uint16_t codePage) {
-    std::optional<std::u16string> wide = codepages::ToUtf16(text, codePage, Invalid::Refuse);
+    std::optional<std::u16string> wide = codepages::ToUtf16(text, codePage, Invalid::Reject);
     const auto isUndefined = [](char16_t c) { return c >= 0x80 && c < 0xA0; };
     const bool isOfWindows = codePage == 0 || codePage == 874 || (codePage >= 1250 && codePage <= 1258);
     if (wide && isOfWindows && std::any_of(wide->begin(), wide->end(), isUndefined)) wide.reset();

@@ -189,7 +189,7 @@ DWORD CProperty::GetID() {
 void CProperty::SetID(DWORD dwPropID) {
     if (dwPropID == m_dwID) return;
     m_dwID = dwPropID;
-    orlo::NotePropertyIdChange();
+    orlo::InvalidatePropertyIndexes();
 }
 
 int CProperty::WriteToStream(IStream* pStream) {

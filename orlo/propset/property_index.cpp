@@ -14,7 +14,7 @@ std::atomic<unsigned> idChanges{0};
 
 } // namespace
 
-void NotePropertyIdChange() {
+void InvalidatePropertyIndexes() {
     idChanges.fetch_add(1, std::memory_order_relaxed);
 }
 

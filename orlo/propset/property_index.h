@@ -13,7 +13,7 @@ constexpr int kIndexedFrom = 17;
 
 // Records that a property has changed its ID, which makes existing indexes obsolete, also those of other sections. This
 // is rare.
-void NotePropertyIdChange();
+void InvalidatePropertyIndexes();
 
 // The first position of each ID in a list of properties.
 class PropertyIndex {

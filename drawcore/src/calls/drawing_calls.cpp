@@ -48,6 +48,6 @@ TableStruct* DrawingAddTable(DrawingStruct* drawing, const char* name) {
 
 int DrawingDeleteTable(DrawingStruct* drawing, TableStruct* table) {
     Drawing* found = Drawing::Find(drawing);
-    Table* gone = Table::Find(table);
-    return found && gone && found->RemoveTable(gone);
+    Table* removed = Table::Find(table);
+    return found && removed && found->RemoveTable(removed);
 }

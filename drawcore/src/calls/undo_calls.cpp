@@ -14,7 +14,7 @@ namespace {
 
 // Calls a method of the undo log. Returns 0 if there is no such drawing.
 template <class Method>
-auto Ask(DrawingStruct* drawing, Method method) -> std::invoke_result_t<Method, UndoLog&> {
+auto CallUndoLog(DrawingStruct* drawing, Method method) -> std::invoke_result_t<Method, UndoLog&> {
     Drawing* found = Drawing::Find(drawing);
     if (!found) return {};
     return std::invoke(method, found->Undo());
@@ -23,39 +23,39 @@ auto Ask(DrawingStruct* drawing, Method method) -> std::invoke_result_t<Method, 
 } // namespace
 
 int DrawingBeginUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Begin);
+    return CallUndoLog(drawing, &UndoLog::Begin);
 }
 
 int DrawingEndUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::End);
+    return CallUndoLog(drawing, &UndoLog::End);
 }
 
 int DrawingCancelUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Cancel);
+    return CallUndoLog(drawing, &UndoLog::Cancel);
 }
 
 int DrawingUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Undo);
+    return CallUndoLog(drawing, &UndoLog::Undo);
 }
 
 int DrawingRedo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Redo);
+    return CallUndoLog(drawing, &UndoLog::Redo);
 }
 
 int DrawingCountUndo(DrawingStruct* drawing) {
-    return static_cast<int>(Ask(drawing, &UndoLog::Steps));
+    return static_cast<int>(CallUndoLog(drawing, &UndoLog::Steps));
 }
 
 int DrawingCountRedo(DrawingStruct* drawing) {
-    return static_cast<int>(Ask(drawing, &UndoLog::UndoneSteps));
+    return static_cast<int>(CallUndoLog(drawing, &UndoLog::UndoneSteps));
 }
 
 int DrawingCountDroppedUndo(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Dropped);
+    return CallUndoLog(drawing, &UndoLog::Dropped);
 }
 
 uint32_t DrawingGetUndoMark(DrawingStruct* drawing) {
-    return Ask(drawing, &UndoLog::Mark);
+    return CallUndoLog(drawing, &UndoLog::Mark);
 }
 
 void DrawingSetUndoLimit(DrawingStruct* drawing, size_t bytes) {

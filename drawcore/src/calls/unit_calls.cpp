@@ -65,7 +65,7 @@ uint16_t UnitInSpace(uint16_t space) {
     return space == kSpaceWorld ? kUnitDrawing : kUnitTextSize;
 }
 
-// Returns the variable that defines the unit of the number; one that does not exist for the space without lengths.
+// Returns the variable that defines the unit of the number, or one that does not exist for kSpaceDevice.
 uint16_t NumberInSpace(uint16_t space) {
     if (space == kSpaceDevice) return 0;
     return space == kSpaceWorld ? kUnitDrawing : kUnitMillimeter;

@@ -12,11 +12,11 @@ namespace drawcore {
 
 namespace {
 
-void NoteMembers(const Graphic& group, std::vector<uint32_t>& sources) {
+void AddSources(const Graphic& group, std::vector<uint32_t>& sources) {
     for (size_t i = 0; i < group.MemberCount(); ++i) {
         const Graphic& member = *group.MemberAt(i);
         if (member.source != Graphic::kNoSource) sources.push_back(member.source);
-        NoteMembers(member, sources);
+        AddSources(member, sources);
     }
 }
 
@@ -88,13 +88,13 @@ void DxfSource::RecordContents(const Drawing& drawing, size_t omitted) {
     const LayerTable* layerTable = drawing.Layers();
     for (Id id = layerTable ? layerTable->First() : kNoId; id; id = layerTable->Next(id))
         layers.push_back(layerTable->At(id)->name);
-    NoteMembers(drawing.Root(), graphics);
+    AddSources(drawing.Root(), graphics);
     const BlockTable& table = *drawing.Blocks();
     for (Id id = table.First(); id; id = table.Next(id)) {
         const Block& block = *table.At(id);
         if (block.name == kPreviewBlock) continue;
         blocks.push_back(block.name);
-        NoteMembers(block.Content(), graphics);
+        AddSources(block.Content(), graphics);
     }
     std::sort(graphics.begin(), graphics.end());
 }

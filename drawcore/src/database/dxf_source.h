@@ -23,7 +23,7 @@ struct DxfSource {
     std::string bytes;
     dxf::Document known; // header and tables
     std::filesystem::path path;
-    std::vector<uint32_t> graphics;          // offsets of the records that graphics were made from, ascending
+    std::vector<uint32_t> graphics;          // offsets of the records that graphics were created from, ascending
     std::vector<std::string> blocks, layers; // likewise, by name in the drawing
 
 private:

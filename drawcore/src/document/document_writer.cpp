@@ -37,7 +37,7 @@ struct DocumentWriter::Parts {
         Values properties, others;
     };
     Ordered InOrder(const Values& values) const;
-    // Returns what the values change of the entity's texts and place.
+    // Returns the changes that the values make to the entity's text and placement.
     EntityEdit EditOf(const EntityRef& entity, const Ordered& values) const;
     bool Change(const EntityRef& ref, const Ordered& values);
     // Returns the appearance of the entity with other contents of its text.
@@ -270,8 +270,8 @@ void DocumentWriter::Parts::RequireEntity(const EntityRef& before, const EntityR
 
 void DocumentWriter::Parts::RequireEdit(const EntityRef& entity, const EntityEdit& edit, const EntityRef& now,
                                         const DocumentReader& after) const {
-    const auto require = [&](bool isGood, const char* name) {
-        if (!isGood) FailVerification(name + (" of " + reader.NameOf(entity).Text()));
+    const auto require = [&](bool isValid, const char* name) {
+        if (!isValid) FailVerification(name + (" of " + reader.NameOf(entity).Text()));
     };
     if (edit.text) require(after.Get(now, "Text") == *edit.text, "Text");
     const auto requirePoint = [&](const Vec3& point, const Vec3& placed) {

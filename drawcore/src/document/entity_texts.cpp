@@ -143,7 +143,7 @@ std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
     if (!As<Insert>(entity) || (!position && !scale && !rotation)) return std::nullopt;
     AxisEnds ends = AxisEndsOf(entity);
     const Vec3 to = position.value_or(ends[0]);
-    if (scale || rotation) { // without a placement of its own, which would contradict them
+    if (scale || rotation) { // ignoring a stored placement, which would contradict them
         Entity placed;
         placed.normal = entity.normal;
         placed.shape = std::make_unique<Insert>(NumbersOf(*As<Insert>(entity)));
@@ -152,7 +152,7 @@ std::optional<AxisEnds> EntityEdit::EndsOf(const Entity& entity) const {
     const Vec3 motion = to - ends[0];
     for (Vec3& end : ends)
         end = end + motion;
-    ends[0] = to; // without the rounding of the sum
+    ends[0] = to; // avoids the rounding error of the sum
     return ends;
 }
 

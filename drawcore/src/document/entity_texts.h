@@ -11,7 +11,7 @@
 
 namespace dxf {
 
-// The requested changes of one entity; absent values stay as they are.
+// The requested changes of one entity; missing values are not changed.
 struct EntityEdit {
     std::optional<std::string> text;
     std::optional<Vec3> position; // in the world
@@ -20,7 +20,7 @@ struct EntityEdit {
 
     // Returns the insertion point of `was` with the requested scales and rotation.
     Insert NumbersOf(const Insert& was) const;
-    // Returns the requested axes of the insertion; nothing if they stay.
+    // Returns the requested axes of the insertion, or nothing if they are not changed.
     std::optional<AxisEnds> EndsOf(const Entity& entity) const;
     // Returns whether another entity gets a new position.
     bool Moves(const Entity& entity) const;
@@ -37,7 +37,7 @@ public:
     static bool Has(const Entity& entity, std::string_view name);
 
     std::string Get(std::string_view name, const Entity& entity) const;
-    // Returns the text in the form that Get returns; as it is if it is not a value.
+    // Returns the text in the form that Get returns, or unchanged if it is not a valid value.
     std::string Normalized(std::string_view name, const std::string& text) const;
     // Throws SaveError if the text is not a value or the value cannot be set.
     static void Set(std::string_view name, const std::string& text, EntityEdit& edit);

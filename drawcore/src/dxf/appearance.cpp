@@ -93,45 +93,47 @@ LineTypeIndex FindLineType(const Document& document, const std::string& name) {
 // the group since, the group is used.
 constexpr ExtendedRow kExtendedRows[] = {
     {kPropPenColor, 2,
-     [](const ExtendedValue& own, const Document&, const Entity& entity, Appearance& appearance) {
-         if (entity.trueColor < 0 && entity.color == own.numbers[1])
-             appearance.color = ToColor(own.numbers[0], appearance.color);
+     [](const ExtendedValue& extended, const Document&, const Entity& entity, Appearance& appearance) {
+         if (entity.trueColor < 0 && entity.color == extended.numbers[1])
+             appearance.color = ToColor(extended.numbers[0], appearance.color);
      }},
     {kPropPenStyle, 0,
-     [](const ExtendedValue& own, const Document& document, const Entity&, Appearance& appearance) {
-         appearance.lineType = FindLineType(document, own.text);
+     [](const ExtendedValue& extended, const Document& document, const Entity&, Appearance& appearance) {
+         appearance.lineType = FindLineType(document, extended.text);
      }},
     {kPropPenWidth, 3,
-     [](const ExtendedValue& own, const Document&, const Entity& entity, Appearance& appearance) {
-         if (!IsWidth(own.numbers[0]) || !IsBit(own.numbers[1]) || entity.lineWeight != own.numbers[2]) return;
-         appearance.width = own.numbers[0] < 0 ? WidthOf(static_cast<int>(own.numbers[0])) : own.numbers[0];
-         appearance.worldWidth = own.numbers[1] != 0;
+     [](const ExtendedValue& extended, const Document&, const Entity& entity, Appearance& appearance) {
+         if (!IsWidth(extended.numbers[0]) || !IsBit(extended.numbers[1]) || entity.lineWeight != extended.numbers[2])
+             return;
+         appearance.width =
+             extended.numbers[0] < 0 ? WidthOf(static_cast<int>(extended.numbers[0])) : extended.numbers[0];
+         appearance.worldWidth = extended.numbers[1] != 0;
      }},
     {kPropBrushStyle, 0,
-     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
+     [](const ExtendedValue& extended, const Document&, const Entity&, Appearance& appearance) {
          std::vector<Hatch::PatternLine> lines;
-         if (!LinesFromNumbers(own.numbers, lines)) return;
-         appearance.brush.style = own.text;
-         appearance.brush.lines = lines.empty() ? StandardLines(own.text) : std::move(lines);
+         if (!LinesFromNumbers(extended.numbers, lines)) return;
+         appearance.brush.style = extended.text;
+         appearance.brush.lines = lines.empty() ? StandardLines(extended.text) : std::move(lines);
      }},
     {kPropBrushColor, 1,
-     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
+     [](const ExtendedValue& extended, const Document&, const Entity&, Appearance& appearance) {
          // With two numbers, the groups contain the brush's color, and the other number is the pen's.
-         const uint32_t color = ToColor(own.numbers[0], appearance.brush.color);
-         const bool inGroups = own.numbers.size() > 1;
+         const uint32_t color = ToColor(extended.numbers[0], appearance.brush.color);
+         const bool inGroups = extended.numbers.size() > 1;
          if (inGroups && appearance.color != color) return;
          appearance.brush.color = color;
-         if (inGroups) appearance.color = ToColor(own.numbers[1], appearance.color);
+         if (inGroups) appearance.color = ToColor(extended.numbers[1], appearance.color);
      }},
     {kPropBrushAngle, 1,
-     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
-         if (own.numbers.size() > 1 && own.numbers[1] != appearance.brush.angle) return;
-         appearance.brush.angle = own.numbers[0];
+     [](const ExtendedValue& extended, const Document&, const Entity&, Appearance& appearance) {
+         if (extended.numbers.size() > 1 && extended.numbers[1] != appearance.brush.angle) return;
+         appearance.brush.angle = extended.numbers[0];
      }},
     {kPropTextStyle, 1,
-     [](const ExtendedValue& own, const Document&, const Entity&, Appearance& appearance) {
-         if (own.numbers[0] >= 0 && own.numbers[0] <= UINT16_MAX)
-             appearance.text.style |= static_cast<uint16_t>(own.numbers[0]);
+     [](const ExtendedValue& extended, const Document&, const Entity&, Appearance& appearance) {
+         if (extended.numbers[0] >= 0 && extended.numbers[0] <= UINT16_MAX)
+             appearance.text.style |= static_cast<uint16_t>(extended.numbers[0]);
      }},
 };
 
@@ -139,10 +141,10 @@ constexpr ExtendedRow kExtendedRows[] = {
 constexpr const char* kPlain[] = {kPropPenScale,      kPropPenAlignment, kPropBrushScale, kPropHatchCross,
                                   kPropBrushDrawMode, kPropTextFont,     kPropTextFormat};
 
-void ApplyPlain(const ExtendedValue& own, const PropertyInfo& property, Appearance& appearance) {
+void ApplyPlain(const ExtendedValue& extended, const PropertyInfo& property, Appearance& appearance) {
     if (property.IsText() || property.meaning == PropertyMeaning::Block)
-        return SetText(appearance, property.name, own.text);
-    const double number = own.numbers.empty() ? NAN : own.numbers[0];
+        return SetText(appearance, property.name, extended.text);
+    const double number = extended.numbers.empty() ? NAN : extended.numbers[0];
     const bool isOfType = property.IsReal() || number == std::floor(number);
     if (isOfType && number >= property.low && number <= property.high) SetNumber(appearance, property.name, number);
 }
@@ -162,17 +164,18 @@ Appearance AppearanceByGroups(const Document& document, const Entity& entity) {
 
 Appearance AppearanceOf(const Document& document, const Entity& entity) {
     Appearance appearance = AppearanceByGroups(document, entity);
-    if (!entity.own) return appearance;
+    if (!entity.extended) return appearance;
     for (const ExtendedRow& row : kExtendedRows) {
-        const ExtendedValue* own = FindExtended(entity, row.name);
-        if (own && own->numbers.size() >= row.count) row.apply(*own, document, entity, appearance);
+        const ExtendedValue* extended = FindExtended(entity, row.name);
+        if (extended && extended->numbers.size() >= row.count) row.apply(*extended, document, entity, appearance);
     }
-    for (const ExtendedValue& own : *entity.own) {
-        const PropertyInfo* property = FindPropertyInfo(own.name);
-        const auto isRow = [&](const char* name) { return own.name == name; };
-        if (!property || FindExtended(entity, own.name) != &own) continue; // only the first of equal names is used
+    for (const ExtendedValue& extended : *entity.extended) {
+        const PropertyInfo* property = FindPropertyInfo(extended.name);
+        const auto isRow = [&](const char* name) { return extended.name == name; };
+        if (!property || FindExtended(entity, extended.name) != &extended)
+            continue; // only the first of equal names is used
         if (!property->hasDxfGroup || std::any_of(std::begin(kPlain), std::end(kPlain), isRow))
-            ApplyPlain(own, *property, appearance);
+            ApplyPlain(extended, *property, appearance);
     }
     return appearance;
 }
@@ -184,7 +187,7 @@ const ExtendedValue* FindExtended(const ExtendedData& data, std::string_view nam
 }
 
 const ExtendedValue* FindExtended(const Entity& entity, std::string_view name) {
-    return entity.own ? FindExtended(*entity.own, name) : nullptr;
+    return entity.extended ? FindExtended(*entity.extended, name) : nullptr;
 }
 
 bool HasOneWidth(const Polyline& polyline) {

@@ -87,7 +87,7 @@ bool HasOneWidth(const Polyline& polyline);
 // The family and style (bits of kPropTextStyle) of a text style; an empty family is the default face.
 struct FontFace {
     std::string family;
-    uint16_t cut = 0;
+    uint16_t style = 0;
 };
 FontFace FaceOf(const TextStyle& style);
 // Returns the font file of a family in that style.

@@ -47,7 +47,7 @@ bool IsValid(const std::vector<Family>& lines) {
 }
 
 // Returns whether the difference is not visible, as in patterns that were computed by another program.
-bool Alike(double a, double b) {
+bool IsNearlyEqual(double a, double b) {
     return std::fabs(a - b) <= 1e-6 * (1 + std::max(std::fabs(a), std::fabs(b)));
 }
 
@@ -55,9 +55,10 @@ bool Alike(double a, double b) {
 
 bool SameLine(const Family& a, const Family& b) {
     const double p = Radians(a.angle), q = Radians(b.angle);
-    return Alike(std::cos(p), std::cos(q)) && Alike(std::sin(p), std::sin(q)) && Alike(a.base.x, b.base.x) &&
-           Alike(a.base.y, b.base.y) && Alike(a.offset.x, b.offset.x) && Alike(a.offset.y, b.offset.y) &&
-           std::equal(a.dashes.begin(), a.dashes.end(), b.dashes.begin(), b.dashes.end(), Alike);
+    return IsNearlyEqual(std::cos(p), std::cos(q)) && IsNearlyEqual(std::sin(p), std::sin(q)) &&
+           IsNearlyEqual(a.base.x, b.base.x) && IsNearlyEqual(a.base.y, b.base.y) &&
+           IsNearlyEqual(a.offset.x, b.offset.x) && IsNearlyEqual(a.offset.y, b.offset.y) &&
+           std::equal(a.dashes.begin(), a.dashes.end(), b.dashes.begin(), b.dashes.end(), IsNearlyEqual);
 }
 
 bool SameLines(const std::vector<Family>& a, const std::vector<Family>& b) {

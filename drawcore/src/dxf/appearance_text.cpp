@@ -14,7 +14,7 @@ namespace {
 struct FontFile {
     const char* stem;
     const char* family;
-    uint16_t cut;
+    uint16_t style;
 };
 constexpr FontFile kFontFiles[] = {
     {"arial", "Arial", 0},
@@ -39,7 +39,7 @@ FontFace FaceOfFile(std::string file) {
     file.erase(0, file.find_last_of("\\/") + 1);
     const std::string stem = file.substr(0, file.find('.'));
     for (const FontFile& known : kFontFiles)
-        if (stem == known.stem) return {known.family, known.cut};
+        if (stem == known.stem) return {known.family, known.style};
     const bool trueType =
         file.size() > 4 && (file.compare(file.size() - 4, 4, ".ttf") == 0 || file.find('.') == file.npos);
     return {trueType ? stem : "", 0};
@@ -88,7 +88,7 @@ FontFace FaceOf(const TextStyle& style) {
 
 std::string FontFileOf(const FontFace& face) {
     for (const FontFile& known : kFontFiles)
-        if (face.family == known.family && face.cut == known.cut) return known.stem + std::string(".ttf");
+        if (face.family == known.family && face.style == known.style) return known.stem + std::string(".ttf");
     return face.family + ".ttf";
 }
 
@@ -102,7 +102,7 @@ TextAppearance TextAppearanceOf(const Text& text, const TextStyle& style) {
     FontFace face = FaceOf(style);
     TextAppearance appearance;
     appearance.font = std::move(face.family);
-    appearance.style = face.cut | LineBits(line.underlined, line.struckThrough);
+    appearance.style = face.style | LineBits(line.underlined, line.struckThrough);
     if (text.hidden) appearance.style |= kTextHidden;
     appearance.height = ValidHeight(text.height, style);
     appearance.format = FormatOf(text.horizontal);
@@ -122,7 +122,7 @@ bool IsPartlyMarked(const Text& text) {
 uint8_t VariedBits(const FormattedText& text, const InlineFormat& most) {
     uint8_t bits = 0;
     for (const FormattedText::Run& run : text.runs) {
-        if (run.text.find_first_not_of('\n') == run.text.npos) continue; // between paragraphs with codes of their own
+        if (run.text.find_first_not_of('\n') == run.text.npos) continue; // between paragraphs with their own codes
         const InlineFormat& part = run.format;
         const bool otherStyle = part.bold != most.bold || part.italic != most.italic ||
                                 part.underlined != most.underlined || part.struckThrough != most.struckThrough;
@@ -141,7 +141,7 @@ TextAppearance TextAppearanceOf(const MText& text, const TextStyle& style, const
         face = format.font.find('.') != format.font.npos ? FaceOfFile(format.font) : FontFace{format.font, 0};
     TextAppearance appearance;
     appearance.font = std::move(face.family);
-    appearance.style = face.cut | LineBits(format.underlined, format.struckThrough);
+    appearance.style = face.style | LineBits(format.underlined, format.struckThrough);
     if (format.bold) appearance.style |= kTextBold;
     if (format.italic) appearance.style |= kTextItalic;
     appearance.height = ValidHeight(text.height, style) * format.scale;

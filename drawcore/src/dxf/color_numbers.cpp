@@ -22,7 +22,7 @@ constexpr Color Rgb(int r, int g, int b) {
 
 constexpr Color kFirst[] = {Rgb(255, 0, 0),   Rgb(255, 255, 0), Rgb(0, 255, 0),     Rgb(0, 255, 255),  Rgb(0, 0, 255),
                             Rgb(255, 0, 255), kWhite,           Rgb(128, 128, 128), Rgb(192, 192, 192)};
-constexpr int kGreys[] = {51, 80, 105, 130, 190, 255};
+constexpr int kGrays[] = {51, 80, 105, 130, 190, 255};
 
 // The numbers 10 to 249 are 24 hues, 15 degrees apart, each in five brightnesses at full and half saturation.
 Color HueColor(int index) {
@@ -30,8 +30,8 @@ Color HueColor(int index) {
     const double hue = (index / 10 - 1) / 4.0; // in sixths of the circle
     const double value = kBrightness[index % 10 / 2], saturation = index % 2 ? 0.5 : 1.0;
     const auto part = [&](double shift) {
-        const double away = std::fabs(std::fmod(hue + shift, 6.0) - 3.0); // 3 at the hue of the component
-        const double share = std::clamp(away - 1.0, 0.0, 1.0);
+        const double distance = std::fabs(std::fmod(hue + shift, 6.0) - 3.0); // 3 at the hue of the component
+        const double share = std::clamp(distance - 1.0, 0.0, 1.0);
         return static_cast<int>(value * (1 - saturation * (1 - share)));
     };
     return Rgb(part(0), part(4), part(2));
@@ -47,7 +47,7 @@ std::array<Color, kColorNumbers + 1> AllColors() {
         else if (index <= 249)
             color = HueColor(index);
         else
-            color = Rgb(kGreys[index - 250], kGreys[index - 250], kGreys[index - 250]);
+            color = Rgb(kGrays[index - 250], kGrays[index - 250], kGrays[index - 250]);
     }
     return colors;
 }
@@ -57,8 +57,8 @@ constexpr const char* kFirstNames[] = {"Red", "Yellow", "Green", "Cyan", "Blue",
 int Distance(Color a, Color b) {
     int sum = 0;
     for (const int shift : {0, 8, 16}) {
-        const int way = static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF);
-        sum += way * way;
+        const int difference = static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF);
+        sum += difference * difference;
     }
     return sum;
 }

@@ -74,7 +74,7 @@ struct Block {
     Vec3 base;
     int flags = 0;
     std::vector<Entity> entities;
-    ExtendedData own;            // of its BLOCK record
+    ExtendedData extended;       // of its BLOCK record
     uint32_t begin = 0, end = 0; // offsets of its BLOCK and ENDBLK records in the file's text
 };
 

@@ -225,10 +225,10 @@ struct Entity {
     bool inPaperSpace = false;
     bool invisible = false;
     double lineTypeScale = 1;
-    Vec3 normal{0, 0, 1};    // the extrusion direction: z axis of the object coordinate system
-    uint32_t line = 0;       // line in the file, for messages
-    uint32_t offset = 0;     // of its record in the file's text
-    Boxed<ExtendedData> own; // null if there are none
+    Vec3 normal{0, 0, 1};         // the extrusion direction: z axis of the object coordinate system
+    uint32_t line = 0;            // line in the file, for messages
+    uint32_t offset = 0;          // of its record in the file's text
+    Boxed<ExtendedData> extended; // null if there are none
 };
 
 // Returns the shape of the entity if it is of that boxed kind, else null.

@@ -44,7 +44,7 @@ private:
     void SetCommon(Entity& entity);
     // Stores the extended data, before further records of the entity are read.
     void TakeExtended(Entity& entity) {
-        if (!entity.own) entity.own = in_.TakeExtended();
+        if (!entity.extended) entity.extended = in_.TakeExtended();
     }
     // Rejects the entity for a reason other than an invalid coordinate.
     void Reject(std::string reason) { rejection_ = std::move(reason); }

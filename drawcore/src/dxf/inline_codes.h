@@ -39,8 +39,8 @@ struct FormattedText {
 // height: height of the text in drawing units, also the unit of heights in the codes.
 FormattedText ReadInlineCodes(std::string_view stored, double height);
 
-// Returns the stored form with what `replace` returns in place of the codes of these letters. It is called with the
-// letter and the argument, which does not include the semicolon.
+// Returns the stored form with the codes of these letters replaced by the results of `replace`, which is called with
+// the letter and the argument, without the semicolon.
 using ReplaceCode = std::function<std::string(char letter, std::string_view argument)>;
 std::string WithReplacedCodes(std::string_view stored, std::string_view letters, const ReplaceCode& replace);
 // Returns the stored form without the codes of these letters and their arguments.

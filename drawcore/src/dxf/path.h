@@ -1,4 +1,4 @@
-// Traces the outline of an entity as lines and arcs. Texts, insertions and dimensions have no outline of their own.
+// Traces the outline of an entity as lines and arcs. Texts, insertions and dimensions do not have their own outline.
 #pragma once
 
 #include <optional>

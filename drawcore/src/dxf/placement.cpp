@@ -95,18 +95,18 @@ GroupNumbers GroupNumbersOf(const Entity& entity) {
     return {offset.x, offset.y, offset.z, 1, 1, 1, 0, normal.x, normal.y, normal.z};
 }
 
-// Returns nothing also if another program has changed the groups since. Older files contain the axes, the origin, and
-// of the groups only the position.
+// Returns nothing also if another program has changed the groups since. Files of earlier versions contain the axes and
+// the origin, and only the position of the groups.
 std::optional<AxisEnds> ExtendedAxisEnds(const Entity& entity) {
     constexpr size_t kOlder = 15;
-    const ExtendedValue* own = FindExtended(entity, kExtendedPlacement);
-    if (!own || own->numbers.size() < kOlder) return std::nullopt;
-    const double* n = own->numbers.data();
+    const ExtendedValue* extended = FindExtended(entity, kExtendedPlacement);
+    if (!extended || extended->numbers.size() < kOlder) return std::nullopt;
+    const double* n = extended->numbers.data();
     AxisEnds ends;
     for (size_t i = 0; i < ends.size(); ++i)
         ends[i] = {n[3 * i], n[3 * i + 1], n[3 * i + 2]};
     const GroupNumbers groups = GroupNumbersOf(entity);
-    if (own->numbers.size() >= 12 + groups.size())
+    if (extended->numbers.size() >= 12 + groups.size())
         return std::equal(groups.begin(), groups.end(), n + 12) ? std::optional(ends) : std::nullopt;
     const Vec3 point = PlacementByGroups(entity).Apply({});
     if (!Near(Vec3{n[12], n[13], n[14]}, point)) return std::nullopt;
@@ -122,8 +122,8 @@ Matrix Solid(const Matrix& placement) {
 } // namespace
 
 Matrix PlacementOf(const Entity& entity) {
-    const std::optional<AxisEnds> own = ExtendedAxisEnds(entity);
-    return own ? PlacementOf(*own) : PlacementByGroups(entity);
+    const std::optional<AxisEnds> extended = ExtendedAxisEnds(entity);
+    return extended ? PlacementOf(*extended) : PlacementByGroups(entity);
 }
 
 Matrix PlacementOf(const AxisEnds& ends) {
@@ -135,8 +135,8 @@ AxisEnds AxisEndsOf(const Matrix& placement) {
 }
 
 AxisEnds AxisEndsOf(const Entity& entity) {
-    const std::optional<AxisEnds> own = ExtendedAxisEnds(entity);
-    return own ? *own : AxisEndsOf(PlacementByGroups(entity));
+    const std::optional<AxisEnds> extended = ExtendedAxisEnds(entity);
+    return extended ? *extended : AxisEndsOf(PlacementByGroups(entity));
 }
 
 std::vector<double> NumbersOf(const AxisEnds& ends, const Entity& entity) {

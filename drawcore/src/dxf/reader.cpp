@@ -121,7 +121,7 @@ private:
             if (tag_.code == 2) name = tag_.value;
             in_.SetField(kFields, head, tag_);
         }
-        if (const Boxed<ExtendedData> own = in_.TakeExtended()) head.own = *own;
+        if (const Boxed<ExtendedData> extended = in_.TakeExtended()) head.extended = *extended;
         if (in_.TakeInvalidCoordinate())
             in_.Report(line, "the base point of block " + Quoted(name) + " is out of range; the origin is used");
         constexpr int kExternal = 4;
@@ -164,8 +164,15 @@ Document Document::Tables() const {
     tables.lineTypes = lineTypes;
     tables.textStyles = textStyles;
     for (const Block& block : blocks)
-        tables.blocks.push_back(
-            {block.name, block.stored, block.declared, block.base, block.flags, {}, block.own, block.begin, block.end});
+        tables.blocks.push_back({block.name,
+                                 block.stored,
+                                 block.declared,
+                                 block.base,
+                                 block.flags,
+                                 {},
+                                 block.extended,
+                                 block.begin,
+                                 block.end});
     return tables;
 }
 

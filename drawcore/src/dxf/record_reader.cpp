@@ -34,11 +34,11 @@ void RecordReader::ReadExtended() {
         tags.Next();
         return;
     }
-    own_ = std::make_unique<ExtendedData>();
+    extended_ = std::make_unique<ExtendedData>();
     const Tag& tag = tags.Next();
     while (tag.code >= kExtended && tag.code != kApplicationName) {
         if (tag.code == kExtendedText)
-            own_->push_back(ReadExtendedValue());
+            extended_->push_back(ReadExtendedValue());
         else
             tags.Next();
     }

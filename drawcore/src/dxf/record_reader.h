@@ -46,7 +46,7 @@ public:
     // in braces (code 102), extended data, embedded objects. Stores extended data of kApplication for TakeExtended.
     bool NextTag();
     // Returns the record's extended data of kApplication, or null.
-    Boxed<ExtendedData> TakeExtended() { return std::move(own_); }
+    Boxed<ExtendedData> TakeExtended() { return std::move(extended_); }
 
     // Returns false if the table does not contain the code.
     template <class T, size_t N>
@@ -90,7 +90,7 @@ private:
     void Assign(TextStyleIndex& to, const Tag& tag, int) { to = TextStyleIndex(textStyles.Find(tag.value)); }
     void Assign(BlockIndex& to, const Tag& tag, int) { to = BlockIndex(blocks.Find(tag.value)); }
 
-    Boxed<ExtendedData> own_;
+    Boxed<ExtendedData> extended_;
     uint32_t invalidCoordinateLine_ = 0;
     size_t unreported_ = 0;
 };

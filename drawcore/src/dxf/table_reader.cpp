@@ -61,9 +61,9 @@ void ReadLineType(RecordReader& in) {
 }
 
 // Family and style of a TrueType face are in extended data of the application ACAD.
-void ReadTypeFace(TextStyle& style, const Tag& tag, bool& own, const RecordReader& in) {
-    if (tag.code == kApplicationName) own = tag.Is(kApplicationName, "ACAD");
-    if (!own) return;
+void ReadTypeFace(TextStyle& style, const Tag& tag, bool& isAcad, const RecordReader& in) {
+    if (tag.code == kApplicationName) isAcad = tag.Is(kApplicationName, "ACAD");
+    if (!isAcad) return;
     if (tag.code == kExtendedText) style.fontFace = in.Text(tag);
     if (tag.code != kExtendedLong) return;
     style.bold = (tag.Integer() & kFaceIsBold) != 0;
@@ -77,7 +77,7 @@ void ReadTextStyle(RecordReader& in) {
                                                {50, &TextStyle::oblique}};
     TextStyle read;
     std::string_view name;
-    bool own = false;
+    bool isAcad = false;
     const Tag& tag = in.tags.Current();
     while (!in.tags.Next().StartsRecord()) {
         if (tag.code == 2)
@@ -85,7 +85,7 @@ void ReadTextStyle(RecordReader& in) {
         else if (tag.code == 71)
             read.backward = (tag.Integer() & 2) != 0, read.upsideDown = (tag.Integer() & 4) != 0;
         else if (!in.SetField(kFields, read, tag))
-            ReadTypeFace(read, tag, own, in);
+            ReadTypeFace(read, tag, isAcad, in);
     }
     if (name.empty()) return; // a shape file for line types
     Declare(in.textStyles, name, std::move(read));

@@ -99,7 +99,7 @@ void TextDecoder::SetCodePage(std::string_view name) {
 
 std::string TextDecoder::Decode(std::string_view bytes) const {
     // Some programs write the new version number but still use their code page.
-    if (IsAscii(bytes) || (utf8_ && codepages::ToUtf16(bytes, kUtf8, Invalid::Refuse))) return std::string(bytes);
+    if (IsAscii(bytes) || (utf8_ && codepages::ToUtf16(bytes, kUtf8, Invalid::Reject))) return std::string(bytes);
     return Utf8FromCodePage(bytes, page_);
 }
 

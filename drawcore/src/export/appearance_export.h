@@ -1,5 +1,5 @@
-// Exports the appearance of graphics: a value that differs from that of the record in the file is the graphic's, all
-// others are kept as in the file.
+// Exports the appearance of graphics: values that differ from those of the record in the file are replaced, all others
+// remain as in the file.
 #pragma once
 
 #include <map>

@@ -76,7 +76,7 @@ private:
             Advance(entity.offset);
             if ((!inBlock && entity.inPaperSpace) || IsNotRemoved(entity)) continue;
             const size_t end = i + 1 < entities.size() ? entities[i + 1].offset : 0;
-            if (index < saved.MemberCount() && IsAsBefore(*saved.MemberAt(index), entity.offset, end)) {
+            if (index < saved.MemberCount() && IsUnchanged(*saved.MemberAt(index), entity.offset, end)) {
                 SetSources(*saved.MemberAt(index), entity.offset);
                 index = SkipOmitted(saved, index + 1);
                 continue;
@@ -106,7 +106,7 @@ private:
     }
 
     // Compares the records of one entity, from begin to end, with those of the graphic in the previous text.
-    bool IsAsBefore(const Graphic& graphic, size_t begin, size_t end) const {
+    bool IsUnchanged(const Graphic& graphic, size_t begin, size_t end) const {
         return end > begin && !IsTouched(graphic) &&
                before_.compare(graphic.source, end - begin, text_, begin, end - begin) == 0;
     }

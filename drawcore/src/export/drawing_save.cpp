@@ -131,9 +131,9 @@ private:
     std::vector<Id> NewLayers() const {
         std::vector<Id> added;
         const LayerTable* layers = drawing_.Layers();
-        const std::set<std::string> had(source_.layers.begin(), source_.layers.end());
+        const std::set<std::string> known(source_.layers.begin(), source_.layers.end());
         for (Id id = layers ? layers->First() : kNoId; id; id = layers->Next(id))
-            if (had.count(layers->At(id)->name) == 0) added.push_back(id);
+            if (known.count(layers->At(id)->name) == 0) added.push_back(id);
         return added;
     }
 
@@ -196,13 +196,13 @@ bool IsSameFile(const std::filesystem::path& a, const std::filesystem::path& b) 
 
 // Runs passes until no further graphic must be omitted. Throws SaveError for the first one unless saving the rest was
 // requested.
-std::optional<ChangedSource> Change(const Drawing& drawing, bool wantsRest, OmittedObjects& omitted,
+std::optional<ChangedSource> Change(const Drawing& drawing, bool savesRest, OmittedObjects& omitted,
                                     const ProgressReport& report) {
     for (;;) {
         const size_t before = omitted.Count();
         std::optional<ChangedSource> changed = SavePass(drawing, omitted, report).Run();
         if (omitted.Count() == before) return changed;
-        if (!wantsRest) throw dxf::SaveError(omitted.List().front().text);
+        if (!savesRest) throw dxf::SaveError(omitted.List().front().text);
     }
 }
 

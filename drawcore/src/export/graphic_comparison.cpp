@@ -43,10 +43,11 @@ bool SameVertices(const VertexGraphic& a, const VertexGraphic& b, bool calculate
         return SamePlace(one.Position(), other.Position(), calculated) && sameBulge &&
                next.startWidth == others.startWidth && next.endWidth == others.endWidth;
     };
-    const auto alike = [](const Vertex& one, const Vertex& other) { return one.wFlags == other.wFlags; };
+    const auto isSameFlags = [](const Vertex& one, const Vertex& other) { return one.wFlags == other.wFlags; };
     return a.closed == b.closed && a.vertices.size() == b.vertices.size() &&
            std::equal(a.vertices.begin(), a.vertices.end(), b.vertices.begin(), same) &&
-           (a.vertices.empty() || std::equal(a.vertices.begin() + 1, a.vertices.end(), b.vertices.begin() + 1, alike));
+           (a.vertices.empty() ||
+            std::equal(a.vertices.begin() + 1, a.vertices.end(), b.vertices.begin() + 1, isSameFlags));
 }
 
 bool SameSpline(const SplineCurve& a, const SplineCurve& b) {

@@ -29,10 +29,15 @@ StructureExport::StructureExport(const Drawing& drawing, dxf::StructurePatch& pa
         const std::string name = HostName(block.name);
         const std::vector<std::string>& fileBlocks = drawing.source->blocks;
         if (block.declared && std::find(fileBlocks.begin(), fileBlocks.end(), name) != fileBlocks.end())
-            inFile_.emplace(
-                dxf::FoldName(name),
-                dxf::Block{
-                    block.name, block.stored, true, block.base, block.flags, {}, block.own, block.begin, block.end});
+            inFile_.emplace(dxf::FoldName(name), dxf::Block{block.name,
+                                                            block.stored,
+                                                            true,
+                                                            block.base,
+                                                            block.flags,
+                                                            {},
+                                                            block.extended,
+                                                            block.begin,
+                                                            block.end});
     }
 }
 
@@ -80,7 +85,7 @@ void StructureExport::WriteBlock(const Block& block) {
     fileBlock.name = Utf8FromCodePage(block.name);
     fileBlock.base = block.base;
     if (const std::string tree = StyleTreeOf(block); !tree.empty())
-        fileBlock.own.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
+        fileBlock.extended.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
     std::vector<const Graphic*> parts;
     for (size_t i = 0; i < block.Content().MemberCount(); ++i) {
         const Graphic& part = *block.Content().MemberAt(i);
@@ -105,12 +110,13 @@ void StructureExport::CheckGroup(const std::string& name, const Graphic& group) 
 void StructureExport::WriteTree(const Block& block, const dxf::Block& known) {
     const std::string tree = StyleTreeOf(block);
     if (tree == StyleTreeOf(known)) return;
-    dxf::ExtendedData own = known.own;
-    own.erase(std::remove_if(own.begin(), own.end(),
-                             [](const dxf::ExtendedValue& value) { return value.name == dxf::kExtendedStyleTree; }),
-              own.end());
-    if (!tree.empty()) own.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
-    patch_.SetExtendedData(known, own);
+    dxf::ExtendedData extended = known.extended;
+    extended.erase(
+        std::remove_if(extended.begin(), extended.end(),
+                       [](const dxf::ExtendedValue& value) { return value.name == dxf::kExtendedStyleTree; }),
+        extended.end());
+    if (!tree.empty()) extended.push_back({dxf::kExtendedStyleTree, Utf8FromCodePage(tree), {}});
+    patch_.SetExtendedData(known, extended);
 }
 
 // Only layers that existed when the drawing was read or saved.
@@ -118,9 +124,10 @@ void StructureExport::RemoveLayers() {
     const LayerTable* layers = drawing_.Layers();
     for (const dxf::Layer& layer : patch_.Known().layers) {
         const std::string name = HostName(layer.name);
-        const std::vector<std::string>& had = drawing_.source->layers;
-        const bool isGone = layers && !layers->IdOf(name) && std::find(had.begin(), had.end(), name) != had.end();
-        if (!isGone || !layer.declared || omitted_.Has(OmittedObjects::NameOfLayer(name))) continue;
+        const std::vector<std::string>& known = drawing_.source->layers;
+        const bool isRemoved =
+            layers && !layers->IdOf(name) && std::find(known.begin(), known.end(), name) != known.end();
+        if (!isRemoved || !layer.declared || omitted_.Has(OmittedObjects::NameOfLayer(name))) continue;
         patch_.RemoveLayer(layer);
     }
 }
@@ -149,8 +156,8 @@ void StructureExport::RemoveOthers() {
     const std::vector<uint32_t>& all = drawing_.source->graphics;
     std::set_difference(all.begin(), all.end(), retained_.begin(), retained_.end(), std::back_inserter(others));
     for (const uint32_t offset : others) {
-        const auto holds = [offset](const auto& range) { return range.first < offset && offset < range.second; };
-        if (omitted_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), holds))
+        const auto contains = [offset](const auto& range) { return range.first < offset && offset < range.second; };
+        if (omitted_.Removed().count(offset) == 0 && std::none_of(removed_.begin(), removed_.end(), contains))
             patch_.Remove(offset);
     }
 }
@@ -180,8 +187,8 @@ std::string StyleTreeOf(const Block& block) {
 }
 
 std::string StyleTreeOf(const dxf::Block& block) {
-    for (const dxf::ExtendedValue& own : block.own)
-        if (own.name == dxf::kExtendedStyleTree) return CodePageFromUtf8(own.text);
+    for (const dxf::ExtendedValue& extended : block.extended)
+        if (extended.name == dxf::kExtendedStyleTree) return CodePageFromUtf8(extended.text);
     return {};
 }
 

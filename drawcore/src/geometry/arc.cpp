@@ -33,8 +33,8 @@ std::optional<EllipseArc> ArcOfBulge(const Vec3& a, const Vec3& b, double bulge)
     if (!std::isfinite(bulge) || std::fabs(bulge) < 1e-9 || (chord.x == 0 && chord.y == 0)) return std::nullopt;
     // The center is on the perpendicular bisector of the chord, (1 - b^2) / 4b chord lengths away, to the left for a
     // small counterclockwise arc.
-    const double away = (1 - bulge * bulge) / (4 * bulge);
-    const Vec3 center{(a.x + b.x) / 2 - chord.y * away, (a.y + b.y) / 2 + chord.x * away, a.z};
+    const double distance = (1 - bulge * bulge) / (4 * bulge);
+    const Vec3 center{(a.x + b.x) / 2 - chord.y * distance, (a.y + b.y) / 2 + chord.x * distance, a.z};
     return CircleArc(center, std::hypot(a.x - center.x, a.y - center.y), std::atan2(a.y - center.y, a.x - center.x),
                      4 * std::atan(bulge));
 }

@@ -142,7 +142,7 @@ void Graphic::ChangingShape() {
 
 void Graphic::ChangedAppearance() {
     dwFlags |= kFlagDirty;
-    if (SpatialIndex* index = Top().MemberIndex()) index->NotePen(GetPen());
+    if (SpatialIndex* index = Top().MemberIndex()) index->ExtendReach(GetPen());
 }
 
 void Graphic::ChangedShape() {
@@ -155,17 +155,17 @@ void Graphic::InvalidateExtents() {
     // parent.
     Graphic* graphic = this;
     do {
-        if (graphic->indexed_) graphic->Parent()->MemberIndex()->Forget(*graphic);
-        const bool known = std::exchange(graphic->extentsKnown_, false);
+        if (graphic->indexed_) graphic->Parent()->MemberIndex()->Remove(*graphic);
+        const bool known = std::exchange(graphic->extentsValid_, false);
         if (known && graphic->isBlockContent_) InvalidateInsertions(*graphic);
-    } while ((graphic = graphic->Parent()) && graphic->extentsKnown_);
+    } while ((graphic = graphic->Parent()) && graphic->extentsValid_);
 }
 
 const Extents& Graphic::GetExtents() const {
     Extents& extents = Box();
-    if (extentsKnown_) return extents;
+    if (extentsValid_) return extents;
     extents = {};
-    extentsKnown_ = KeepsExtents(); // set before visiting members, because a block may contain an insertion of itself
+    extentsValid_ = KeepsExtents(); // set before visiting members, because a block may contain an insertion of itself
     AddShapeExtents(extents);
     Matrix motion;
     const bool moved = FindMotion(motion);

@@ -77,7 +77,7 @@ public:
     DrawingContents* GetDrawing() const; // also null if the drawing has been freed
 
     // Setters call one of the first two functions before a change, for the undo log, and one of the others after it.
-    void ChangingAppearance(); // before changes of what GetAppearance returns
+    void ChangingAppearance(); // before a value of GetAppearance changes
     void ChangingShape();      // before any other change
     void ChangedAppearance();
     void ChangedShape();
@@ -156,7 +156,7 @@ private:
     bool inUndoLog_ = false;
     bool isBlockContent_ = false;
     bool indexed_ = false;              // is in the owner's index with Box()
-    mutable bool extentsKnown_ = false; // Box() contains them
+    mutable bool extentsValid_ = false; // Box() contains them
 };
 
 // Returns the width of the graphic's pen. A marker is resolved by the graphic's layer; by block is 0.

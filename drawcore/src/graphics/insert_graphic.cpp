@@ -40,7 +40,7 @@ InsertGraphic::More& InsertGraphic::GetMore() {
     return *more_;
 }
 
-// Steps of length 0 are kept too, because the file contains them.
+// Steps of length 0 are stored too, because the file contains them.
 void InsertGraphic::SetArray(const InsertArray& array) {
     if (more_ || !(array == InsertArray())) GetMore().array = array;
 }

@@ -58,8 +58,8 @@ double Share(double low, double high, double allLow, double allHigh) {
     return all > 0 ? std::clamp((std::min(high, allHigh) - std::max(low, allLow)) / all, 0.0, 1.0) : 1;
 }
 
-// Returns whether the box contains so much that checking every member is faster than sorting the results.
-bool ContainsMuch(const Extents& box, const Extents& all) {
+// Returns whether the box is so large that checking every member is faster than sorting the results.
+bool IsLargePart(const Extents& box, const Extents& all) {
     constexpr double kMuch = 0.125;
     return Share(box.low.x, box.high.x, all.low.x, all.high.x) * Share(box.low.y, box.high.y, all.low.y, all.high.y) >
            kMuch;
@@ -75,17 +75,17 @@ public:
 SpatialIndex::SpatialIndex() = default;
 SpatialIndex::~SpatialIndex() = default;
 
-void SpatialIndex::NotePen(const Pen& pen) {
+void SpatialIndex::ExtendReach(const Pen& pen) {
     double& reach = pen.scaleSystem == kScaleWorld ? worldReach_ : paperReach_;
     constexpr double kWidestInherited = 2.11 / kMillimetersPerInch; // the greatest line weight of a layer
     reach = std::max(reach, (pen.width >= 0 ? pen.width : kWidestInherited) / 2);
 }
 
-void SpatialIndex::NoteMember(const Graphic& member) {
-    NotePen(member.GetPen());
+void SpatialIndex::ExtendReachOver(const Graphic& member) {
+    ExtendReach(member.GetPen());
     worldReach_ = std::max(worldReach_, member.Reach());
     for (size_t i = 0; i < member.MemberCount(); ++i)
-        NoteMember(*member.MemberAt(i));
+        ExtendReachOver(*member.MemberAt(i));
 }
 
 void SpatialIndex::Build(const Graphic& group) {
@@ -96,17 +96,17 @@ void SpatialIndex::Build(const Graphic& group) {
         const Extents& extents = member.GetExtents();
         if (!extents.IsEmpty()) entries.push_back({BoxOf(extents), index});
         member.indexed_ = true;
-        NoteMember(member);
+        ExtendReachOver(member);
     }
     tree_ = std::make_unique<Tree>(entries.begin(), entries.end());
     changed_.clear();
-    known_ = group.MemberCount();
+    memberCount_ = group.MemberCount();
 }
 
-// Adds new members, which follow the known ones.
+// Adds new members, which follow the previous ones.
 void SpatialIndex::AddNewMembers(const Graphic& group) {
-    for (; known_ < group.MemberCount(); ++known_)
-        changed_.push_back(static_cast<uint32_t>(known_));
+    for (; memberCount_ < group.MemberCount(); ++memberCount_)
+        changed_.push_back(static_cast<uint32_t>(memberCount_));
     constexpr size_t kMinRebuild = 64;
     if (!tree_ || changed_.size() > kMinRebuild + group.MemberCount() / 16)
         return Build(group); // faster than updating one by one
@@ -115,12 +115,12 @@ void SpatialIndex::AddNewMembers(const Graphic& group) {
         const Extents& extents = member.GetExtents();
         if (!extents.IsEmpty()) tree_->insert({BoxOf(extents), index});
         member.indexed_ = true;
-        NoteMember(member);
+        ExtendReachOver(member);
     }
     changed_.clear();
 }
 
-void SpatialIndex::Forget(Graphic& member) {
+void SpatialIndex::Remove(Graphic& member) {
     member.indexed_ = false;
     if (!tree_) return;
     changed_.push_back(member.GetHostData().index);
@@ -133,7 +133,7 @@ void SpatialIndex::Drop() {
 }
 
 std::optional<std::vector<uint32_t>> SpatialIndex::Find(const Graphic& group, const Extents& box, double paperInch) {
-    if (ContainsMuch(box, group.GetExtents())) return std::nullopt;
+    if (IsLargePart(box, group.GetExtents())) return std::nullopt;
     AddNewMembers(group);
     const double reach = std::max(worldReach_, paperReach_ * paperInch);
     Extents around = box;

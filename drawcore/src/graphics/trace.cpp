@@ -62,7 +62,7 @@ void TraceDot(const Extents& box, const Trace& trace, const PenUse& use) {
     trace.sink.Stroke(path, use);
 }
 
-bool HidesNothing(const LayerTable& layers) {
+bool ShowsAllLayers(const LayerTable& layers) {
     for (Id id = layers.First(); id; id = layers.Next(id))
         if (!layers.At(id)->IsVisible()) return false;
     return true;
@@ -140,7 +140,7 @@ void TraceGraphic(const Graphic& graphic, const Trace& trace) {
 }
 
 Extents VisibleExtents(const Graphic& graphic, const DrawingContents* drawing) {
-    if (!drawing || !drawing->Layers() || HidesNothing(*drawing->Layers())) return graphic.GetExtents();
+    if (!drawing || !drawing->Layers() || ShowsAllLayers(*drawing->Layers())) return graphic.GetExtents();
     Extents extents;
     ExtentsSink sink(extents);
     TraceTools tools(drawing);

@@ -12,7 +12,7 @@ namespace drawcore {
 UndoLog::UndoLog() = default;
 UndoLog::~UndoLog() = default;
 
-bool UndoLog::Saved::IsDifferentNow() const {
+bool UndoLog::Saved::HasChanged() const {
     return state ? !graphic->EqualState(*state) : !graphic->HasAppearance(*appearance);
 }
 
@@ -26,7 +26,7 @@ void UndoLog::Saved::Restore() const {
 
 // Discards unchanged entries and working memory.
 void UndoLog::Step::Close() {
-    const auto isSame = [](const Saved& entry) { return !entry.IsDifferentNow(); };
+    const auto isSame = [](const Saved& entry) { return !entry.HasChanged(); };
     saved.erase(std::remove_if(saved.begin(), saved.end(), isSame), saved.end());
     constexpr size_t kNode = sizeof(Appearance) + 4 * sizeof(void*); // of the set, including its share of buckets and
                                                                      // heap overhead
@@ -85,7 +85,7 @@ UndoLog::Saved* UndoLog::Step::Find(const Graphic& graphic) {
     return found != saved.end() && found->graphic == &graphic ? &*found : nullptr;
 }
 
-void UndoLog::Step::Forget(const Graphic& graphic) {
+void UndoLog::Step::RemoveGraphic(const Graphic& graphic) {
     Saved* entry = Find(graphic);
     if (!entry) return;
     entry->appearance = nullptr;
@@ -214,9 +214,9 @@ void UndoLog::Remove(Graphic& graphic) {
             saved.pop_back();
         }
     for (size_t i = 0; i < Steps(); ++i)
-        steps_[i].Forget(graphic);
+        steps_[i].RemoveGraphic(graphic);
     for (Step& step : undone_)
-        step.Forget(graphic);
+        step.RemoveGraphic(graphic);
 }
 
 } // namespace drawcore

@@ -27,10 +27,10 @@ public:
     int End();    // returns the number of graphics that differ; a step without any is discarded
     int Cancel(); // closes the step and reverts it completely; returns the number of graphics restored
     int Undo();   // reverts the last step; returns the number of graphics restored, 0 without a step
-    int Redo();   // redoes the step undone last; returns likewise
+    int Redo();   // redoes the step undone last; returns the number of graphics restored, 0 without a step
     size_t Steps() const { return steps_.size() - (open_ ? 1 : 0); }
     size_t UndoneSteps() const { return undone_.size(); }
-    uint32_t Mark() const; // identifies the state; each state in the lifetime of the drawing has another
+    uint32_t Mark() const; // identifies the state; each state in the lifetime of the drawing has a different one
 
     void SetMemoryLimit(size_t bytes) { memoryLimit_ = bytes; }
     void SetListener(const ChangeListener& listener) { listener_ = listener; }
@@ -47,7 +47,7 @@ private:
         std::unique_ptr<Graphic> state;
 
         bool IsRemoved() const { return !appearance && !state; }
-        bool IsDifferentNow() const;
+        bool HasChanged() const;
         void Restore() const;
     };
     struct Step {
@@ -61,7 +61,7 @@ private:
         Saved* Find(const Graphic& graphic);
         void Add(Graphic& graphic);
         const Appearance* StoreAppearance(const Graphic& graphic);
-        void Forget(const Graphic& graphic);
+        void RemoveGraphic(const Graphic& graphic);
         void Close();
         Step CurrentState() const; // the current state of the same graphics
         int Restore() const;       // returns the number of graphics

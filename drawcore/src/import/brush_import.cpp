@@ -32,11 +32,11 @@ Id StyleOf(const dxf::BrushAppearance& appearance, BrushStyleTable& styles) {
 } // namespace
 
 std::vector<dxf::Hatch::PatternLine> FileLines(const BrushStyle& style) {
-    std::vector<dxf::Hatch::PatternLine> made;
+    std::vector<dxf::Hatch::PatternLine> fileLines;
     for (const PatternLine& from : style.lines)
-        made.push_back(
+        fileLines.push_back(
             {Degrees(from.angle), {from.base.x, from.base.y, 0}, {from.offset.x, from.offset.y, 0}, from.dashes});
-    return made;
+    return fileLines;
 }
 
 Brush ImportBrush(const dxf::BrushAppearance& appearance, BrushStyleTable& styles) {

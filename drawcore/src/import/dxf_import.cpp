@@ -40,8 +40,9 @@ public:
 
 private:
     void FillBlock(const dxf::Block& from, Block& block) {
-        for (const dxf::ExtendedValue& own : from.own)
-            if (own.name == dxf::kExtendedStyleTree) block.Content().SetStyleName(CodePageFromUtf8(own.text).c_str());
+        for (const dxf::ExtendedValue& extended : from.extended)
+            if (extended.name == dxf::kExtendedStyleTree)
+                block.Content().SetStyleName(CodePageFromUtf8(extended.text).c_str());
         for (const dxf::Entity& entity : from.entities) {
             Advance();
             entities_.AddTo(block.Content(), entity, true);

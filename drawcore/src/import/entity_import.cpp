@@ -89,10 +89,10 @@ std::unique_ptr<Graphic> MakeFlat(const dxf::Entity& entity, const dxf::Polyline
 bool IsFilled(const dxf::Hatch& hatch, const dxf::Hatch::Loop& loop) {
     enum { kExternal = 1, kOutermost = 16 };
     enum { kOuter = 1, kIgnore = 2 };
-    const int wanted = hatch.style == kIgnore ? kExternal : kExternal | kOutermost;
-    const auto isWanted = [&](const dxf::Hatch::Loop& some) { return (some.flags & wanted) != 0; };
-    const bool flagged = std::any_of(hatch.loops.begin(), hatch.loops.end(), isWanted);
-    return !flagged || isWanted(loop) || (hatch.style != kOuter && hatch.style != kIgnore);
+    const int flags = hatch.style == kIgnore ? kExternal : kExternal | kOutermost;
+    const auto hasFlag = [&](const dxf::Hatch::Loop& some) { return (some.flags & flags) != 0; };
+    const bool flagged = std::any_of(hatch.loops.begin(), hatch.loops.end(), hasFlag);
+    return !flagged || hasFlag(loop) || (hatch.style != kOuter && hatch.style != kIgnore);
 }
 
 } // namespace

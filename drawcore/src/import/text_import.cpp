@@ -41,9 +41,9 @@ void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
         !fitted && (text.horizontal != Horizontal::left || text.vertical != dxf::Text::Vertical::baseline);
     double angle = Radians(text.rotation);
     if (fitted) {
-        const Vec3 way = text.alignment - text.insertion;
-        state.fitWidth = std::hypot(way.x, way.y);
-        if (state.fitWidth > 0) angle = std::atan2(way.y, way.x);
+        const Vec3 baseline = text.alignment - text.insertion;
+        state.fitWidth = std::hypot(baseline.x, baseline.y);
+        if (state.fitWidth > 0) angle = std::atan2(baseline.y, baseline.x);
     }
     const double slant = Radians(std::clamp(std::remainder(text.oblique, 360.0), -80.0, 80.0));
     const double backward = text.backward ? -1 : 1, upsideDown = text.upsideDown ? -1 : 1;

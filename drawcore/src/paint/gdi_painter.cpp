@@ -26,8 +26,8 @@ Box BoxOf(const RECT& rect) {
             static_cast<double>(rect.bottom)};
 }
 
-// Clips the device context to the rectangle. Returns where geometry is needed: the clip region may be smaller, but
-// geometry slightly outside can extend into it.
+// Clips the device context to the rectangle. Returns the box in which geometry is needed: the clip region may be
+// smaller, but geometry slightly outside can extend into it.
 Box NeededBoxOf(HDC dc, const RECT& clip) {
     ::IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     RECT through = clip;
@@ -59,8 +59,8 @@ Color LegibleOn(Color background, Color color, Color ink) {
             const int end = static_cast<int>(ink >> shift & 0xFF);
             shaded |= static_cast<Color>(part + (end - part) * shade / kShades) << shift;
         }
-        const double own = LuminanceOf(shaded) + kGlare;
-        if (std::max(own, light) >= kContrast * std::min(own, light)) return shaded;
+        const double luminance = LuminanceOf(shaded) + kGlare;
+        if (std::max(luminance, light) >= kContrast * std::min(luminance, light)) return shaded;
     }
     return ink;
 }
@@ -96,18 +96,18 @@ bool GdiPainter::Needs(const Extents& box, double reach) const {
            box.low.y <= needed_.bottom + reach && box.high.y >= needed_.top - reach;
 }
 
-Color GdiPainter::Seen(Color color) {
+Color GdiPainter::DisplayedColor(Color color) {
     int difference = 0, brightness = 0;
     for (const int shift : {0, 8, 16}) {
         const int part = static_cast<int>(settings_.background >> shift & 0xFF);
         difference += std::abs(static_cast<int>(color >> shift & 0xFF) - part);
         brightness += part;
     }
-    constexpr int kTooNear = 24;
+    constexpr int kMinDifference = 24;
     const bool bright = brightness > 3 * 127;
     // Black and white are drawn in the contrasting color of the background.
     const Color ink = bright ? 0 : kWhite;
-    if (difference <= kTooNear || color == (bright ? kWhite : 0)) return ink;
+    if (difference <= kMinDifference || color == (bright ? kWhite : 0)) return ink;
     if (bright && !settings_.isView) return color;
     const auto [shade, isNew] = shades_.try_emplace(color, color);
     if (isNew) shade->second = LegibleOn(settings_.background, color, ink);
@@ -117,14 +117,14 @@ Color GdiPainter::Seen(Color color) {
 GdiPainter::PenKey GdiPainter::KeyOf(const PenUse& use) {
     const double wide = std::min(use.width, settings_.widestPen);
     const int width = wide < 1.5 ? 1 : static_cast<int>(std::min(std::floor(wide + 0.5), 30000.0));
-    return {Seen(use.color), width, width > 1 && use.roundEnds};
+    return {DisplayedColor(use.color), width, width > 1 && use.roundEnds};
 }
 
 void GdiPainter::Stroke(const Path& path, const PenUse& use) {
     const PenKey key = KeyOf(use);
     const Box around = clip_.Grown(key.width + 2);
     const Where where = Locate(path, around);
-    if (where == Where::Nowhere || where == Where::Outside) return;
+    if (where == Where::Undefined || where == Where::Outside) return;
     if (use.style) {
         const DashPattern pattern{use.style->pattern, use.dashScale, use.fitDashes};
         if (ShowsDashes(pattern, kFinestDashes)) {
@@ -197,12 +197,12 @@ void GdiPainter::Fill(const Path& outlines, const BrushUse& use) {
     const Path* areas = &outlines;
     const Box around = clip_.Grown(2);
     const Where where = Locate(outlines, around);
-    if (where == Where::Nowhere || where == Where::Outside) return;
+    if (where == Where::Undefined || where == Where::Outside) return;
     if (where == Where::Across) {
         ClipAreas(outlines, around, clipped_);
         areas = &clipped_;
     }
-    const Color color = Seen(use.color);
+    const Color color = DisplayedColor(use.color);
     if (use.style && use.style->bitmap) return FillTiles(*areas, use, color);
     if (!use.style || use.style->lines.empty()) return FillSolid(*areas, color, use.winding);
     if (!ShowsHatch(use, kFinestHatch)) return FillSolid(*areas, Mixed(color, settings_.background), use.winding);
@@ -224,11 +224,11 @@ void GdiPainter::FillTiles(const Path& areas, const BrushUse& use, Color ink) {
     const Point origin = use.pattern.Plan({0, 0, 0});
     const auto step = [](double at) { return std::isfinite(at) ? static_cast<int>(std::fmod(at, kSide)) : 0; };
     ::SetBrushOrgEx(dc_, step(origin.x), step(origin.y), nullptr);
-    const bool own = bitmap.colors.has_value();
+    const bool hasColors = bitmap.colors.has_value();
     // Set bits get the background color of the device context, clear bits its text color.
-    ::SetBkColor(dc_, own ? bitmap.colors->ink : ink);
-    ::SetTextColor(dc_, own ? bitmap.colors->paper : settings_.background);
-    FillAreas(areas, brush.get(), own ? bitmap.colors->ink : ink, use.winding);
+    ::SetBkColor(dc_, hasColors ? bitmap.colors->ink : ink);
+    ::SetTextColor(dc_, hasColors ? bitmap.colors->background : settings_.background);
+    FillAreas(areas, brush.get(), hasColors ? bitmap.colors->ink : ink, use.winding);
 }
 
 void GdiPainter::FillSolid(const Path& areas, Color color, bool winding) {
@@ -266,7 +266,7 @@ void GdiPainter::Text(const TextRow& row) {
         return Stroke(line, use);
     }
     Flush();
-    texts_.Draw(row, Seen(row.color));
+    texts_.Draw(row, DisplayedColor(row.color));
 }
 
 } // namespace drawcore

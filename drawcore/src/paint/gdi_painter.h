@@ -46,7 +46,7 @@ private:
         bool operator==(const PenKey& other) const;
     };
 
-    Color Seen(Color color);
+    Color DisplayedColor(Color color);
     PenKey KeyOf(const PenUse& use);
     // lastPixel: also draws the last pixel, which the device omits for the thinnest lines.
     void AddLines(const Path& path, const PenKey& key, bool lastPixel);

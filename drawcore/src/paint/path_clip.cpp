@@ -38,7 +38,7 @@ void ClipPolygon(const std::vector<Point>& in, std::vector<Point>& out, Distance
 } // namespace
 
 Where Locate(const Path& path, const Box& box) {
-    if (path.points.empty()) return Where::Nowhere;
+    if (path.points.empty()) return Where::Undefined;
     Point low = path.points.front(), high = low;
     bool isFinite = true;
     for (const Point& p : path.points) {
@@ -46,7 +46,7 @@ Where Locate(const Path& path, const Box& box) {
         low = {std::min(low.x, p.x), std::min(low.y, p.y)};
         high = {std::max(high.x, p.x), std::max(high.y, p.y)};
     }
-    if (!isFinite) return Where::Nowhere;
+    if (!isFinite) return Where::Undefined;
     if (box.Contains(low) && box.Contains(high)) return Where::Inside;
     const bool disjoint = low.x > box.right || high.x < box.left || low.y > box.bottom || high.y < box.top;
     return disjoint ? Where::Outside : Where::Across;

@@ -13,7 +13,7 @@ struct Box {
     Box Grown(double by) const { return {left - by, top - by, right + by, bottom + by}; }
 };
 
-enum class Where { Inside, Across, Outside, Nowhere }; // Nowhere: a coordinate is not a number
+enum class Where { Inside, Across, Outside, Undefined }; // Undefined: a coordinate is not a number
 
 // Returns the position of all points of a path.
 Where Locate(const Path& path, const Box& box);

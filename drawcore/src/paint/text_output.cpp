@@ -20,7 +20,7 @@ XFORM Directions(const TextRow& row) {
             0};
 }
 
-// Gets the start of the row in font units, rounded to its pixel, so that a picture moved by combined pixels equals a
+// Gets the start of the row in font units, rounded to its pixel, so that a picture shifted by whole pixels equals a
 // redrawn one. If a font unit is larger than a pixel, the position is part of the transformation. Returns false if the
 // row is seen edge-on or is too far away for the device.
 bool Place(const TextRow& row, XFORM& form, POINT& position) {

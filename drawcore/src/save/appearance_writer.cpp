@@ -29,7 +29,7 @@ int NearestWeight(double inches) {
 AppearanceWriter::AppearanceWriter(DrawingPatch& drawing, size_t offset)
     : drawing_(drawing), offset_(offset), stored_(drawing.EntityAt(offset)), entity_(drawing.EntityAt(offset)),
       record_(drawing.patch_, drawing.in_.tags, offset) {
-    if (!entity_.own) entity_.own = std::make_unique<ExtendedData>();
+    if (!entity_.extended) entity_.extended = std::make_unique<ExtendedData>();
 }
 
 void AppearanceWriter::Write(const Appearance& wanted) {
@@ -58,28 +58,29 @@ void AppearanceWriter::WriteExtended(const Appearance& wanted) {
 }
 
 void AppearanceWriter::ExtendedText(const char* name, std::string text, std::vector<double> numbers) {
-    for (ExtendedValue& value : *entity_.own)
+    for (ExtendedValue& value : *entity_.extended)
         if (value.name == name) {
             value.text = std::move(text);
             value.numbers = std::move(numbers);
             return;
         }
-    entity_.own->push_back({name, std::move(text), std::move(numbers)});
+    entity_.extended->push_back({name, std::move(text), std::move(numbers)});
 }
 
 void AppearanceWriter::RemoveExtended(std::string_view name) {
-    const auto isNamed = [&](const ExtendedValue& own) { return own.name == name; };
-    entity_.own->erase(std::remove_if(entity_.own->begin(), entity_.own->end(), isNamed), entity_.own->end());
+    const auto isNamed = [&](const ExtendedValue& extended) { return extended.name == name; };
+    entity_.extended->erase(std::remove_if(entity_.extended->begin(), entity_.extended->end(), isNamed),
+                            entity_.extended->end());
 }
 
 void AppearanceWriter::WriteExtendedValue() {
-    if (*entity_.own == (stored_.own ? *stored_.own : ExtendedData())) return;
-    for (const ExtendedValue& value : *entity_.own) {
+    if (*entity_.extended == (stored_.extended ? *stored_.extended : ExtendedData())) return;
+    for (const ExtendedValue& value : *entity_.extended) {
         const ExtendedValue* was = FindExtended(stored_, value.name);
         const bool isNew = !was || !(*was == value);
         if (isNew && exact_.count(value.name) == 0) ++drawing_.onlyExtended_[value.name];
     }
-    const std::vector<RecordPatch::Value> values = ExtendedValues(*entity_.own, drawing_.in_.decoder);
+    const std::vector<RecordPatch::Value> values = ExtendedValues(*entity_.extended, drawing_.in_.decoder);
     constexpr size_t kMax = 16383; // maximum number of bytes of extended data per entity
     size_t size = 0;
     for (const RecordPatch::Value& value : values)
@@ -96,7 +97,7 @@ void AppearanceWriter::WriteLayer(const Appearance& wanted) {
     entity_.layer = wanted.layer;
 }
 
-bool AppearanceWriter::CanPutColor(uint32_t color) const {
+bool AppearanceWriter::CanStoreColor(uint32_t color) const {
     const bool plain = color >> 24 == 0;
     return !plain || ColorOfIndex(NearestIndex(color)) == color || IsNewer("AC1018") || record_.HasCommon(420);
 }
@@ -109,7 +110,7 @@ void AppearanceWriter::PutColor(uint32_t color) {
     } else {
         entity_.color = static_cast<int16_t>(NearestIndex(color));
         const bool exact = ColorOfIndex(entity_.color) == color;
-        if (!exact && CanPutColor(color)) entity_.trueColor = TrueColorOf(color);
+        if (!exact && CanStoreColor(color)) entity_.trueColor = TrueColorOf(color);
     }
     if (entity_.color == kIndexByLayer)
         record_.RemoveCommon(62);
@@ -129,14 +130,14 @@ void AppearanceWriter::WriteColor(const Appearance& wanted) {
     RemoveExtended(kPropPenColor);
     RemoveExtended(kPropBrushColor);
     // Other programs only see the brush of a hatch.
-    if (isHatch && brush != kColorOfPen && CanPutColor(brush)) {
+    if (isHatch && brush != kColorOfPen && CanStoreColor(brush)) {
         exact_.insert(kPropBrushColor);
         PutColor(brush);
         ExtendedNumbers(kPropBrushColor, {static_cast<double>(brush), static_cast<double>(wanted.color)});
         return;
     }
     if (AppearanceByGroups(drawing_.Known(), entity_).color != wanted.color) PutColor(wanted.color);
-    if (!CanPutColor(wanted.color))
+    if (!CanStoreColor(wanted.color))
         ExtendedNumbers(kPropPenColor, {static_cast<double>(wanted.color), static_cast<double>(entity_.color)});
     if (brush != kColorOfPen) ExtendedNumbers(kPropBrushColor, {static_cast<double>(brush)});
 }
@@ -189,8 +190,8 @@ void AppearanceWriter::WriteWidth(const Appearance& wanted) {
     if (isWritten()) return;
     RemoveExtended(kPropPenWidth);
     auto* polyline = std::get_if<Polyline>(&entity_.shape);
-    const bool holdsWidth = polyline && polyline->kind == Polyline::Kind::flat && HasOneWidth(*polyline);
-    if (wanted.worldWidth && wanted.width > 0 && holdsWidth) return PutPolylineWidth(*polyline, wanted.width);
+    const bool storesWidth = polyline && polyline->kind == Polyline::Kind::flat && HasOneWidth(*polyline);
+    if (wanted.worldWidth && wanted.width > 0 && storesWidth) return PutPolylineWidth(*polyline, wanted.width);
     if (!wanted.worldWidth) {
         if (AppearanceByGroups(drawing_.Known(), entity_).worldWidth) PutPolylineWidth(*polyline, 0);
         WritePaperWidth(wanted);

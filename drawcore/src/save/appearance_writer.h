@@ -41,7 +41,7 @@ private:
     void WriteLayer(const Appearance& wanted);
     void WriteColor(const Appearance& wanted);
     void PutColor(uint32_t color);
-    bool CanPutColor(uint32_t color) const;
+    bool CanStoreColor(uint32_t color) const;
     void WriteLineType(const Appearance& wanted);
     void WriteLineScale(const Appearance& wanted);
     void WriteWidth(const Appearance& wanted);

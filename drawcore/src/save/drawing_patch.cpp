@@ -126,13 +126,13 @@ std::string DrawingPatch::TextStyleFor(const FontFace& face) {
     std::vector<TextStyle>& styles = in_.document.textStyles;
     const auto fits = [&](const TextStyle& style) {
         const FontFace has = FaceOf(style);
-        return style.declared && has.family == face.family && has.cut == face.cut;
+        return style.declared && has.family == face.family && has.style == face.style;
     };
     const auto known = std::find_if(styles.begin(), styles.end(), fits);
     if (known != styles.end()) return known->name;
     if (face.family.empty()) return {};
     const std::string plain =
-        face.family + (face.cut & kTextBold ? " Bold" : "") + (face.cut & kTextItalic ? " Italic" : "");
+        face.family + (face.style & kTextBold ? " Bold" : "") + (face.style & kTextItalic ? " Italic" : "");
     size_t index = 0;
     for (int number = 1; index == 0 || styles[index].declared; ++number) // a style with that name may have another face
         index = in_.textStyles.FindUtf8(number == 1 ? plain : plain + " " + std::to_string(number));
@@ -140,8 +140,8 @@ std::string DrawingPatch::TextStyleFor(const FontFace& face) {
     style.declared = true;
     style.fontFace = face.family;
     style.fontFile = FontFileOf(face);
-    style.bold = (face.cut & kTextBold) != 0;
-    style.italic = (face.cut & kTextItalic) != 0;
+    style.bold = (face.style & kTextBold) != 0;
+    style.italic = (face.style & kTextItalic) != 0;
     tables_.AddTextStyle(style);
     return style.name;
 }

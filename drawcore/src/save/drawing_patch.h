@@ -22,8 +22,8 @@ namespace dxf {
 struct EntityChange {
     // For an insertion. Its attributes move with it, even those without other changes.
     const AxisEnds* ends = nullptr;
-    // With `ends`: has the requested scales and rotation, which others could replace: two mirrored axes are a half
-    // turn.
+    // Used with `ends`: the requested scales and rotation, since other numbers can describe the same axes: two mirrored
+    // axes equal a half turn.
     const Insert* numbers = nullptr;
     // In world coordinates, for an entity with a position (placement.h) that is not an insertion.
     const Vec3* position = nullptr;

@@ -222,12 +222,12 @@ std::string EntityRecords::BlockLines(const Block& block, const std::string& own
     Put(values, 10, block.base);
     values.push_back({3, block.name});
     values.push_back({1, ""});
-    if (!block.own.empty()) {
+    if (!block.extended.empty()) {
         tables_.AddApplication(kApplication);
         values.push_back({kApplicationName, kApplication});
     }
-    const Values own = ExtendedValues(block.own, tables_.Decoder());
-    values.insert(values.end(), own.begin(), own.end());
+    const Values extended = ExtendedValues(block.extended, tables_.Decoder());
+    values.insert(values.end(), extended.begin(), extended.end());
     return tables_.LinesOf(values);
 }
 

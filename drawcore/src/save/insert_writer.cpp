@@ -10,7 +10,7 @@ namespace dxf {
 
 namespace {
 
-// Returns whether a block looks the same at the same or another position.
+// Returns whether two placements of a block differ at most in its position and in invisible amounts.
 bool IsSamePlacement(const Matrix& a, const Matrix& b) {
     for (int row = 0; row < 3; ++row)
         for (int column = 0; column < 3; ++column)
@@ -31,9 +31,9 @@ double Turned(double was, double now, double rounding) {
     return std::fabs(std::remainder(now - was, 360)) <= rounding ? was : now;
 }
 
-// Returns the numbers of an insertion in its object coordinates that approximate the placement, close to those given. A
-// mirrored x axis and a half turn differ only in the y axis: what was mirrored remains so, and what becomes mirrored
-// keeps its angle.
+// Returns the numbers of an insertion in its object coordinates that approximate the placement, close to those of
+// `insert`. Mirroring the x axis equals mirroring the y axis and turning by a half turn: an insertion that was mirrored
+// at an axis remains mirrored at it, and one that becomes mirrored keeps its angle.
 Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& placement) {
     Insert placed;
     Matrix back;
@@ -101,7 +101,7 @@ void AppearanceWriter::PutPlacement(Insert& insert, const Matrix& placement, con
     const bool isTable = record_.Groups()[0].value.find("TABLE") != std::string_view::npos;
     Vec3 normal = entity_.normal;
     Insert placed = PlacedInsert(normal, numbers, placement);
-    if (!isTable && !IsSamePlacement(MatrixOf(normal, placed), placement)) { // it has left its plane
+    if (!isTable && !IsSamePlacement(MatrixOf(normal, placed), placement)) { // the block has left its plane
         const Vec3 tilted = NormalOf(placement, numbers);
         Insert other = PlacedInsert(tilted, numbers, placement);
         if (IsSamePlacement(MatrixOf(tilted, other), placement)) {

@@ -21,9 +21,9 @@ std::string RealText(double value) {
     return text;
 }
 
-std::vector<RecordPatch::Value> ExtendedValues(const ExtendedData& own, const TextDecoder& decoder) {
+std::vector<RecordPatch::Value> ExtendedValues(const ExtendedData& isApplication, const TextDecoder& decoder) {
     std::vector<RecordPatch::Value> values;
-    for (const ExtendedValue& value : own) {
+    for (const ExtendedValue& value : isApplication) {
         values.push_back({kExtendedText, decoder.Encode(value.name), true});
         values.push_back({kExtendedBrace, "{", true});
         for (std::string& piece : decoder.EncodePieces(WriteExtendedText(value.text)))
@@ -146,14 +146,14 @@ void RecordPatch::SetExtended(const char* application, const std::vector<Value>&
     for (const Value& value : values)
         lines += Lines(value.code, value.text);
     size_t begin = end_, end = end_;
-    bool own = false;
+    bool isApplication = false;
     for (const Group& group : groups_) {
         if (group.code == kApplicationName) {
-            if (own) break;
-            own = Tag{group.code, group.value}.Is(kApplicationName, application);
-            if (own) begin = group.begin;
+            if (isApplication) break;
+            isApplication = Tag{group.code, group.value}.Is(kApplicationName, application);
+            if (isApplication) begin = group.begin;
         }
-        if (own) end = group.end;
+        if (isApplication) end = group.end;
     }
     patch_.Replace(begin, end - begin, std::move(lines));
 }

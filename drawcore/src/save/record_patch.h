@@ -73,7 +73,7 @@ private:
 };
 
 // Returns the values of extended data of kApplication as stored.
-std::vector<RecordPatch::Value> ExtendedValues(const ExtendedData& own, const TextDecoder& decoder);
+std::vector<RecordPatch::Value> ExtendedValues(const ExtendedData& extended, const TextDecoder& decoder);
 
 // Returns the shortest text that is parsed back as the same number.
 std::string RealText(double value);

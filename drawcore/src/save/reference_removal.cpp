@@ -46,9 +46,9 @@ public:
         tags_.Next();
         while (!tags_.Current().Is(0, "EOF")) {
             const size_t begin = tags_.Current().offset;
-            const auto gone = of_.ranges_.find(begin);
-            if (gone != of_.ranges_.end()) {
-                tags_.Seek(gone->second.end);
+            const auto removed = of_.ranges_.find(begin);
+            if (removed != of_.ranges_.end()) {
+                tags_.Seek(removed->second.end);
                 continue;
             }
             if (tags_.Current().Is(0, "SECTION")) {
@@ -69,11 +69,11 @@ private:
         const RecordPatch record(of_.patch_, tags_, begin);
         groups_ = &record.Groups();
         kind_ = Tag{0, (*groups_)[0].value}.Trimmed();
-        const std::string own = OwnHandle();
+        const std::string handle = OwnHandle();
         // Of two records with the same handle, one remains that others refer to.
-        if (of_.handles_.erase(own) > 0) grows_ = true;
-        const auto owned = of_.owned_.find(own);
-        if (!own.empty() && owned != of_.owned_.end())
+        if (of_.handles_.erase(handle) > 0) grows_ = true;
+        const auto owned = of_.owned_.find(handle);
+        if (!handle.empty() && owned != of_.owned_.end())
             return RemoveRecord(record.End(), owned->second, of_.edits_.size());
         const size_t before = of_.edits_.size();
         const std::optional<Loss> loss = DropReferences();
@@ -93,7 +93,7 @@ private:
 
     // A reference to a removed record without which the current record is meaningless.
     struct Loss {
-        size_t objectOffset; // stands for the removed record
+        size_t objectOffset; // identifies the removed record
         bool isLastMember;   // of a group
     };
 
@@ -134,7 +134,7 @@ private:
         of_.edits_.resize(edits);
         of_.edits_.push_back({begin, end - begin, {}});
         of_.ranges_.emplace(begin, Range{end, objectOffset});
-        of_.NoteHandles(begin, {end, objectOffset});
+        of_.RecordHandles(begin, {end, objectOffset});
         grows_ = true;
         tags_.Seek(end);
     }
@@ -183,10 +183,10 @@ private:
         for (size_t i = at; i-- > 0;) {
             const Group& group = (*groups_)[i];
             if (group.code != 97) continue;
-            const int gone = ++boundaries_[group.begin];
+            const int removed = ++boundaries_[group.begin];
             const auto isSameCount = [&](const Edit& edit) { return edit.at == of_.patch_.OffsetOf(group.value); };
             of_.edits_.erase(std::remove_if(of_.edits_.begin(), of_.edits_.end(), isSameCount), of_.edits_.end());
-            Put(group, std::to_string(Tag{97, group.value}.Integer() - gone));
+            Put(group, std::to_string(Tag{97, group.value}.Integer() - removed));
             break;
         }
         for (const Group& group : *groups_) {
@@ -216,10 +216,10 @@ private:
 
 void ReferenceRemoval::Add(size_t begin, size_t end, size_t objectOffset) {
     ranges_.emplace(begin, Range{end, objectOffset});
-    NoteHandles(begin, {end, objectOffset});
+    RecordHandles(begin, {end, objectOffset});
 }
 
-void ReferenceRemoval::NoteHandles(size_t begin, const Range& range) {
+void ReferenceRemoval::RecordHandles(size_t begin, const Range& range) {
     TagReader tags(patch_.Text());
     for (size_t at = begin; at < range.end;) {
         const RecordPatch record(patch_, tags, at);

@@ -38,11 +38,11 @@ private:
     };
     class Scan;
 
-    void NoteHandles(size_t begin, const Range& range);
+    void RecordHandles(size_t begin, const Range& range);
 
     TextPatch& patch_;
     std::map<size_t, Range> ranges_;        // by begin
-    std::map<std::string, size_t> handles_; // removed handles, and the offsets that stand for them
+    std::map<std::string, size_t> handles_; // removed handles, and the offsets that identify them
     std::map<std::string, size_t> owned_;   // likewise, for objects removed with their owners
     std::vector<Edit> edits_;
     std::vector<BlockingReference> blocking_;

@@ -59,10 +59,10 @@ void StructurePatch::ResetCurrentLayer(const Layer& removed) {
     if (in_.document.layers[in_.layers.Find(name)].offset == removed.offset) patch_.Replace(name, "0");
 }
 
-void StructurePatch::SetExtendedData(const Block& block, const ExtendedData& own) {
-    if (!own.empty()) tables_.AddApplication(kApplication);
+void StructurePatch::SetExtendedData(const Block& block, const ExtendedData& extended) {
+    if (!extended.empty()) tables_.AddApplication(kApplication);
     RecordPatch record(patch_, in_.tags, block.begin);
-    record.SetExtended(kApplication, ExtendedValues(own, in_.decoder));
+    record.SetExtended(kApplication, ExtendedValues(extended, in_.decoder));
     changed_ = true;
 }
 

@@ -31,7 +31,7 @@ public:
     // Removes the layer's record. Entities may still be on it.
     void RemoveLayer(const Layer& layer);
     // Replaces the block's extended data of kApplication.
-    void SetExtendedData(const Block& block, const ExtendedData& own);
+    void SetExtendedData(const Block& block, const ExtendedData& extended);
 
     // Throws SaveError if the version has no such entity.
     void Check(const Entity& entity) { records_.LinesOf(entity, {}); }

@@ -22,7 +22,7 @@ std::string Hex(uint64_t number) {
 
 } // namespace
 
-void TablePatch::NoteHandle(const Tag& tag) {
+void TablePatch::RecordHandle(const Tag& tag) {
     if (tag.code != kHandle && tag.code != kDimensionStyleHandle) return;
     if (const auto handle = ParseNumber<uint64_t>(tag.Trimmed(), 16)) highest_ = std::max(highest_, *handle);
 }
@@ -32,9 +32,9 @@ void TablePatch::ScanTables(TagReader& tags) {
     Table* table = nullptr;
     bool isBlockRecord = false;
     while (!tags.Next().Is(0, "ENDSEC")) {
-        NoteHandle(tag);
+        RecordHandle(tag);
         if (tag.code == 0) isBlockRecord = table && tag.Is(0, kBlockRecord);
-        if (isBlockRecord) NoteBlockRecord(tag);
+        if (isBlockRecord) ScanBlockRecord(tag);
         if (tag.Is(0, "TABLE")) {
             const size_t head = tag.offset;
             tags.Next();
@@ -57,12 +57,12 @@ void TablePatch::ScanTables(TagReader& tags) {
 void TablePatch::ScanApplication(TagReader& tags) {
     const Tag& tag = tags.Current();
     while (tags.Next().code != 2 && tag.code != 0)
-        NoteHandle(tag);
+        RecordHandle(tag);
     applications_.push_back(decoder_.Decode(tag.Trimmed()));
 }
 
 // The handle precedes the name.
-void TablePatch::NoteBlockRecord(const Tag& tag) {
+void TablePatch::ScanBlockRecord(const Tag& tag) {
     if (tag.code == 0) blockRecord_ = {{}, {}, {}, tag.offset, true};
     if (tag.code == kHandle) blockRecord_.handle = tag.Trimmed();
     if (tag.code != 2) return;
@@ -71,7 +71,7 @@ void TablePatch::NoteBlockRecord(const Tag& tag) {
     record.begin = blockRecord_.begin;
 }
 
-void TablePatch::NoteSection(const Tag& tag) {
+void TablePatch::ScanSection(const Tag& tag) {
     if (tag.Is(0, "ENDSEC") && section_ == "BLOCKS") sections_.blocksEnd = tag.offset;
     if (tag.Is(0, "ENDSEC") && section_ == "ENTITIES") sections_.entitiesEnd = tag.offset;
 }
@@ -93,8 +93,8 @@ void TablePatch::Scan() {
             tags.Next();
             seed_ = Group{tag.code, tag.value, tag.offset, tags.Offset(), 0, false};
         } else {
-            NoteHandle(tag);
-            NoteSection(tag);
+            RecordHandle(tag);
+            ScanSection(tag);
         }
         tags.Next();
     }
@@ -108,7 +108,7 @@ void TablePatch::Scan() {
 std::string TablePatch::AllocateHandle() {
     constexpr uint64_t kLast = UINT64_MAX - 1; // so that the following one is valid too
     if (highest_ >= kLast) throw SaveError("the drawing has no unused handles");
-    handleTaken_ = true;
+    handleAllocated_ = true;
     return Hex(++highest_);
 }
 
@@ -229,7 +229,7 @@ void TablePatch::AddLineType(const LineType& type, const std::string& storedName
 
 void TablePatch::AddTextStyle(const TextStyle& style) {
     AddApplication("ACAD");
-    const int cut = (style.bold ? kFaceIsBold : 0) | (style.italic ? kFaceIsItalic : 0);
+    const int flags = (style.bold ? kFaceIsBold : 0) | (style.italic ? kFaceIsItalic : 0);
     Add("STYLE", "AcDbTextStyleTableRecord",
         {{2, style.name},
          {70, "0"},
@@ -240,7 +240,7 @@ void TablePatch::AddTextStyle(const TextStyle& style) {
          {42, "2.5"},
          {3, style.fontFile},
          {4, ""}},
-        {{kApplicationName, "ACAD"}, {kExtendedText, style.fontFace}, {kExtendedLong, std::to_string(cut)}});
+        {{kApplicationName, "ACAD"}, {kExtendedText, style.fontFace}, {kExtendedLong, std::to_string(flags)}});
 }
 
 void TablePatch::Finish() {
@@ -267,7 +267,7 @@ void TablePatch::Finish() {
     if (!newTables.empty() && !tablesEnd_)
         newTables = LinesOf({{0, "SECTION"}, {2, "TABLES"}}) + newTables + LinesOf({{0, "ENDSEC"}});
     if (!newTables.empty()) patch_.Insert(tablesEnd_.value_or(*firstBody_), newTables);
-    if (handleTaken_ && seed_) patch_.Replace(seed_->value, Hex(highest_ + 1));
+    if (handleAllocated_ && seed_) patch_.Replace(seed_->value, Hex(highest_ + 1));
 }
 
 } // namespace dxf

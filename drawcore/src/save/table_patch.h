@@ -67,9 +67,9 @@ private:
     void Scan();
     void ScanTables(TagReader& tags);
     void ScanApplication(TagReader& tags);
-    void NoteBlockRecord(const Tag& tag);
-    void NoteSection(const Tag& tag);
-    void NoteHandle(const Tag& tag);
+    void ScanBlockRecord(const Tag& tag);
+    void ScanSection(const Tag& tag);
+    void RecordHandle(const Tag& tag);
     Record& BlockRecordOf(const std::string& name);
     Table& RequireTable(const char* name);
     std::string Add(const char* name, const char* marker, const Values& values, const Values& extended = {});
@@ -89,7 +89,7 @@ private:
     std::optional<size_t> firstBody_; // offset at which such a section would begin
     std::optional<Group> seed_;       // the header's next free handle
     uint64_t highest_ = 0;
-    bool handleTaken_ = false;
+    bool handleAllocated_ = false;
 };
 
 } // namespace dxf

@@ -23,7 +23,7 @@ public:
     // Returns the offset of a part of the text.
     size_t OffsetOf(std::string_view part) const { return static_cast<size_t>(part.data() - text_.data()); }
     std::string Result();
-    // Returns the new offset of what was at `at`, after anything inserted there. Valid after Result.
+    // Returns the new offset of the text that was at `at`, after any text inserted there. Valid after Result.
     size_t Moved(size_t at) const;
 
 private:

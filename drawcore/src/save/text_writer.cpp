@@ -11,7 +11,7 @@ using namespace drawcore; // bits of texts, angles
 
 namespace {
 
-constexpr uint16_t kCut = kTextBold | kTextItalic;
+constexpr uint16_t kStyleBits = kTextBold | kTextItalic;
 constexpr int kBackward = 2, kUpsideDown = 4; // in group 71
 constexpr int kHidden = 1;                    // in group 70 of an attribute
 
@@ -71,8 +71,8 @@ void AppearanceWriter::WriteLine(Text& text, const Appearance& appearance) {
     const bool forAll = Now().varied & ~appearance.varied & kVariedStyle;
     const TextAppearance inGroups = AppearanceByGroups(drawing_.Known(), entity_).text;
     if (inGroups.height != wanted.height) text.height = wanted.height;
-    if (inGroups.font != wanted.font || (inGroups.style ^ wanted.style) & kCut)
-        PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kCut)});
+    if (inGroups.font != wanted.font || (inGroups.style ^ wanted.style) & kStyleBits)
+        PutFace(text, {wanted.font, static_cast<uint16_t>(wanted.style & kStyleBits)});
     if (inGroups.format != wanted.format && !IsFitted(text)) PutFormat(text, wanted.format);
     if (text.role != Text::Role::definition) { // a definition displays its tag, which is a name
         PutSwitch(text.text, 'u', inGroups.style & kTextUnderline, wanted.style & kTextUnderline, forAll);
@@ -106,32 +106,32 @@ namespace {
 
 bool MustPutFace(const MText& text, const TextAppearance& now, const TextAppearance& wanted, uint8_t forAll) {
     const bool isInCodes = text.text != WithoutCodes(text.text, "fF");
-    const bool isOther = now.font != wanted.font || (now.style ^ wanted.style) & kCut ||
+    const bool isOther = now.font != wanted.font || (now.style ^ wanted.style) & kStyleBits ||
                          (isInCodes && forAll & (kVariedFont | kVariedStyle));
     if (isInCodes && forAll & kVariedFont && !IsNameForCode(wanted.font))
         throw SaveError("inline codes of the text cannot contain the font '" + wanted.font + "'");
     return isOther && IsNameForCode(wanted.font);
 }
 
-std::string FaceCode(const std::string& family, uint16_t cut) {
-    return "\\f" + family + (cut & kTextBold ? "|b1" : "|b0") + (cut & kTextItalic ? "|i1" : "|i0") + "|c0|p0;";
+std::string FaceCode(const std::string& family, uint16_t style) {
+    return "\\f" + family + (style & kTextBold ? "|b1" : "|b0") + (style & kTextItalic ? "|i1" : "|i0") + "|c0|p0;";
 }
 
-// Replaces the faces in the text's codes by one, except for the families or cuts that are to vary. `plain` is the face
-// of text without a code.
+// Replaces the faces in the text's codes by one, except for families or styles that may vary. `plain` is the face of
+// text without a code.
 void PutFaceCode(MText& text, const Appearance& wanted, const FontFace& plain) {
-    const bool keepsFamilies = wanted.varied & kVariedFont, keepsCuts = wanted.varied & kVariedStyle;
-    const FontFace face = {wanted.text.font, static_cast<uint16_t>(wanted.text.style & kCut)};
+    const bool keepsFamilies = wanted.varied & kVariedFont, keepsStyles = wanted.varied & kVariedStyle;
+    const FontFace face = {wanted.text.font, static_cast<uint16_t>(wanted.text.style & kStyleBits)};
     const auto replaced = [&](char letter, std::string_view argument) -> std::string {
-        if (!keepsFamilies && !keepsCuts) return ""; // the first one holds for all
+        if (!keepsFamilies && !keepsStyles) return ""; // the code at the start applies to all
         const size_t end = std::min(argument.find('|'), argument.size());
         const std::string family = keepsFamilies ? std::string(argument.substr(0, end)) : face.family;
-        if (!keepsCuts) return FaceCode(family, face.cut);
+        if (!keepsStyles) return FaceCode(family, face.style);
         return std::string("\\") + (keepsFamilies ? letter : 'f') + family + std::string(argument.substr(end)) + ";";
     };
     text.text = WithReplacedCodes(text.text, "fF", replaced);
-    const FontFace first = {keepsFamilies ? plain.family : face.family, keepsCuts ? plain.cut : face.cut};
-    if (IsNameForCode(first.family)) text.text.insert(0, FaceCode(first.family, first.cut));
+    const FontFace first = {keepsFamilies ? plain.family : face.family, keepsStyles ? plain.style : face.style};
+    if (IsNameForCode(first.family)) text.text.insert(0, FaceCode(first.family, first.style));
 }
 
 // Returns the argument of a paragraph code without the alignment: "xi-3" for "xi-3,qc".
@@ -147,7 +147,7 @@ std::string WithoutAlignment(std::string_view argument) {
     return rest == "x" ? "" : rest;
 }
 
-// Codes in the text override the attachment, which also holds the vertical alignment.
+// Codes in the text override the attachment, which also contains the vertical alignment.
 void PutAlignment(MText& text, uint16_t format) {
     const int row = (text.attachment - 1) / 3;
     const FormattedText shown = ReadInlineCodes(text.text, text.height);

@@ -31,7 +31,7 @@ std::vector<PatternLine> LinesFromFile(const std::vector<dxf::Hatch::PatternLine
 // A tile of 8 by 8 device pixels, with the same size at every zoom; scale, angle and cross hatch do not apply.
 struct BrushBitmap {
     struct Colors {
-        Color ink, paper;
+        Color ink, background;
     };
 
     std::array<uint8_t, 8> rows{}; // from the top; the highest bit is the leftmost pixel; set bits are foreground

@@ -20,7 +20,7 @@ public:
     bool locked = false;
 };
 
-// The first entry is "0", which stands for the insertion's layer in a block.
+// The first entry is "0"; graphics on it in a block are on the layer of the insertion.
 class LayerTable : public TableOf<Layer> {
 public:
     explicit LayerTable(DrawingStruct* owner);

@@ -1,5 +1,5 @@
-// Tracks the existing objects of one kind. Pointers of callers are looked up here before use, because a table or
-// drawing may have been freed; functions must handle that.
+// Tracks the existing objects of one kind. Callers' pointers are looked up here before use, because the table or
+// drawing may have been freed.
 #pragma once
 
 #include <unordered_set>

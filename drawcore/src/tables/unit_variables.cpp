@@ -42,19 +42,20 @@ const LengthUnit* UnitOfVariable(const Table& units, uint16_t variable) {
 }
 
 LengthFormat LengthFormatOf(const Table& units) {
-    const UnitSettings fresh;
+    const UnitSettings defaults;
     LengthFormat format;
     format.system =
-        SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, fresh.lengthSystem);
-    format.digits = std::clamp(IntegerVariable(units, kUnitLinearDigits, fresh.lengthDigits), 0, kMaxDigits);
+        SystemOf(units, kUnitLinearSystem, LengthSystem::Scientific, LengthSystem::Fractional, defaults.lengthSystem);
+    format.digits = std::clamp(IntegerVariable(units, kUnitLinearDigits, defaults.lengthDigits), 0, kMaxDigits);
     return format;
 }
 
 AngleFormat AngleFormatOf(const Table& units) {
-    const UnitSettings fresh;
+    const UnitSettings defaults;
     AngleFormat format;
-    format.system = SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, fresh.angleSystem);
-    format.digits = std::clamp(IntegerVariable(units, kUnitAngularDigits, fresh.angleDigits), 0, kMaxDigits);
+    format.system =
+        SystemOf(units, kUnitAngularSystem, AngleSystem::Degrees, AngleSystem::Bearings, defaults.angleSystem);
+    format.digits = std::clamp(IntegerVariable(units, kUnitAngularDigits, defaults.angleDigits), 0, kMaxDigits);
     return format;
 }
 

@@ -83,12 +83,12 @@ bool ReadBearing(std::string_view input, double defaultUnit, double& radians) {
     }
     if (text.size() < 3 || (text[0] != 'n' && text[0] != 's')) return false;
     const char side = text.back();
-    double away = 0;
+    double deviation = 0;
     if (side != 'e' && side != 'w') return false;
     const std::string_view middle = std::string_view(text).substr(1, text.size() - 2);
-    if (!ReadMeasured(middle, Angles(defaultUnit), away) || away < 0 || away > kRight) return false;
+    if (!ReadMeasured(middle, Angles(defaultUnit), deviation) || deviation < 0 || deviation > kRight) return false;
     const bool north = text[0] == 'n';
-    radians = (north ? 1 : 3) * kRight + (north == (side == 'w') ? away : -away);
+    radians = (north ? 1 : 3) * kRight + (north == (side == 'w') ? deviation : -deviation);
     return true;
 }
 
@@ -150,10 +150,10 @@ std::string WriteBearing(double degrees, int digits) {
     if (!counted || steps < 0 || steps > 4 * quarter) return WriteDegrees(degrees, digits);
     if (steps == 4 * quarter) steps = 0;
     const bool north = steps <= 2 * quarter, east = steps <= quarter || steps > 3 * quarter;
-    const double away = std::fabs(steps - (north ? quarter : 3 * quarter));
-    if (away == 0) return north ? "N" : "S";
-    if (away == quarter) return east ? "E" : "W";
-    return (north ? "N " : "S ") + StepsText(away, division) + (east ? " E" : " W");
+    const double deviation = std::fabs(steps - (north ? quarter : 3 * quarter));
+    if (deviation == 0) return north ? "N" : "S";
+    if (deviation == quarter) return east ? "E" : "W";
+    return (north ? "N " : "S ") + StepsText(deviation, division) + (east ? " E" : " W");
 }
 
 } // namespace

@@ -50,7 +50,7 @@ private:
     bool Factor(Quantity& result, bool divisor) {
         const TextCursor before = cursor_;
         const bool negative = cursor_.ConsumeMinus();
-        if (cursor_.Consume('(') ? Bracket(result) : divisor ? cursor_.Number(result.value) : One(result)) {
+        if (cursor_.Consume('(') ? Parenthesis(result) : divisor ? cursor_.Number(result.value) : Operand(result)) {
             if (negative) result.value = -result.value;
             return true;
         }
@@ -58,19 +58,21 @@ private:
         return false;
     }
 
-    bool One(Quantity& result) { return measure_ ? measure_->ReadOne(cursor_, result) : cursor_.Mixed(result.value); }
+    bool Operand(Quantity& result) {
+        return measure_ ? measure_->ReadOne(cursor_, result) : cursor_.Mixed(result.value);
+    }
 
-    bool Bracket(Quantity& result) {
+    bool Parenthesis(Quantity& result) {
         if (depth_ == kDeepest) return false;
         ++depth_;
         cursor_.SkipBlanks();
         const bool read = Sum(result);
         --depth_;
         cursor_.SkipBlanks();
-        return read && cursor_.Consume(')') && (!measure_ || result.measured || UnitOfBracket(result));
+        return read && cursor_.Consume(')') && (!measure_ || result.measured || UnitOfParenthesis(result));
     }
 
-    bool UnitOfBracket(Quantity& result) {
+    bool UnitOfParenthesis(Quantity& result) {
         const TextCursor before = cursor_;
         const std::string_view name = cursor_.ConsumeUnit();
         const double unit = measure_->Unit(name);
@@ -89,15 +91,15 @@ private:
     static bool Multiply(Quantity& product, Quantity next) {
         if (product.measured && next.measured) return false;
         const double value = Stored(product.value * next.value);
-        const bool lost = value == 0 && product.value != 0 && next.value != 0;
-        return !lost && Set(product, {value, product.measured || next.measured});
+        const bool underflows = value == 0 && product.value != 0 && next.value != 0;
+        return !underflows && Set(product, {value, product.measured || next.measured});
     }
 
     static bool Divide(Quantity& quotient, Quantity divisor) {
         if (divisor.measured || divisor.value == 0) return false;
         const double value = Stored(quotient.value / divisor.value);
-        const bool lost = value == 0 && quotient.value != 0;
-        return !lost && Set(quotient, {value, quotient.measured});
+        const bool underflows = value == 0 && quotient.value != 0;
+        return !underflows && Set(quotient, {value, quotient.measured});
     }
 
     static bool Set(Quantity& quantity, Quantity result) {
@@ -148,7 +150,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// Returns whether the text contains the like of "6-1/2", which with units could mean six and a half or five and a half.
+// Returns whether the text contains a term like "6-1/2", which with units could mean six and a half or five and a half.
 bool HasJoinedFraction(std::string_view text) {
     for (size_t hyphen = text.find('-'); hyphen != text.npos; hyphen = text.find('-', hyphen + 1)) {
         const size_t bar = text.find_first_not_of("0123456789", hyphen + 1);

@@ -16,7 +16,7 @@ size_t ScanUnsigned(std::string_view text, double& value);
 size_t ScanInteger(std::string_view text, double& value);
 
 // Formats with that many decimal places, or more if needed for four significant digits, without trailing zeros. Very
-// large and very small numbers have an exponent. Returns an empty string for what is not a number.
+// large and very small numbers have an exponent. Returns an empty string for a value that is not finite.
 std::string DecimalText(double value, int decimals);
 // Always formats with an exponent.
 std::string ScientificText(double value, int decimals);

@@ -20,7 +20,7 @@ const char* WordOf(PropertyMeaning meaning, uint32_t value);
 
 // Returns "Bold+Underline"; "Regular" without effects.
 std::string TextStyleText(uint32_t bits);
-// Returns the word for a marker, the name of a numbered color, or "#RRGGBB".
+// Returns the text for a marker, the name of a numbered color, or "#RRGGBB".
 std::string ColorText(uint32_t color);
 // Returns the text of a whole number as the value of a property: one of these, or the number.
 std::string IntegerText(const PropertyInfo& property, uint32_t value);

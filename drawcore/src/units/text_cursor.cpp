@@ -27,9 +27,9 @@ bool TextCursor::AtEnd() {
 }
 
 bool TextCursor::Consume(char c) {
-    const bool there = at_ < text_.size() && Lower(text_[at_]) == Lower(c);
-    at_ += there;
-    return there;
+    const bool matches = at_ < text_.size() && Lower(text_[at_]) == Lower(c);
+    at_ += matches;
+    return matches;
 }
 
 bool TextCursor::ConsumeMinus() {
