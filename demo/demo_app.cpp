@@ -23,7 +23,7 @@ BOOL CDemoApp::InitInstance() {
     ::PropPageInit();
     ::AppSetINIFileName((ProgramFolder() + "demo.ini").c_str());
 
-    if (!m_options.tourFolder.empty()) { // like on the first start by a user
+    if (!m_options.tourFolder.empty()) { // as on a user's first start
         Settings::UseKey(L"Software\\Orlo\\Demo Tour");
         Settings::DeleteAll();
     }

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kDiagonalLines = 5;          // index of the brush in the list; its lines do not hide what is below
+constexpr int kDiagonalLines = 5;          // index of the brush in the list; its lines do not hide the graphics below
 constexpr const char* kWideSpacing = "60"; // the scale of these lines, for a whole drawing
 constexpr unsigned long kOrange = RGB(255, 127, 0);
 

@@ -74,7 +74,7 @@ public:
 
     // Performs a change as one undo step. Returns the number of graphics that it changed.
     int Change(const std::function<void()>& change);
-    // Does the same. If the change returns false, it is undone at once, without a step.
+    // Does the same. If the change returns false, it is undone immediately, without a step.
     int Attempt(const std::function<bool()>& change);
     // Begins a transaction for a window that stays open. Its changes, made outside of Change and Attempt, become one
     // step when it is committed, or are rolled back. Change, Attempt, Undo and Redo commit it first.

@@ -295,7 +295,7 @@ void CDrawingView::ShowMove() {
     if (m_cachedView.IsMoved()) SetTimer(kRestTimer, kRest);
 }
 
-// The view was not moved for a while, or drawing was interrupted.
+// Called when the view has not moved for a while, or to continue interrupted drawing.
 void CDrawingView::OnTimer(UINT_PTR) {
     KillTimer(kRestTimer);
     if (IsExact()) return;

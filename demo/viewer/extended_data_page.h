@@ -1,4 +1,4 @@
-// The page with the extended data (XDATA) of a DXF entity, made from a table.
+// The page with the extended data (XDATA) of a DXF entity, defined by a table of rows.
 #pragma once
 
 #include "orlo/host/records.h"

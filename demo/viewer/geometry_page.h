@@ -1,4 +1,4 @@
-// The page with the geometry of the selected graphics, made from a table.
+// The page with the geometry of the selected graphics, defined by a table of rows.
 #pragma once
 
 class CGraphicPropertySheet;

@@ -312,13 +312,13 @@ void CMainFrame::OnEditProperties() {
     m_status.ShowMessage(ChangedText(outcome.changed, *m_document));
 }
 
-// Updates what the window shows about graphics beside the drawing.
+// Updates the information about graphics that the window shows beside the drawing.
 void CMainFrame::ShowChange() {
     ShowTitle();
     OnSelectionChanged();
 }
 
-// The pane already shows what it has written.
+// The pane already shows the values that it has written.
 void CMainFrame::ShowApplied(int changed) {
     m_hints.Renew();
     ShowTitle();

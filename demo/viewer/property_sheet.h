@@ -38,7 +38,7 @@ public:
 
     // Makes the sheet open on the last page, if it has that page.
     void ChooseRememberedPage();
-    // Remembers the active page, unless it is the one that the sheet opened on.
+    // Stores the active page in the settings, unless it is the one that the sheet opened on.
     void RememberPage() const;
 
 private:

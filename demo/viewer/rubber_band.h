@@ -1,5 +1,5 @@
-// The rubber band for selecting by window: dragged to the right, it selects what it contains (blue), to the left also
-// what it touches (green, dashed).
+// The rubber band for selecting by window: dragged to the right, it selects the graphics that it contains (blue), to
+// the left also those that it touches (green, dashed).
 #pragma once
 
 #include <afxgdi.h>

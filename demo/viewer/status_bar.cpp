@@ -55,7 +55,7 @@ void CStatusBar::ArrangePanes() {
     const auto excess = [&] { return std::accumulate(widths, widths + kPanes, 0) - room; };
     for (const Pane pane : {kWidths, kSelection})
         if (excess() > 0) take(pane, m_texts[pane].brief);
-    // The widest pane is cut first, down to a fourth of the bar.
+    // The widest pane is shortened first, to no less than a fourth of the bar.
     for (int* widest; excess() > 0; *widest -= std::min(excess(), std::max(*widest - room / kPanes, 1)))
         widest = std::max_element(widths, widths + kPanes);
     widths[kMessage] -= excess();
@@ -69,7 +69,7 @@ void CStatusBar::ArrangePanes() {
         SetPane(pane, texts[pane], widths[pane]);
 }
 
-// Takes the right end of the message's pane.
+// Places the progress bar at the right end of the message's pane.
 void CStatusBar::PlaceProgress(int& messageWidth) {
     if (!m_progress.IsWindowVisible()) return;
     CRect pane;

@@ -1,6 +1,6 @@
 // The status bar of the main window: a message (or the progress of an operation), the kinds of the selected graphics,
-// their pen widths, and the pointer position. Where the texts are wider than the bar, the pen widths and then the kinds
-// are shown in brief; what is still too wide ends with an ellipsis, and a tooltip shows all of it.
+// their pen widths, and the pointer position. If the texts are wider than the bar, the pen widths and then the kinds
+// are abbreviated; a text that is still too wide ends with an ellipsis, and a tooltip shows the whole text.
 #pragma once
 
 #include <afxcmn.h>

@@ -35,7 +35,7 @@ public:
     uint16_t Current() const { return m_current; } // 0 for none
     void SetCurrent(uint16_t id) { m_current = id; }
 
-    // Returns why the name cannot be used for a new style, or an empty string.
+    // Returns the reason why the name cannot be used for a new style, or an empty string.
     std::string WhyNot(const std::string& name) const;
     // Returns the parts that at least one of the graphics has.
     static Parts PartsOf(const std::vector<GraphicStruct*>& graphics);

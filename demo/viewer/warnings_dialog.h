@@ -1,4 +1,4 @@
-// The dialog with what was omitted from a drawing when it was opened.
+// The dialog that lists the parts of a drawing that were omitted when it was opened.
 #pragma once
 
 #include <afxwin.h>
