@@ -1,5 +1,5 @@
-# Compiles through ccache if it is installed. ccache needs two settings before it accepts precompiled headers: it must be allowed to
-# assume that their macros match, and the compiler must record the header in its preprocessed output.
+# Compiles through ccache if it is installed. ccache supports precompiled headers with two settings only: it must be
+# allowed to assume that their macros match, and the compiler must record the header in its preprocessed output.
 
 find_program(ORLO_CCACHE ccache DOC "Compiler cache")
 if(ORLO_CCACHE)

@@ -54,8 +54,8 @@ function(orlo_version_information target description)
   target_sources(${target} PRIVATE ${script})
 endfunction()
 
-# Declares a DLL or program as a product: adds version information and installs it. C_ONLY: a DLL with C functions, whose
-# installed target orloConfig.cmake defines for every compiler.
+# Declares a DLL or program as a product: adds version information and installs it. C_ONLY: a DLL with C functions,
+# whose installed target is defined by orloConfig.cmake for every compiler.
 #   orlo_product(afx "Framework layer of Orlo" [HEADERS_IN include/afx] [C_ONLY])
 function(orlo_product target description)
   cmake_parse_arguments(arg "C_ONLY" "HEADERS_IN" "" ${ARGN})

@@ -22,8 +22,8 @@ bool RequireReplaceable(const std::filesystem::path& target);
 class FileReplacement {
 public:
     // Creates the empty temporary file. Throws FileError if the target is read-only or not a regular file, or if no
-    // file can be created in its folder.
-    // A copy gets the attributes of `original`, which are preserved of the target if that is empty.
+    // file can be created in its folder. The new file gets the attributes of `original` or, if that is empty, those of
+    // the target.
     explicit FileReplacement(const std::filesystem::path& target, const std::filesystem::path& original = {});
     // Removes the temporary file unless it has replaced the target.
     ~FileReplacement();
@@ -46,8 +46,8 @@ private:
     std::filesystem::path path_;     // empty after the temporary file has been renamed or removed
 };
 
-// Installs handlers that remove the temporary file if the program is interrupted or ended, also if a file exceeds the
-// limit of the size of files. For command-line programs, which replace one file at a time.
+// Installs handlers that remove the temporary file if the program is interrupted or terminated, including when a file
+// exceeds the limit of file sizes. For command-line programs, which replace one file at a time.
 void RemoveTemporaryFileOnInterrupt();
 
 } // namespace files

@@ -36,7 +36,7 @@ fetch_wine32() {
         >"$wine32_root/usr/lib/i386-linux-gnu/wine/i386-windows/zlib1.dll"
 }
 
-# Creates wrappers that run that folder's programs with this machine's /dev, /tmp and the current folder visible.
+# Creates wrappers that run that folder's programs with access to the host's /dev and /tmp and to the current folder.
 wrap_wine32() {
     local name target
     mkdir -p build/wine32/bin

@@ -15,8 +15,8 @@ std::vector<std::string> WithListedArguments(const std::vector<std::string>& arg
 // Returns the text without the byte order mark that editors on Windows add.
 std::string_view WithoutMark(std::string_view utf8);
 
-// Replaces names with wildcards by the matching files, sorted by name; a name without a match is kept. For Windows,
-// where the shell does not do it; elsewhere all names are kept.
+// Replaces names with wildcards by the matching files, sorted by name; a name without a match remains. Only on Windows,
+// where the shell does not expand wildcards; elsewhere it returns the names unchanged.
 std::vector<std::string> WithoutWildcards(const std::vector<std::string>& names);
 
 } // namespace cli

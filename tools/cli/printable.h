@@ -10,13 +10,13 @@
 namespace cli {
 
 // Escapes control characters, which a terminal would interpret, and bytes that are not UTF-8, in this format. Line ends
-// are kept.
+// are not escaped.
 std::string Printable(std::string_view utf8, const char* escape = "\\x%02x");
 // Also escapes line ends and tabs, as \n, \r and \t.
 std::string OneLine(std::string_view utf8);
 
-// During its lifetime, what is written to a stream is printed as by Printable, on a console if `file`, which the stream
-// writes to, is one. The stream fails if it cannot be written.
+// During its lifetime, text that is written to the stream is escaped by Printable. If `file`, the file of the stream, is
+// a console, the text is printed on it. The stream fails if the text cannot be written.
 class PrintableBuffer : public std::streambuf {
 public:
     PrintableBuffer(std::ostream& stream, FILE* file) : stream_(stream), file_(file), target_(stream.rdbuf(this)) {}

@@ -28,7 +28,7 @@ public:
     }
 
     const std::vector<dxf::EntityRef>& All() const { return entities_; }
-    // Returns the position of the entity, or size(). Of several with its handle, it is the one of that line.
+    // Returns the position of the entity, or size(). If several entities have its handle, returns the one at that line.
     size_t Find(const dxf::DocumentReader& drawing, const dxf::RecordName& name) const {
         const auto line = byLine_.find(name.line);
         if (name.handle.empty()) return line != byLine_.end() ? line->second : entities_.size();
@@ -36,7 +36,8 @@ public:
         return FindHandle(name.handle,
                           [&](size_t at) { return isOne || drawing.NameOf(entities_[at]).line == name.line; });
     }
-    // The position of the first such entity of that handle, which damaged drawings have several times, or size().
+    // Returns the position of the first matching entity with that handle, which damaged drawings can contain several
+    // times, or size().
     template <class IsIt>
     size_t FindHandle(const std::string& handle, IsIt isIt) const {
         const auto [first, last] = byHandle_.equal_range(handle);
@@ -71,7 +72,7 @@ public:
     }
 
 private:
-    // Names of the sheet's properties come first; all: the others.
+    // Adds the properties of the sheet first and, if all values are compared, then the others.
     void AddValues(const dxf::EntityRef& one, const dxf::EntityRef& other, Compared part,
                    std::vector<Difference::Value>& values) const {
         bool isOfSheet = true;
@@ -97,7 +98,7 @@ private:
         return shape;
     }
 
-    // Groups that differ: "10 1.500000".
+    // Adds the groups that differ, such as "10 1.500000".
     void AddShape(const dxf::EntityRef& one, const dxf::EntityRef& other, const std::set<std::string>& reported,
                   std::vector<Difference::Value>& values) const {
         constexpr size_t kMax = 8;
@@ -169,7 +170,7 @@ SplitValues Split(const Values& values) {
     return split;
 }
 
-// The values that an attribute gets by its tag, if it or its insertion is selected.
+// Returns the values for the attribute's tag, if the attribute or its insertion is selected.
 Values ForAttribute(const DrawingFile& drawing, const dxf::EntityRef& entity, Selector& selector,
                     const Values& attributes) {
     const auto insertion = dxf::DocumentReader::InsertionOf(entity);
@@ -263,7 +264,7 @@ SetResult ApplyProperties(const DrawingFile& drawing, const std::vector<EntityPr
 
 namespace {
 
-// Returns the existing layers that match the patterns, with addsMissing also the names that do not exist.
+// Returns the existing layers that match the patterns and, with addsMissing, the names that do not exist.
 std::set<std::string> ChooseLayers(const std::vector<std::string>& existing, const std::vector<std::string>& patterns,
                                    bool addsMissing) {
     std::set<std::string> chosen;

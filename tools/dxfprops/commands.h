@@ -18,7 +18,7 @@ struct EntityProperties {
     Values values;
 };
 
-// The number of selected entities or layers, and if there are none, the kinds or names of those that could have been.
+// The number of selected entities or layers and, if it is 0, the existing kinds or names.
 struct Matches {
     size_t count = 0;
     std::set<std::string> kinds;
@@ -54,7 +54,7 @@ std::vector<Difference> FindDifferences(const dxf::DocumentReader& before, const
 // The destination of a changed drawing.
 struct Target {
     std::string output; // a file, or kStandardStream
-    bool isDry = false; // nothing is written, and the differences are returned
+    bool isDry = false; // writes nothing and returns the differences
     bool keepsBackup = false;
 };
 
@@ -68,8 +68,8 @@ struct SetResult {
 // "attribute:TAG" as the name of a value: the text of the attributes with that tag of the selected insertions.
 constexpr char kAttribute[] = "attribute:";
 
-// Sets properties of the selected entities that have them and writes the drawing: only what has changed differs. Throws
-// SaveError if a value is not valid, even if no entity takes it.
+// Sets properties of the selected entities that have them, and writes the drawing, in which only changed values differ.
+// Throws SaveError if a value is not valid, even if no entity is changed.
 SetResult SetProperties(const DrawingFile& drawing, const Selection& selection, const Values& values,
                         const Target& target);
 
@@ -78,7 +78,7 @@ SetResult SetProperties(const DrawingFile& drawing, const Selection& selection, 
 SetResult ApplyProperties(const DrawingFile& drawing, const std::vector<EntityProperties>& wanted,
                           const Target& target);
 
-// Changes the layers whose names are given or meet a name with wildcards; with isNew, adds those that are missing.
+// Changes the layers with these names, which can contain wildcards; with isNew, adds layers that do not exist.
 SetResult SetLayers(const DrawingFile& drawing, const std::vector<std::string>& layers, const dxf::LayerValues& values,
                     bool isNew, const Target& target);
 

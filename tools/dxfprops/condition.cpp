@@ -1,4 +1,4 @@
-// Values are compared in the form that the property shows, numbers as numbers.
+// Parses conditions, and compares values in the format in which the property is shown, numbers as numbers.
 #include "tools/dxfprops/condition.h"
 
 #include <algorithm>
@@ -15,7 +15,7 @@ struct Operator {
     std::string_view text;
     Comparison comparison;
 };
-// Longer ones first.
+// Longer operators come first, because shorter ones are their prefixes.
 constexpr std::array kOperators = {
     Operator{"!=", Comparison::unequal},
     Operator{"<=", Comparison::lessOrEqual},
@@ -27,7 +27,7 @@ constexpr std::array kOperators = {
 };
 constexpr const char* kOrdered[] = {"PenWidth", "PenScale", "BrushScale", "BrushAngle", "TextSize", "Rotation"};
 
-// Splits at a separator outside of quotes, which stay.
+// Splits the text at separators outside of quotes. The quotes remain in the result.
 std::vector<std::string> Split(const std::string& text, char separator) {
     std::vector<std::string> parts(1);
     bool isQuoted = false;
@@ -47,7 +47,7 @@ std::string Trimmed(const std::string& text) {
     return first == text.npos ? "" : text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
-// Spaces around a value do not belong to it unless they are within quotes.
+// Removes the spaces around a value, then its quotes.
 std::string Unquoted(const std::string& text) {
     std::string plain = Trimmed(text);
     plain.erase(std::remove(plain.begin(), plain.end(), '"'), plain.end());
@@ -81,7 +81,7 @@ std::u32string FoldedUnits(std::string_view utf8) {
     std::u32string units;
     for (const char c : utf8) {
         const auto byte = static_cast<unsigned char>(c);
-        if ((byte & 0xC0) == 0x80 && !units.empty()) // goes on
+        if ((byte & 0xC0) == 0x80 && !units.empty()) // continues the character
             units.back() = units.back() << 6 | (byte & 0x3F);
         else
             units += c >= 'A' && c <= 'Z' ? static_cast<char32_t>(c + 32) : char32_t{byte};
@@ -138,7 +138,7 @@ std::vector<Condition> ReadConditions(const std::vector<std::string>& texts) {
 const std::string& ConditionTest::Normalized(const dxf::EntityRef& entity, const Condition& condition,
                                              const std::string& wanted) {
     const auto [found, isNew] = normalized_.try_emplace({condition.name, wanted});
-    if (isNew || condition.name == "PenWidth") // which is read by the scale system of the entity
+    if (isNew || condition.name == "PenWidth") // its format depends on the scale system of the entity
         found->second = drawing_.Normalized(entity, condition.name, wanted);
     return found->second;
 }

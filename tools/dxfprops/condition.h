@@ -16,12 +16,12 @@ constexpr char kKind[] = "kind", kHandle[] = "handle", kBlock[] = "block";
 enum class Comparison { equal, unequal, less, lessOrEqual, greater, greaterOrEqual, like };
 
 struct Condition {
-    std::string name; // as it is written
+    std::string name; // in its canonical spelling
     Comparison comparison;
-    std::vector<std::string> values; // one of them has to fit; for unequal, none may
+    std::vector<std::string> values; // one of them must match; for "!=", none may match
 };
 
-// Reads conditions that are joined by commas. A value with a comma or a bar has quotes around it. Throws
+// Parses conditions separated by commas. Values that contain a comma or a bar are in quotes. Throws
 // std::invalid_argument.
 std::vector<Condition> ReadConditions(const std::vector<std::string>& texts);
 
@@ -31,8 +31,8 @@ public:
     ConditionTest(const dxf::DocumentReader& drawing, const std::vector<Condition>& where)
         : drawing_(drawing), where_(where) {}
 
-    // Returns whether the entity meets all conditions; one without the property does not. Throws SaveError if the value
-    // of a condition that compares numbers is not a number.
+    // Returns whether the entity meets all conditions. An entity without the property never meets a condition. Throws
+    // SaveError if the value of a condition that compares numbers is not a number.
     bool Meets(const dxf::EntityRef& entity);
 
 private:
@@ -47,10 +47,11 @@ private:
     std::map<std::pair<std::string, std::string>, std::string> normalized_; // by names and wanted values
 };
 
-// Returns whether the text meets a name with wildcards, whatever its case.
+// Returns whether the text matches a name with wildcards, ignoring case.
 bool MatchesWildcards(const std::string& text, const std::string& pattern);
 
-// Returns the name of a property or, if allowed, of a condition as it is written. Throws std::invalid_argument.
+// Returns the canonical spelling of the name of a property or, if allowed, of a condition. Throws
+// std::invalid_argument.
 std::string RequireName(const std::string& name, bool allowConditions);
 
 } // namespace dxfprops

@@ -1,4 +1,4 @@
-// Reading, writing and selecting.
+// Reads and writes drawings, and selects their entities.
 #include "tools/dxfprops/drawing_file.h"
 
 #include <algorithm>
@@ -80,7 +80,7 @@ const Condition* FindBlockCondition(const Selection& selection, Comparison compa
 std::vector<dxf::EntityRef> DrawingFile::Around(const Selection& selection) const {
     std::vector<dxf::EntityRef> found;
     const auto add = [&found](std::vector<dxf::EntityRef> some) {
-        if (found.empty()) return found.swap(some); // not twice in memory
+        if (found.empty()) return found.swap(some); // avoids a second copy in memory
         found.insert(found.end(), some.begin(), some.end());
     };
     constexpr char kBlockIs[] = "block=";

@@ -29,13 +29,13 @@ public:
     // Throws ReadError if it cannot be read.
     explicit DrawingFile(const std::string& file, const std::function<void(int permille)>& progress = {});
 
-    // Replaces the output file, or prints the bytes if the output is kStandardStream. The drawing's own file is left
-    // alone if the bytes are its own, and refused if it has been changed meanwhile. With a backup, what the output
-    // contained before is stored as OUTPUT.bak. Throws FileError and SaveError.
+    // Replaces the output file, or prints the bytes if the output is kStandardStream. The drawing's own file is not
+    // written if its contents are the same, and rejected if another program has changed it since it was read. With
+    // keepsBackup, the previous contents of the output are stored as OUTPUT.bak. Throws FileError and SaveError.
     void Write(const std::string& bytes, const std::string& output, bool keepsBackup) const;
 
-    // Returns the entities of the selection's space, whether they meet the conditions or not. Throws SaveError if there
-    // is no such block.
+    // Returns all entities of the selection's space, regardless of the conditions. Throws SaveError if there is no such
+    // block.
     std::vector<dxf::EntityRef> Around(const Selection& selection) const;
     // Returns the kinds of all entities in the space.
     std::set<std::string> KindsAround(const Selection& selection) const;

@@ -9,10 +9,10 @@
 
 #include "drawcore/dxf_document.h"
 
-// Returns what a drawing contains: acadver, entities (type to count in the ENTITIES section), blocks, layers,
+// Describes the contents of a drawing: acadver, entities (type to count in the ENTITIES section), blocks, layers,
 // linetypes, extents and, if something was omitted, warnings.
 nlohmann::ordered_json Describe(const dxf::Contents& drawing);
-// The same for the drawing in a file; the path is UTF-8. Throws ReadError.
+// Does the same for the drawing in a file; the path is UTF-8. Throws ReadError.
 nlohmann::ordered_json DescribeFile(const std::string& file);
 
 // Writes an array with one object per file: file and the result of Describe, or file, error and line for one that

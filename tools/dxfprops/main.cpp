@@ -95,7 +95,7 @@ bool IsConditional(const CommandLine& line) {
     return !line.where.empty() || !line.within.empty();
 }
 
-// Work on one file after the other; a failure is reported and does not stop the others.
+// Processes one file after the other; a failure is reported and does not stop the others.
 class Run {
 public:
     explicit Run(const CommandLine& line)
@@ -124,7 +124,7 @@ public:
         return result_;
     }
 
-    // A failure from now on is reported as one of this file.
+    // From now on, failures are reported with the name of this file.
     DrawingFile Open(const std::string& file) {
         file_ = file;
         if (!line_.showsProgress) return DrawingFile(file);
@@ -187,7 +187,7 @@ int Get(const CommandLine& line) {
     return result != kDone ? result : run.ResultOf(matches, kEntities, IsConditional(line));
 }
 
-// "NAME=VALUE", whose name is a property or an attribute's.
+// Returns whether the word is "NAME=VALUE" with the name of a property or of an attribute.
 bool IsAssignment(const std::string& word) {
     const std::string name = word.substr(0, word.find('='));
     const std::string prefix = kAttribute;
@@ -297,7 +297,8 @@ int Diff(const CommandLine& line) {
         ResultPrinter printer(line.form, ResultPrinter::Items::differences, {}, std::cout);
         result = run.ForEach({line.after}, &printer, [&](const std::string& after) {
             const Compared compared = line.onlyProperties ? Compared::properties : Compared::all;
-            const DrawingFile before = run.Open(line.before); // first, so that its failure has its name
+            const DrawingFile before =
+                run.Open(line.before); // opened first, so that a failure is reported with its name
             const auto differences = FindDifferences(before, run.Open(after), compared);
             for (const Difference& difference : differences)
                 printer.Add(difference, line.before, after);
@@ -327,7 +328,7 @@ bool ReadSwitch(const std::string& text) {
     throw UsageError("'" + text + "' is not yes or no");
 }
 
-// The values that set-layer takes.
+// The values that set-layer accepts.
 struct LayerField {
     const char* name;
     void (*set)(dxf::LayerValues&, const std::string&);
@@ -380,7 +381,7 @@ std::vector<std::string> WithEquals(std::vector<std::string> names) {
     return names;
 }
 
-// The commands with their options, and the words of the help.
+// The commands with their options and help texts.
 class Parser {
 public:
     Parser() : app_("Reads and sets the properties of entities in DXF drawings", "dxfprops") {

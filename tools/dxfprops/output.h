@@ -20,14 +20,13 @@ void PrintSummary(const std::string& file, std::ostream& out);
 void Print(const std::vector<Difference>& differences, const std::string& before, const std::string& after,
            std::ostream& out);
 
-// Prints results while a file is processed. In JSON that is an array with one object per file, which has `file`
-// and a list, or `file, error, line`; in JSON lines and CSV one line for each item or failed file, in text one for each
-// item.
+// Prints results while a file is processed: JSON as an array with one object per file, which has `file` and a list, or
+// `file, error, line`; JSON lines and CSV with one line for each item or failed file; text with one line for each item.
 class ResultPrinter {
 public:
     enum class Items { entities, layers, differences };
 
-    // columns: of CSV, after the file, and for entities after kind, handle, line and block.
+    // columns: those of CSV that follow the file and, for entities, kind, handle, line and block.
     ResultPrinter(Form form, Items items, std::vector<std::string> columns, std::ostream& out);
     // Ends the array.
     ~ResultPrinter();
@@ -39,7 +38,7 @@ public:
     void Add(const Difference& difference, const std::string& before, const std::string& after);
     void Add(const dxf::Contents::Layer& layer);
     void EndFile();
-    // Prints an error in place of a file's results, or after some of them.
+    // Prints an error instead of a file's results, or after some of them.
     void Fail(const std::string& file, const std::string& error, uint32_t line);
 
 private:
@@ -52,17 +51,17 @@ private:
     std::vector<std::string> columns_;
     std::ostream& out_;
     std::string file_;
-    size_t files_ = 0, items_ = 0; // these of the file
+    size_t files_ = 0, items_ = 0; // items of the current file
     bool isOpen_ = false;          // the object of the file has begun
 };
 
-// Prints an array with one object per file, or a line for each: file and what the call returns, or file, error, line
-// for one that is refused. Returns false if any file was refused.
+// Prints an array with one object per file, or one line per file: file and the result of the call, or file, error, line
+// for a file that cannot be processed. Returns false if there was any.
 bool PrintObjects(const std::vector<std::string>& files, Form form,
                   const std::function<nlohmann::ordered_json(const std::string&)>& describe, std::ostream& out);
 
-// Reads the form that Form::json and Form::jsonLines have for entities: entities by files, in their order. Throws
-// ReadError.
+// Reads entities in the format of Form::json or Form::jsonLines. Returns the entities of each file, in the original
+// order. Throws ReadError.
 std::vector<std::pair<std::string, std::vector<EntityProperties>>> ReadEntities(const std::string& json);
 
 } // namespace dxfprops

@@ -1,4 +1,4 @@
-// Requirements of memory and GDI objects: what the caller frees does not grow with the number of calls.
+// Requirements of memory and GDI objects: if the caller frees all results, their number does not grow with the calls.
 
 #include "picture.h"
 

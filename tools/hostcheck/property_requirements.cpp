@@ -146,7 +146,7 @@ void HasThePropertiesOfPreviews(const Subject& s) {
     });
 }
 
-// A page of the host can have a property whose name differs from one of these by its case only.
+// A page of the host can have a property whose name differs from one of these only in case.
 void DistinguishesCase(const Subject& s) {
     ForEachType(s, [&](GraphicStruct* graphic, const Type&) {
         for (const PropertyInfo& info : kPropertyList) {

@@ -21,7 +21,7 @@ struct CloseIt {
 };
 using Handle = std::unique_ptr<void, CloseIt>;
 
-// A child process of this program that runs the checks from a certain one on, and the lines that it writes.
+// A child process of this program that runs the checks from a given number on, and the lines that it writes.
 class CheckProcess {
 public:
     CheckProcess(const std::wstring& database, const std::wstring& drawingFile, size_t first) {
@@ -109,7 +109,7 @@ std::string DescribeEnd(DWORD code) {
     }
 }
 
-// Prints a line for the requirement and, unless it is kept, one that says why.
+// Prints a line for the requirement and, unless it is kept, one with the reason.
 void Print(const Requirement& requirement, const std::string& word, const std::string& text) {
     std::printf("%-6s  %-26s %s\n", word.c_str(), requirement.function, requirement.what);
     if (word == "broken") std::printf("%35sfound: %s\n", "", text.c_str());

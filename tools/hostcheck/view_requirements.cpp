@@ -128,7 +128,7 @@ void Fills(const Subject& s) {
     Require(none == 0, "%d pixels inside a square without a brush are drawn", none);
 }
 
-// Samples of brushes: an outline of which only some segments are drawn, or none.
+// Checks samples of brushes: outlines of which only some segments or none are drawn.
 void FillsOneOutline(const Subject& s) {
     if (s.Entries(s.Table(kTableBrushStyles)).empty()) return;
     const auto square = s.NewSquare(10);
@@ -176,7 +176,7 @@ void DrawsHatches(const Subject& s) {
     }
 }
 
-// A red text with capital letters that are three units high, at 1, 2 or, turned by 90 degrees, at 5, 1.
+// Draws a red text with capital letters that are three units high, at 1, 2 or, turned by 90 degrees, at 5, 1.
 Measure DrawText(const Subject& s, bool isTurned) {
     const auto text = s.NewGraphic(kGraphicText);
     CALL(s.host, GraphicAttach)(text.get(), s.Drawing());
@@ -209,7 +209,7 @@ void TurnsTexts(const Subject& s) {
             text.Width(), text.Height());
 }
 
-// The width of a pen on paper, drawn at the full size of the paper whatever the extents are.
+// Previews draw pens on paper at their full size, regardless of the extents.
 void DrawsPensAtTheirWidth(const Subject& s) {
     const auto square = s.NewSquare(10);
     SetPlainAppearance(s, square.get());

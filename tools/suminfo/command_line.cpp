@@ -37,7 +37,7 @@ Examples:
 
 Results: 0 done; 1 a file failed, or check found something irregular; 2 wrong command line.)";
 
-// Splits "name=value". A parse error describes what is wrong with it.
+// Splits "name=value". Throws a parse error that describes the fault.
 Assignment Split(const std::string& text) {
     const size_t equals = text.find('=');
     if (equals == std::string::npos || equals == 0)
@@ -92,7 +92,7 @@ std::vector<std::string> WordsToComplete(const char* after) {
     return words;
 }
 
-// A file whose name looks like a value has a folder in front: ./a=b.doc
+// A file whose name looks like a value must be written with a folder: ./a=b.doc
 bool IsAssignment(const std::string& word) {
     return word.find('=') < word.find_first_of("/\\");
 }
@@ -182,7 +182,7 @@ private:
         RequireFiles();
     }
 
-    // Files come first: after a field everything is one.
+    // Files come first: all arguments after a field are fields.
     void CompleteRemove() {
         const bool needsField = line_.customNames.empty();
         for (const std::string& word : words_) {

@@ -13,7 +13,7 @@ enum class Command { show, get, check, set, remove, thumbnail, rc, copy };
 
 struct CommandLine {
     Command command;
-    std::vector<std::string> files; // that the command works on, one after the other
+    std::vector<std::string> files; // to process, one after the other
     bool recursive = false;
     bool bare = false;
     ReportForm form = ReportForm::table;              // show
@@ -21,7 +21,7 @@ struct CommandLine {
     std::vector<CustomValue> custom;                  // set
     std::vector<std::string> fieldNames, customNames; // get, remove
     std::string source;                               // copy: the document with the summary
-    std::string output;                               // thumbnail, rc; set, remove, copy: or the files themselves
+    std::string output; // thumbnail, rc; set, remove, copy: empty to change the files themselves
     std::optional<Extent> size;
     bool original = false; // thumbnail
 };

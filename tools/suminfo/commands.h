@@ -9,10 +9,10 @@
 
 namespace suminfo {
 
-// Stands for standard input or output in place of a file.
+// The name of standard input or output in place of a file.
 constexpr char kStandardStream[] = "-";
 
-// Where property sets come from: a document, or (bare) a file that is one property-set stream.
+// The source of property sets: a document or, if `bare` is set, a file that is one property-set stream.
 struct Source {
     std::string file;
     bool bare = false;
@@ -39,18 +39,19 @@ struct Report {
     bool clean = true; // everything could be read (show), or nothing irregular was found (check)
 };
 
-// The forms that reports are printed in.
+// The formats of reports.
 enum class ReportForm { table, json, csv };
 
-// Tables for a person, with the file's name above; one line of JSON; or one line for each property.
+// Returns tables for people, preceded by the file's name, one line of JSON, or one line of CSV for each property.
 Report Show(const Source& source, ReportForm form);
-// The line of headings that comes before all others; empty for forms without one.
+// Returns the line of headings, which is printed first, or an empty string for formats without one.
 std::string HeadingsOf(ReportForm form);
-// The line in place of a file that failed; empty for tables.
+// Returns the line that replaces the report of a file that failed, or an empty string for tables.
 std::string FailureLine(const std::string& file, const std::string& why, ReportForm form);
-// The value of a field, or of the custom property if the field is empty: texts as they are, anything else as in tables.
+// Returns the value of a field or, if the field is empty, of the custom property: a text unchanged, other values in the
+// format of tables.
 std::string ValueOf(const Source& source, const std::string& field, const std::string& customName);
-// A line for each finding, or one that says that there are none.
+// Returns a line for each finding, or a line that states that there are none.
 Report Check(const Source& source);
 
 // A document to edit, and the file for the result: itself, or another one if `output` is not empty.
@@ -58,18 +59,18 @@ struct Target {
     std::string file, output;
 };
 
-// Change fields and custom properties: all of them or, in case of a Failure, none.
+// Change fields and custom properties: all of them or, if they throw Failure, none.
 void SetFields(const Target& target, const std::vector<Assignment>& fields, const std::vector<CustomValue>& custom);
 void RemoveFields(const Target& target, const std::vector<std::string>& fields, const std::vector<std::string>& custom);
 // Copies the summary streams of a document to the target.
 void CopySummary(const std::string& from, const Target& target);
 
-// Draws the thumbnail to a PNG file: in its own size, or centered on white in the given size.
+// Draws the thumbnail to a PNG file at its own size, or centered on a white background of the given size.
 void SaveThumbnail(const Source& source, const std::string& png, std::optional<Extent> size);
-// Saves the thumbnail as it is stored: a bitmap with the header of a file, a metafile without its extents, anything
-// else byte for byte.
+// Saves the thumbnail in its stored format: a bitmap with a file header, a metafile without its extents, other data
+// byte for byte.
 void SaveOriginalThumbnail(const Source& source, const std::string& output);
-// Prints the sections of the summary (of all of a bare stream) as resources 1, 2, ... of a resource script.
+// Writes the sections of the summary (for a bare stream, all sections) as resources 1, 2, ... of a resource script.
 void SaveResourceScript(const Source& source, const std::string& script);
 
 } // namespace suminfo

@@ -1,4 +1,4 @@
-// The commands set, remove and copy: read streams, change them in memory, and write all at once.
+// The commands set, remove and copy: they read streams, change them in memory, and write all of them in one step.
 
 #include <filesystem>
 #include <map>
@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 namespace suminfo {
 namespace {
 
-// Edits a document and saves it where the command line says.
+// Edits a document and saves it to the output of the command line.
 class TargetDocument {
 public:
     explicit TargetDocument(const Target& target)

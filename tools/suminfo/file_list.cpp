@@ -1,4 +1,4 @@
-// Lists files. Folders are identified by the system's numbers, because a link to a parent folder would otherwise be
+// Lists files. Folders are identified by the system's numbers, because otherwise a link to a parent folder would be
 // followed forever.
 
 #include "file_list.h"

@@ -16,7 +16,7 @@ struct FileList {
 };
 
 // Returns the named files in order. With recursive, a folder is replaced by the compound files in it, sorted by folder,
-// and a file is listed only once, whatever links lead to it.
+// and a file is listed only once, even if several links lead to it.
 FileList FilesOf(const std::vector<std::string>& named, bool recursive);
 
 } // namespace suminfo

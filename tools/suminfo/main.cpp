@@ -26,7 +26,7 @@ namespace {
 
 using namespace suminfo;
 
-// Reports failures on stderr, and in forms that programs read also in the place of the file.
+// Reports failures on stderr and, in machine-readable formats, also in place of the file's report.
 class FailureReport {
 public:
     FailureReport(ReportForm form, cli::Progress& progress) : form_(form), progress_(progress) {}
@@ -58,7 +58,7 @@ private:
     cli::Progress& progress_;
 };
 
-// The work on one file: what it prints, and whether nothing irregular was found.
+// Runs the command on one file. Returns the text to print, and whether the file has no irregularities.
 Report RunOn(const CommandLine& line, const std::string& file) {
     const Source source = {file, line.bare};
     const Target target = {file, line.output};
@@ -89,7 +89,7 @@ Report RunOn(const CommandLine& line, const std::string& file) {
     return {};
 }
 
-// One file after the other; a failure does not stop the others.
+// Processes one file after the other; a failure does not stop the others.
 int Run(const std::vector<std::string>& arguments) {
     const Parsed parsed = ParseCommandLine(arguments);
     if (!parsed.line) return parsed.exitCode;

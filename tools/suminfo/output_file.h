@@ -11,7 +11,7 @@ namespace suminfo {
 
 // Replaces the file, or prints the bytes if the name is kStandardStream. Throws files::FileError.
 void WriteOutput(const std::string& file, std::string_view bytes);
-// Warns on stderr if the name's extension does not fit the contents ("png").
+// Prints a warning on stderr if the name's extension does not match the contents ("png").
 void WarnOfEnding(const std::string& file, const std::string& ending, const std::string& contents);
 
 } // namespace suminfo

@@ -59,7 +59,7 @@ void AddTable(const NamedStream& stream, Report& report) {
     std::vector<orlo::Finding> findings;
     const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);
     std::string& table = report.text;
-    // The usual streams are identified by their sections; for others the name is shown.
+    // The usual streams are identified by their sections; other streams are shown with their names.
     const bool inner = stream.name.find('/') != std::string::npos;
     if (inner || !set) table += "  " + (stream.name.empty() ? "stream" : StreamNameShown(stream.name)) + ":\n";
     if (!set) {
@@ -114,7 +114,7 @@ Report ShowJson(const Source& source) {
     return report;
 }
 
-// One property: its text is not cut into lines, unlike in tables.
+// Returns the value of one property. Unlike in tables, texts are not wrapped.
 std::string PropertyValue(const orlo::ImageSection& section, const orlo::ImageProperty& property) {
     orlo::Value value;
     const bool isRead =
@@ -152,7 +152,7 @@ Report ShowCsv(const Source& source) {
     return report;
 }
 
-// The section that a value is searched in: the document's own, or any of a bare stream.
+// Searches the stream's sections for the value of a field or a custom property.
 std::optional<std::string> FindValue(const NamedStream& stream, const std::string& field, const std::string& custom) {
     std::vector<orlo::Finding> findings;
     const auto set = orlo::ReadSetImage(stream.bytes.data(), stream.bytes.size(), findings);

@@ -1,4 +1,4 @@
-// The thumbnail as a PNG file, and as it is stored.
+// Saves the thumbnail as a PNG file or in its stored format.
 
 #include <algorithm>
 #include <cstring>

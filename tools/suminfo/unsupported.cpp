@@ -1,5 +1,5 @@
-// The Windows program plays metafiles by the system. This one ends before it has touched anything, and run.d/suminfo.sh
-// starts the other.
+// Replaces the drawing of metafiles in the Linux program. It ends before it has changed anything, and run.d/suminfo.sh
+// starts the Windows program, in which the system plays metafiles.
 
 #include <cstdlib>
 

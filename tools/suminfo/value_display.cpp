@@ -37,7 +37,7 @@ std::string Span(uint64_t ticks) {
 std::string DateOf(uint64_t days) {
     constexpr uint64_t kDaysOf400Years = 146097, kDaysFromMarch1600 = 306;
     const uint64_t since1600 = days + kDaysFromMarch1600;
-    const uint64_t day = since1600 % kDaysOf400Years; // within these 400 years, and so on
+    const uint64_t day = since1600 % kDaysOf400Years; // within these 400 years
     const uint64_t year = (day - day / 1460 + day / 36524 - day / (kDaysOf400Years - 1)) / 365;
     const uint64_t dayOfYear = day - (365 * year + year / 4 - year / 100);
     const uint64_t monthFromMarch = (5 * dayOfYear + 2) / 153; // five consecutive months have 153 days
