@@ -1,8 +1,8 @@
 // A host for any compiler: C99, orlo_c.h, and its own declarations of a few functions of the system.
 //
-//   foreign_host DATABASE.dll DRAWING.dxf     0: OK, and all graphics have the same pen color and the rating 7; else
-//   the
-//                                             error
+//   foreign_host DATABASE.dll DRAWING.dxf
+//
+// The exit code is 0 if all graphics have the same pen color and the rating 7, otherwise the error.
 //
 // The functions of the database are looked up by name. If drawcore32.dll is the adapter, they are passed to it first.
 

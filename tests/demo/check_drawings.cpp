@@ -11,7 +11,7 @@ int wmain(int count, wchar_t** words) {
     ::PropPageInit();
     Settings::UseKey(L"Software\\Orlo\\Demo Tests");
     Settings::DeleteAll();
-    auto* frame = new CMainFrame; // goes with its window
+    auto* frame = new CMainFrame; // deleted with its window
     if (!frame->Create()) return 1;
     AfxGetThread()->m_pMainWnd = frame;
     frame->ShowWindow(SW_SHOW);

@@ -1,4 +1,4 @@
-// The viewer's own pages, made from tables: geometry and extended data.
+// The viewer's own pages, defined by tables: geometry and extended data.
 
 #include "demo/automation/control_text.h"
 #include "demo/automation/sheet_pages.h"

@@ -14,7 +14,7 @@ public:
     explicit RoundTrip(CMainFrame& frame) : m_frame(frame), m_user(0) {}
 
     // Paths are in UTF-8. Reports each drawing on standard output; one that cannot be opened is reported, but not a
-    // failure. Returns false if a page did not change what it should, or if a drawing differs afterwards.
+    // failure. Returns false if a page did not change what it should, or if a drawing differs afterward.
     bool Check(const std::vector<std::string>& drawings);
 
 private:

@@ -160,7 +160,7 @@ TEST(Import, CanBeCanceledWithEachReport) {
         recorded.cancelAt = permille;
         EXPECT_FALSE(Open(path, recorded)) << permille;
         EXPECT_STREQ(recorded.message, "canceled");
-        EXPECT_EQ(recorded.progress.back(), permille) << "and nothing is reported afterwards";
+        EXPECT_EQ(recorded.progress.back(), permille) << "and nothing is reported afterward";
     }
     DrawCoreGetObjectCounts(&after);
     EXPECT_EQ(before.graphics, after.graphics);

@@ -1,4 +1,4 @@
-// Changes to single records: the groups that differ afterwards, and their positions.
+// Changes to single records: the groups that differ afterward, and their positions.
 
 #include <gtest/gtest.h>
 

@@ -212,7 +212,7 @@ TEST_F(Save, CanBeCanceledWithEachReport) {
         const DxfListener cancels = {&reports, Reports::Hear, nullptr};
         EXPECT_EQ(Write(drawing, 0, &cancels), kSaveCanceled) << permille;
         EXPECT_EQ(message, "canceled");
-        EXPECT_EQ(reports.recorded.back(), permille) << "and nothing is reported afterwards";
+        EXPECT_EQ(reports.recorded.back(), permille) << "and nothing is reported afterward";
         EXPECT_TRUE(ReadBytes(path) == saved) << permille;
         EXPECT_FALSE(LeavesTemporaryFiles()) << permille;
     }

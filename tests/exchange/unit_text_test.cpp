@@ -19,7 +19,7 @@ protected:
         TableSetIntVar(m_drawing.Get()->pUnits, kUnitLinearSystem, 4);
     }
 
-    // Returns the result of saving the text silently, and the value of the variable afterwards.
+    // Returns the result of saving the text silently, and the value of the variable afterward.
     template <class Exchange>
     int Save(const char* text, Exchange exchange) {
         SetText(IDC_EDIT, text);

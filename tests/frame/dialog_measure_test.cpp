@@ -1,4 +1,4 @@
-// The size of dialog templates in pixels, compared with what the system makes of the same template.
+// The size of dialog templates in pixels, compared with the dialog that the system creates from the same template.
 
 #include <gtest/gtest.h>
 

@@ -365,7 +365,7 @@ TEST_F(Edit, CopyCopiesBothSummaries) {
     EXPECT_EQ(StreamsOf(to), expected);
     ExpectRejected({"copy", Document("sent--da96eb.msg").string(), to.string()},
                    "sent--da96eb.msg: the document has no summary");
-    // Its summary's name is misspelt.
+    // The name of its summary is misspelled.
     ExpectRejected({"copy", Document("clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt").string(), to.string()},
                    "the document has no summary");
     EXPECT_EQ(StreamsOf(to), expected);

@@ -37,7 +37,7 @@ std::string TitleIn(IStorage* storage) {
     return title ? title : "";
 }
 
-// A file name in the test folder; the file is removed before and afterwards.
+// A file name in the test folder; the file is removed before and afterward.
 class File {
 public:
     explicit File(const char* name) : path_(fs::temp_directory_path() / name) { fs::remove(path_); }
