@@ -249,12 +249,12 @@ FileReplacement::~FileReplacement() {
 }
 
 void FileReplacement::Write(std::string_view bytes, const std::function<void(size_t written)>& progress) {
-    constexpr size_t kPiece = size_t{1} << 20;
+    constexpr size_t kChunkSize = size_t{1} << 20;
     {
         const OpenFile file = OpenToWrite(path_);
-        for (size_t at = 0; at < bytes.size(); at += kPiece) {
-            Append(file.get(), bytes.substr(at, kPiece));
-            if (progress) progress(std::min(at + kPiece, bytes.size()));
+        for (size_t at = 0; at < bytes.size(); at += kChunkSize) {
+            Append(file.get(), bytes.substr(at, kChunkSize));
+            if (progress) progress(std::min(at + kChunkSize, bytes.size()));
         }
     }
     if (!HasContents(path_, bytes)) throw FileError("the file cannot be written", std::errc::io_error);

@@ -20,7 +20,7 @@
 namespace files {
 namespace {
 
-constexpr size_t kPiece = size_t{1} << 20; // maximum number of bytes per call
+constexpr size_t kChunkSize = size_t{1} << 20; // maximum number of bytes per call
 
 [[noreturn]] void FailToOpen(const std::filesystem::path& path) {
     std::error_code error = LastError();
@@ -143,7 +143,7 @@ uint64_t SizeOf(NativeFile file) {
 bool ReadAt(NativeFile file, uint64_t offset, void* buffer, size_t size) {
     auto* to = static_cast<char*>(buffer);
     while (size > 0) {
-        const size_t done = ReadSome(file, offset, to, std::min(size, kPiece));
+        const size_t done = ReadSome(file, offset, to, std::min(size, kChunkSize));
         if (done == 0) return false;
         to += done;
         offset += done;
@@ -154,7 +154,7 @@ bool ReadAt(NativeFile file, uint64_t offset, void* buffer, size_t size) {
 
 void Append(NativeFile file, std::string_view bytes) {
     while (!bytes.empty()) {
-        const size_t done = WriteSome(file, bytes.data(), std::min(bytes.size(), kPiece));
+        const size_t done = WriteSome(file, bytes.data(), std::min(bytes.size(), kChunkSize));
         if (done == 0) ThrowLastError("the file cannot be written");
         bytes.remove_prefix(done);
     }
@@ -172,11 +172,11 @@ void Flush(NativeFile file) {
 bool HasContents(const std::filesystem::path& path, std::string_view bytes) {
     const OpenFile file = OpenToRead(path);
     if (SizeOf(file.get()) != bytes.size()) return false;
-    std::vector<char> piece(std::min(bytes.size(), kPiece));
-    for (size_t at = 0; at < bytes.size(); at += piece.size()) {
-        const size_t size = std::min(piece.size(), bytes.size() - at);
-        if (!ReadAt(file.get(), at, piece.data(), size)) ThrowLastError("the file cannot be read");
-        if (std::memcmp(piece.data(), bytes.data() + at, size) != 0) return false;
+    std::vector<char> chunk(std::min(bytes.size(), kChunkSize));
+    for (size_t at = 0; at < bytes.size(); at += chunk.size()) {
+        const size_t size = std::min(chunk.size(), bytes.size() - at);
+        if (!ReadAt(file.get(), at, chunk.data(), size)) ThrowLastError("the file cannot be read");
+        if (std::memcmp(chunk.data(), bytes.data() + at, size) != 0) return false;
     }
     return true;
 }

@@ -23,7 +23,7 @@ orlo::CompoundReader ReaderOf(const std::string& bytes) {
 
 void WriteAndCompare(const orlo::CompoundReader& file) {
     std::string bytes;
-    orlo::WriteCompoundFile(&file, {}, [&bytes](std::string_view piece) { bytes += piece; });
+    orlo::WriteCompoundFile(&file, {}, [&bytes](std::string_view chunk) { bytes += chunk; });
     const orlo::CompoundReader after = ReaderOf(bytes);
     if (after.State() != orlo::CompoundState::intact || after.Streams().size() != file.Streams().size()) std::abort();
     for (size_t i = 0; i < file.Streams().size(); ++i)
@@ -42,9 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const bool intact = file.State() == orlo::CompoundState::intact;
     size_t all = 0;
     for (const orlo::CompoundStream& stream : file.Streams()) {
-        const size_t there = file.Read(stream).size();
-        all += there;
-        if (intact && there != stream.size) std::abort();
+        const size_t length = file.Read(stream).size();
+        all += length;
+        if (intact && length != stream.size) std::abort();
     }
     if (all > 2 * size) std::abort(); // once for its own stream, once more for those that share it
     if (intact) WriteAndCompare(file);

@@ -34,11 +34,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     text.resize(text.find('\0') == text.npos ? size : text.find('\0'));
     char* end = nullptr;
     const double number = StringToDouble(0, text.c_str(), &end);
-    const std::string taken(text.c_str(), static_cast<const char*>(end));
-    Require(NumberIn(text) == NumberIn(taken) || taken.find('-') != taken.npos); // "6-1/2x" is a subtraction
-    if (!taken.empty() && taken.find('-') == taken.npos) {
-        const double alike = NumberIn("1*(" + taken + ")");
-        Require(alike == number || taken.find('(') != taken.npos); // unless it is nested too deeply
+    const std::string accepted(text.c_str(), static_cast<const char*>(end));
+    Require(NumberIn(text) == NumberIn(accepted) || accepted.find('-') != accepted.npos); // "6-1/2x" is a subtraction
+    if (!accepted.empty() && accepted.find('-') == accepted.npos) {
+        const double product = NumberIn("1*(" + accepted + ")");
+        Require(product == number || accepted.find('(') != accepted.npos); // unless it is nested too deeply
     }
 
     double value = kUntouched;

@@ -46,8 +46,8 @@ struct TableStruct {
     // Returns the table, or null if it has been freed, because controls may still have pointers to freed tables.
     static TableStruct* Find(TableStruct* table);
     Entry* At(uint16_t id);
-    uint16_t IdOf(const char* name) const;      // 0 if there is none
-    uint16_t Add(const char* name, Entry rest); // 0 if the name is invalid or exists
+    uint16_t IdOf(const char* name) const;         // 0 if there is none
+    uint16_t Add(const char* name, Entry content); // 0 if the name is invalid or exists
 
     Drawing* owner;
     std::map<uint16_t, Entry> entries;

@@ -36,12 +36,12 @@ uint16_t TableStruct::IdOf(const char* name) const {
     return 0;
 }
 
-uint16_t TableStruct::Add(const char* name, Entry rest) {
+uint16_t TableStruct::Add(const char* name, Entry content) {
     constexpr uint16_t kHighest = 0xFFF0; // higher numbers are markers
     const uint16_t id = entries.empty() ? uint16_t{1} : static_cast<uint16_t>(entries.rbegin()->first + 1);
     if (!*name || IdOf(name) || id > kHighest) return 0;
-    rest.name = name;
-    entries.emplace(id, std::move(rest));
+    content.name = name;
+    entries.emplace(id, std::move(content));
     return id;
 }
 

@@ -33,7 +33,7 @@ struct Placement {
     double X(double x, double y) const { return x * xx + y * yx + dx; }
     double Y(double x, double y) const { return x * xy + y * yy + dy; }
     // Returns the transformation that applies this one first.
-    Placement Then(const Placement& next) const {
+    Placement FollowedBy(const Placement& next) const {
         return {xx * next.xx + xy * next.yx,
                 xx * next.xy + xy * next.yy,
                 yx * next.xx + yy * next.yx,
@@ -72,7 +72,7 @@ void ForEachMember(const Graphic& graphic, const Placement& placement, Visit vis
         ForEachMember(*member, placement, visit);
     if (graphic.bType != kGraphicInsert) return;
     if (const Graphic* block = BlockOf(graphic))
-        ForEachMember(*block, PlacementOf(graphic.content).Then(placement), visit);
+        ForEachMember(*block, PlacementOf(graphic.content).FollowedBy(placement), visit);
 }
 
 COLORREF PlainColor(const Graphic& graphic, uint32_t color) {
@@ -237,7 +237,7 @@ void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, Viewport
     if (!graphic || !viewport || !viewport->dc || viewport->shown.IsEmpty()) return;
     Painter painter(viewport->dc);
     painter.Clip(viewport->rect);
-    ForEachMember(*Graphic::From(graphic), PlacementOf(matrix).Then(ToDevice(*viewport)),
+    ForEachMember(*Graphic::From(graphic), PlacementOf(matrix).FollowedBy(ToDevice(*viewport)),
                   [&](const Graphic& part, const Placement& to) { painter.Draw(part, to); });
 }
 

@@ -139,23 +139,23 @@ private:
 };
 
 // Measures the frames of steps in alternating directions.
-template <class There, class Back>
-void PrintFrames(const char* name, MillionViewer& viewer, Copy& copy, There there, Back back) {
-    constexpr int kTurns = 4;
+template <class Forward, class Backward>
+void PrintFrames(const char* name, MillionViewer& viewer, Copy& copy, Forward forward, Backward backward) {
+    constexpr int kRepetitions = 4;
     const auto frames = [&] {
-        for (int i = 0; i < kTurns; ++i) {
-            there();
+        for (int i = 0; i < kRepetitions; ++i) {
+            forward();
             viewer.Paint();
-            back();
+            backward();
             viewer.Paint();
         }
     };
     const Pair pair = Compare(kRounds, frames, [&] {
-        for (int i = 0; i < 2 * kTurns; ++i)
+        for (int i = 0; i < 2 * kRepetitions; ++i)
             copy();
     });
     Print(name, pair.ratio, "x_copy_of_the_picture");
-    Print((std::string(name) + "_frame").c_str(), pair.seconds / (2 * kTurns) * 1000, "ms");
+    Print((std::string(name) + "_frame").c_str(), pair.seconds / (2 * kRepetitions) * 1000, "ms");
 }
 
 void BenchFrames(MillionViewer& viewer) {

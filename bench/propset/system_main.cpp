@@ -91,9 +91,9 @@ void WriteByUs(Sample& sample) {
 
 void WriteBySystem(Sample& sample) {
     const Com<IStream> stream = MemoryStream();
-    IPropertyStorage* made = nullptr;
-    ::StgCreatePropStg(stream.get(), kSummary, nullptr, PROPSETFLAG_ANSI, 0, &made);
-    const Com<IPropertyStorage> properties(made);
+    IPropertyStorage* storage = nullptr;
+    ::StgCreatePropStg(stream.get(), kSummary, nullptr, PROPSETFLAG_ANSI, 0, &storage);
+    const Com<IPropertyStorage> properties(storage);
     properties->WriteMultiple(static_cast<ULONG>(sample.ids.size()), sample.ids.data(), sample.values.data(), 2);
     properties->Commit(STGC_DEFAULT);
 }

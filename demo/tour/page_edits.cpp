@@ -37,10 +37,10 @@ void Move(UserInput& user, HWND list, UINT getSelection, int first) {
 
 // Selects the item with that index, or another one if it is already selected. Without a selection, the first key only
 // creates one.
-void MoveTo(UserInput& user, HWND list, UINT getSelection, int wanted) {
-    if (Send(list, getSelection) == wanted) return user.Key(VK_UP);
+void MoveTo(UserInput& user, HWND list, UINT getSelection, int index) {
+    if (Send(list, getSelection) == index) return user.Key(VK_UP);
     user.Keys(VK_HOME, 2);
-    user.Keys(VK_DOWN, wanted);
+    user.Keys(VK_DOWN, index);
 }
 
 // Returns the index of the color, whose items begin with the color in hexadecimal digits, or 0 if it is missing.

@@ -41,8 +41,8 @@ std::optional<WorldBox> FindVariedWindow(const Document& document) {
     const auto distance = [&](GraphicStruct* graphic) {
         const WorldBox box = *ExtentsOf(graphic);
         const double size = std::max(box.Width(), box.Height()), whole = std::max(all.Width(), all.Height());
-        const double away = std::hypot(box.Center().x - all.Center().x, box.Center().y - all.Center().y);
-        return size > kLargest * whole ? away + whole : away;
+        const double fromCenter = std::hypot(box.Center().x - all.Center().x, box.Center().y - all.Center().y);
+        return size > kLargest * whole ? fromCenter + whole : fromCenter;
     };
     std::sort(graphics.begin(), graphics.end(),
               [&](GraphicStruct* a, GraphicStruct* b) { return distance(a) < distance(b); });

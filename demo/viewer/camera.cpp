@@ -56,9 +56,9 @@ WorldPoint Camera::ToWorld(CPoint pixel) const {
 
 CPoint Camera::ToPixels(WorldPoint point) const {
     constexpr int kSpan = 1000;
-    const WorldPoint origin = ToWorld(CPoint(0, 0)), away = ToWorld(CPoint(kSpan, kSpan));
-    return CPoint(Pixel((point.x - origin.x) / (away.x - origin.x) * kSpan),
-                  Pixel((point.y - origin.y) / (away.y - origin.y) * kSpan));
+    const WorldPoint origin = ToWorld(CPoint(0, 0)), distant = ToWorld(CPoint(kSpan, kSpan));
+    return CPoint(Pixel((point.x - origin.x) / (distant.x - origin.x) * kSpan),
+                  Pixel((point.y - origin.y) / (distant.y - origin.y) * kSpan));
 }
 
 CRect Camera::ToPixels(const WorldBox& box) const {

@@ -14,14 +14,14 @@ constexpr int kDragStart = 4;   // distance in pixels at which a click becomes a
 constexpr int kPanStep = 60;    // pixels an arrow key pans
 constexpr int kPenOverhang = 8; // distance in pixels that a wide pen may extend beyond the extents of a graphic
 
-constexpr UINT_PTR kRestTimer = 1;
-constexpr UINT kRest = 60; // milliseconds without movement after which the exact picture is drawn
-constexpr UINT kTurn = 10; // milliseconds of drawing between checks for messages
+constexpr UINT_PTR kRedrawTimer = 1;
+constexpr UINT kRedrawDelay = 60; // milliseconds without movement after which the exact picture is drawn
+constexpr UINT kTimeSlice = 10;   // milliseconds of drawing between checks for messages
 
-Selection::Way WayOf(UINT mouseFlags) {
-    if (mouseFlags & MK_CONTROL) return Selection::Way::Toggle;
-    if (mouseFlags & MK_SHIFT) return Selection::Way::Add;
-    return Selection::Way::Replace;
+Selection::Operation OperationFor(UINT mouseFlags) {
+    if (mouseFlags & MK_CONTROL) return Selection::Operation::Toggle;
+    if (mouseFlags & MK_SHIFT) return Selection::Operation::Add;
+    return Selection::Operation::Replace;
 }
 
 } // namespace
@@ -54,10 +54,10 @@ BOOL CDrawingView::Create(CWnd* parent, UINT id) {
 
 void CDrawingView::SetDocument(Document* document) {
     EndDrag();
-    HearOfChanges(nullptr);
+    SetChangeListener(nullptr);
     m_document = document;
     const ChangeListener listener = {this, OnGraphicChanging};
-    HearOfChanges(&listener);
+    SetChangeListener(&listener);
     m_camera.SetDrawing(document ? document->Drawing() : nullptr);
     m_cachedView.SetDocument(document);
     InvalidateAll();
@@ -98,7 +98,7 @@ void CDrawingView::Redraw() {
     InvalidateAll();
 }
 
-void CDrawingView::HearOfChanges(const ChangeListener* listener) {
+void CDrawingView::SetChangeListener(const ChangeListener* listener) {
     if (m_document) ::DrawingSetChangeListener(m_document->Drawing(), listener);
 }
 
@@ -125,13 +125,13 @@ void CDrawingView::ShowLineWeights(bool show) {
 // ---- Selecting
 
 void CDrawingView::SelectAll() {
-    if (m_document) Select(m_document->Selectable(), Selection::Way::Replace);
+    if (m_document) Select(m_document->Selectable(), Selection::Operation::Replace);
 }
 
 void CDrawingView::SelectNext(bool forward) {
     GraphicStruct* next = m_document ? m_document->Next(forward) : nullptr;
     if (!next) return;
-    Select({next}, Selection::Way::Replace);
+    Select({next}, Selection::Operation::Replace);
     const std::optional<WorldBox> box = ExtentsOf(next);
     if (box && !m_camera.Visible().Contains(*box) && !box->Contains(m_camera.Visible())) {
         m_camera.CenterOn(box->Center());
@@ -142,12 +142,12 @@ void CDrawingView::SelectNext(bool forward) {
 
 void CDrawingView::ClearSelection() {
     EndDrag();
-    if (m_document) Select({}, Selection::Way::Replace);
+    if (m_document) Select({}, Selection::Operation::Replace);
 }
 
-void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way) {
+void CDrawingView::Select(const std::vector<GraphicStruct*>& graphics, Selection::Operation operation) {
     if (!m_client.MayChangeSelection()) return;
-    m_document->Selected().Apply(graphics, way);
+    m_document->Selected().Apply(graphics, operation);
     ShowSelectionChange();
 }
 
@@ -181,15 +181,15 @@ void CDrawingView::OnMButtonDown(UINT, CPoint point) {
 
 void CDrawingView::OnMouseMove(UINT, CPoint point) {
     m_client.OnPointerMoved(m_camera.ToWorld(point));
-    const CSize way = point - m_dragFrom;
-    if (m_drag == Drag::Press && (std::abs(way.cx) >= kDragStart || std::abs(way.cy) >= kDragStart)) {
+    const CSize offset = point - m_dragFrom;
+    if (m_drag == Drag::Press && (std::abs(offset.cx) >= kDragStart || std::abs(offset.cy) >= kDragStart)) {
         m_drag = Drag::Band;
         m_band.Start(m_dragFrom);
     }
     if (m_drag == Drag::Band) {
         MoveBand(point);
     } else if (m_drag == Drag::Pan) {
-        Pan(way);
+        Pan(offset);
         m_dragFrom = point;
     }
 }
@@ -206,13 +206,13 @@ void CDrawingView::OnLButtonUp(UINT flags, CPoint point) {
     const bool crossing = m_band.IsCrossing();
     EndDrag();
     if (drag == Drag::Band) {
-        Select(Within(frame, crossing), WayOf(flags));
+        Select(Within(frame, crossing), OperationFor(flags));
     } else if (drag == Drag::Press) {
         GraphicStruct* graphic = At(point);
         if (graphic)
-            Select({graphic}, WayOf(flags));
-        else if (WayOf(flags) == Selection::Way::Replace)
-            Select({}, Selection::Way::Replace);
+            Select({graphic}, OperationFor(flags));
+        else if (OperationFor(flags) == Selection::Operation::Replace)
+            Select({}, Selection::Operation::Replace);
     }
 }
 
@@ -292,16 +292,16 @@ void CDrawingView::InvalidateAll() {
 
 void CDrawingView::ShowMove() {
     Invalidate(FALSE);
-    if (m_cachedView.IsMoved()) SetTimer(kRestTimer, kRest);
+    if (m_cachedView.IsMoved()) SetTimer(kRedrawTimer, kRedrawDelay);
 }
 
 // Called when the view has not moved for a while, or to continue interrupted drawing.
 void CDrawingView::OnTimer(UINT_PTR) {
-    KillTimer(kRestTimer);
+    KillTimer(kRedrawTimer);
     if (IsExact()) return;
-    while (!m_cachedView.Finish(kTurn)) {
+    while (!m_cachedView.Finish(kTimeSlice)) {
         if (!HIWORD(::GetQueueStatus(QS_INPUT | QS_POSTMESSAGE | QS_PAINT))) continue;
-        SetTimer(kRestTimer, kTurn);
+        SetTimer(kRedrawTimer, kTimeSlice);
         return;
     }
     Invalidate(FALSE);

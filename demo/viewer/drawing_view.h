@@ -55,7 +55,7 @@ public:
     bool IsExact() const { return !m_cachedView.IsMoved(); }
 
     void SelectAll();
-    void SelectOnly(const std::vector<GraphicStruct*>& graphics) { Select(graphics, Selection::Way::Replace); }
+    void SelectOnly(const std::vector<GraphicStruct*>& graphics) { Select(graphics, Selection::Operation::Replace); }
     void SelectNext(bool forward);
     void ClearSelection();
 
@@ -82,7 +82,7 @@ private:
     void Zoom(double factor, CPoint anchor);
     void ShowMove();
     void FitTo(GraphicStruct* graphic);
-    void Select(const std::vector<GraphicStruct*>& graphics, Selection::Way way);
+    void Select(const std::vector<GraphicStruct*>& graphics, Selection::Operation operation);
     void ShowSelectionChange();
     GraphicStruct* At(CPoint point) const;
     std::vector<GraphicStruct*> Within(const CRect& frame, bool crossing) const;
@@ -90,7 +90,7 @@ private:
     void MoveBand(CPoint point);
 
     static void OnGraphicChanging(void* view);
-    void HearOfChanges(const ChangeListener* listener);
+    void SetChangeListener(const ChangeListener* listener);
 
     void InvalidateAll();
 

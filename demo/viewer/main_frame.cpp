@@ -183,8 +183,8 @@ int CMainFrame::PaneWidth(const CRect& client) const {
     if (!m_pane.IsOpen()) return 0;
     const int smallest = Scaled(kSmallestPane);
     const int most = std::max(smallest, client.Width() - Scaled(kSmallestView + kSplitterWidth));
-    const int wanted = m_paneWidth ? Scaled(m_paneWidth) : m_pane.FittingWidth(client.Height());
-    return std::clamp(wanted, smallest, most);
+    const int width = m_paneWidth ? Scaled(m_paneWidth) : m_pane.FittingWidth(client.Height());
+    return std::clamp(width, smallest, most);
 }
 
 void CMainFrame::SizePane(int left, bool done) {

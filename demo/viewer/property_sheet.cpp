@@ -67,12 +67,12 @@ void SetLastSheetPage(unsigned page) {
     Settings::SetNumber(kSettingPage, static_cast<int>(page));
 }
 
-void SelectionSheet::ChooseRememberedPage() {
+void SelectionSheet::SelectStoredPage() {
     if (CPropertyPage* wanted = m_sheet->FindPage(LastSheetPage())) m_sheet->SetActivePage(wanted);
     m_openedOn = m_sheet->GetActiveIndex();
 }
 
-void SelectionSheet::RememberPage() const {
+void SelectionSheet::StorePage() const {
     CPropertyPage* page = m_sheet->GetActivePage();
     if (m_sheet->GetActiveIndex() == m_openedOn || !page->IsKindOf(RUNTIME_CLASS(CGraphicPropertyPage))) return;
     SetLastSheetPage(static_cast<CGraphicPropertyPage*>(page)->GetTemplateNumber());
@@ -90,9 +90,9 @@ SheetOutcome EditSelection(CWnd* owner, Document& document) {
         SelectionSheet sheet(owner, document.Drawing(), document.Selected().Set(), kAllGraphics);
         outcome.code = kNotShown;
         if (!sheet.get()) return false;
-        sheet.ChooseRememberedPage();
+        sheet.SelectStoredPage();
         outcome.code = static_cast<int>(sheet->DoModal());
-        sheet.RememberPage();
+        sheet.StorePage();
         return outcome.code != IDCANCEL && outcome.code != kNotShown;
     });
     return outcome;

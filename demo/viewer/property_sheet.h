@@ -37,9 +37,9 @@ public:
     CGraphicPropertySheet* operator->() const { return get(); }
 
     // Makes the sheet open on the last page, if it has that page.
-    void ChooseRememberedPage();
+    void SelectStoredPage();
     // Stores the active page in the settings, unless it is the one that the sheet opened on.
-    void RememberPage() const;
+    void StorePage() const;
 
 private:
     struct RegenMethodsDeleter {

@@ -37,10 +37,10 @@ void Selection::Clear() {
     ::SelectionClear(Set());
 }
 
-void Selection::Apply(const std::vector<GraphicStruct*>& graphics, Way way) {
-    if (way == Way::Replace) Clear();
+void Selection::Apply(const std::vector<GraphicStruct*>& graphics, Operation operation) {
+    if (operation == Operation::Replace) Clear();
     for (GraphicStruct* graphic : graphics) {
-        if (::SelectionAdd(Set(), graphic) || (way == Way::Toggle && ::SelectionRemove(Set(), graphic)))
+        if (::SelectionAdd(Set(), graphic) || (operation == Operation::Toggle && ::SelectionRemove(Set(), graphic)))
             AddToChanged(graphic);
     }
 }

@@ -13,7 +13,7 @@ std::optional<WorldBox> ExtentsOf(GraphicStruct* graphic);
 
 class Selection {
 public:
-    enum class Way { Replace, Add, Toggle };
+    enum class Operation { Replace, Add, Toggle };
 
     Selection();
     // Copies the selection to a separate set.
@@ -28,7 +28,7 @@ public:
     std::optional<WorldBox> Extents() const { return ExtentsOf(Set()); }
 
     void Clear();
-    void Apply(const std::vector<GraphicStruct*>& graphics, Way way);
+    void Apply(const std::vector<GraphicStruct*>& graphics, Operation operation);
 
     // Returns the extents of all graphics added or removed since the last call.
     std::optional<WorldBox> TakeChanged();

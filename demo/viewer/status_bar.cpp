@@ -41,22 +41,22 @@ void CStatusBar::Arrange() {
 void CStatusBar::ArrangePanes() {
     CRect client;
     GetClientRect(client);
-    const int room = client.Width() - ::GetSystemMetrics(SM_CXVSCROLL); // without the size grip
+    const int available = client.Width() - ::GetSystemMetrics(SM_CXVSCROLL); // without the size grip
     std::string texts[kPanes];
     int widths[kPanes];
-    const auto take = [&](Pane pane, const std::string& text) {
+    const auto setText = [&](Pane pane, const std::string& text) {
         texts[pane] = text;
         widths[pane] = WidthFor(text);
     };
     for (const Pane pane : {kMessage, kSelection, kWidths, kPointer})
-        take(pane, m_texts[pane].full);
+        setText(pane, m_texts[pane].full);
     widths[kPointer] = m_pointerWidth = std::max(m_pointerWidth, widths[kPointer]);
     if (m_progress.IsWindowVisible()) widths[kMessage] += Scaled(kProgressWidth);
-    const auto excess = [&] { return std::accumulate(widths, widths + kPanes, 0) - room; };
+    const auto excess = [&] { return std::accumulate(widths, widths + kPanes, 0) - available; };
     for (const Pane pane : {kWidths, kSelection})
-        if (excess() > 0) take(pane, m_texts[pane].brief);
+        if (excess() > 0) setText(pane, m_texts[pane].brief);
     // The widest pane is shortened first, to no less than a fourth of the bar.
-    for (int* widest; excess() > 0; *widest -= std::min(excess(), std::max(*widest - room / kPanes, 1)))
+    for (int* widest; excess() > 0; *widest -= std::min(excess(), std::max(*widest - available / kPanes, 1)))
         widest = std::max_element(widths, widths + kPanes);
     widths[kMessage] -= excess();
 

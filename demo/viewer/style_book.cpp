@@ -132,7 +132,7 @@ int StyleBook::Uses(uint16_t id) const {
     return uses;
 }
 
-std::string StyleBook::WhyNot(const std::string& name) const {
+std::string StyleBook::NameError(const std::string& name) const {
     if (name.empty()) return "Enter a name for the style.";
     if (name.size() > kLongestName) return "The name can have at most " + std::to_string(kLongestName) + " characters.";
     for (const unsigned int id : kStringsReservedStyles) {
@@ -160,7 +160,7 @@ StyleBook::Parts StyleBook::PartsOf(const std::vector<GraphicStruct*>& graphics)
 }
 
 uint16_t StyleBook::Create(const std::string& name, const std::vector<GraphicStruct*>& graphics, Parts parts) {
-    if (!WhyNot(name).empty()) return 0;
+    if (!NameError(name).empty()) return 0;
     OwnedGraphic content(::GraphicNewEx(kGraphicVertices, 0, 1));
     GraphicStruct* shape = ::GraphicAdd(content.get(), NewShape());
     GraphicStruct* text = ::GraphicAdd(content.get(), NewText());
@@ -211,7 +211,7 @@ uint16_t StyleBook::Find(const std::string& name) const {
     return IsStyle(id) ? id : 0;
 }
 
-void StyleBook::AddAgain(const std::string& name, GraphicStruct* copy, Parts parts) {
+void StyleBook::Readd(const std::string& name, GraphicStruct* copy, Parts parts) {
     OwnedGraphic content(::GraphicCopyEx(copy, 0, 0, 7));
     const uint16_t id = ::BlocksAddBlock(Table(), name.c_str(), content.get());
     if (!id) return;

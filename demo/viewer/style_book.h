@@ -36,7 +36,7 @@ public:
     void SetCurrent(uint16_t id) { m_current = id; }
 
     // Returns the reason why the name cannot be used for a new style, or an empty string.
-    std::string WhyNot(const std::string& name) const;
+    std::string NameError(const std::string& name) const;
     // Returns the parts that at least one of the graphics has.
     static Parts PartsOf(const std::vector<GraphicStruct*>& graphics);
     // The first graphic that has each part, or null.
@@ -62,7 +62,7 @@ public:
     void Remove(uint16_t id);
     // Adds a removed style again, with a new identifier: RenumberGraphics sets it in graphics to which undo has
     // restored a former identifier of the style.
-    void AddAgain(const std::string& name, GraphicStruct* copy, Parts parts);
+    void Readd(const std::string& name, GraphicStruct* copy, Parts parts);
     void RenumberGraphics() const;
     // Applies the current style's parts to the graphics.
     void ApplyCurrent(const std::vector<GraphicStruct*>& graphics) const;

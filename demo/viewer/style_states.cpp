@@ -20,12 +20,12 @@ void StyleStates::Restore() const {
         if (const uint16_t id = m_styles->Find(style.name))
             m_styles->Restore(id, style.content.get());
         else
-            m_styles->AddAgain(style.name, style.content.get(), style.parts);
+            m_styles->Readd(style.name, style.content.get(), style.parts);
     }
     m_styles->SetCurrent(m_styles->Find(m_current));
 }
 
-bool StyleStates::IsAsNow() const {
+bool StyleStates::IsCurrent() const {
     const std::vector<uint16_t> now = m_styles->All();
     return now.size() == m_all.size() && std::all_of(m_all.begin(), m_all.end(), [&](const Style& style) {
                const uint16_t id = m_styles->Find(style.name);
@@ -34,7 +34,7 @@ bool StyleStates::IsAsNow() const {
 }
 
 std::unique_ptr<UndoableChange> StyleStates::ChangeSince(StyleStates before) {
-    if (before.IsAsNow()) return nullptr;
+    if (before.IsCurrent()) return nullptr;
     StyleStates now(*before.m_styles);
     return std::make_unique<StateChange<StyleStates>>("styles", std::move(before), std::move(now));
 }

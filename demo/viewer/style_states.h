@@ -26,7 +26,7 @@ private:
         orlo::host::OwnedGraphic content;
     };
 
-    bool IsAsNow() const;
+    bool IsCurrent() const;
 
     StyleBook* m_styles;
     std::vector<Style> m_all;

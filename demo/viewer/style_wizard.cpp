@@ -41,9 +41,9 @@ protected:
         CString text;
         GetDlgItem(IDC_STYLE_NAME_EDIT)->GetWindowText(text);
         m_draft.name = Trimmed(static_cast<LPCSTR>(text));
-        const std::string fault = m_draft.document.Styles().WhyNot(m_draft.name);
-        if (fault.empty()) return CPropertyPage::OnKillActive();
-        AfxMessageBox(fault.c_str());
+        const std::string error = m_draft.document.Styles().NameError(m_draft.name);
+        if (error.empty()) return CPropertyPage::OnKillActive();
+        AfxMessageBox(error.c_str());
         const HWND edit = ::GetDlgItem(m_hWnd, IDC_STYLE_NAME_EDIT);
         ::SetFocus(edit);
         ::SendMessageA(edit, EM_SETSEL, 0, -1);

@@ -67,11 +67,11 @@ protected:
         return Pixels(picture);
     }
 
-    ViewPixels DrawnAnew() {
-        CachedView fresh(camera);
-        Prepare(fresh);
-        fresh.Renew();
-        return Pixels(fresh);
+    ViewPixels DrawnFromScratch() {
+        CachedView redrawn(camera);
+        Prepare(redrawn);
+        redrawn.Renew();
+        return Pixels(redrawn);
     }
 
     void Rest() {
@@ -93,16 +93,16 @@ TEST_F(MovingPicture, ShiftsTheOldPictureAndDrawsTheEdges) {
     const CSize by(31, -17);
     picture.Pan(CSize(20, -10));
     picture.Pan(CSize(11, -7));
-    const ViewPixels moved = Shown(), wanted = DrawnAnew();
+    const ViewPixels moved = Shown(), expected = DrawnFromScratch();
     ASSERT_TRUE(picture.IsMoved());
-    ASSERT_NE(before, wanted);
+    ASSERT_NE(before, expected);
     for (int y = 0; y < kSize.cy; ++y)
         for (int x = 0; x < kSize.cx; ++x) {
             const int fromX = x - by.cx, fromY = y - by.cy;
-            const bool kept = fromX >= 0 && fromX < kSize.cx && fromY >= 0 && fromY < kSize.cy;
+            const bool isVisible = fromX >= 0 && fromX < kSize.cx && fromY >= 0 && fromY < kSize.cy;
             ASSERT_EQ(moved[static_cast<size_t>(y * kSize.cx + x)],
-                      kept ? before[static_cast<size_t>(fromY * kSize.cx + fromX)]
-                           : wanted[static_cast<size_t>(y * kSize.cx + x)])
+                      isVisible ? before[static_cast<size_t>(fromY * kSize.cx + fromX)]
+                                : expected[static_cast<size_t>(y * kSize.cx + x)])
                 << x << ", " << y;
         }
 }
@@ -111,11 +111,11 @@ TEST_F(MovingPicture, StretchesTheOldPicture) {
     for (const double factor : {2.0, 0.5, 0.8, 1.1, 40.0, 0.02}) {
         SCOPED_TRACE(factor);
         picture.Zoom(factor, CPoint(70, 150));
-        const ViewPixels moved = Shown(), wanted = DrawnAnew();
+        const ViewPixels moved = Shown(), expected = DrawnFromScratch();
         ASSERT_TRUE(picture.IsMoved());
         size_t same = 0;
         for (size_t i = 0; i < moved.size(); ++i)
-            same += moved[i] == wanted[i];
+            same += moved[i] == expected[i];
         EXPECT_GT(same * 100, moved.size() * (factor > 10 ? 80 : 90)) << "except for edges and letters";
         Rest();
     }
@@ -126,7 +126,7 @@ TEST_F(MovingPicture, EqualsAFreshDrawingAtRest) {
         SCOPED_TRACE(round);
         if (round % 5 == 0)
             document->Selected().Apply({document->Selectable()[static_cast<size_t>(Number(90))]},
-                                       Selection::Way::Toggle);
+                                       Selection::Operation::Toggle);
         if (round % 5 == 0) picture.InvalidateHighlight(picture.Bounds());
         for (int moves = Number(4); moves >= 0; --moves) {
             if (Number(3) == 0)
@@ -138,7 +138,7 @@ TEST_F(MovingPicture, EqualsAFreshDrawingAtRest) {
         }
         Rest();
         ASSERT_FALSE(picture.IsMoved());
-        ASSERT_EQ(Shown(), DrawnAnew());
+        ASSERT_EQ(Shown(), DrawnFromScratch());
     }
 }
 
@@ -154,15 +154,15 @@ TEST_F(MovingPicture, HighlightsAllAsItHighlightsMany) {
     for (int i = 0; i < 1000; ++i)
         dot(Number(70), Number(70));
     GraphicStruct* distant = dot(5000, 5000);
-    document->Selected().Apply(document->Selectable(), Selection::Way::Replace);
+    document->Selected().Apply(document->Selectable(), Selection::Operation::Replace);
     picture.InvalidateAll();
     const ViewPixels all = Shown();
-    document->Selected().Apply({distant}, Selection::Way::Toggle);
-    EXPECT_EQ(DrawnAnew(), all);
-    document->Selected().Apply({distant}, Selection::Way::Add);
+    document->Selected().Apply({distant}, Selection::Operation::Toggle);
+    EXPECT_EQ(DrawnFromScratch(), all);
+    document->Selected().Apply({distant}, Selection::Operation::Add);
     picture.Pan(CSize(5, 5));
     Rest();
-    EXPECT_EQ(Shown(), DrawnAnew());
+    EXPECT_EQ(Shown(), DrawnFromScratch());
 }
 
 TEST_F(MovingPicture, NeverShowsAnOutdatedPicture) {
@@ -176,12 +176,12 @@ TEST_F(MovingPicture, NeverShowsAnOutdatedPicture) {
     picture.Pan(CSize(20, 10));
     picture.Finish(0);
     paint(RGB(9, 200, 9));
-    EXPECT_EQ(Shown(), DrawnAnew());
+    EXPECT_EQ(Shown(), DrawnFromScratch());
     picture.Zoom(1.25, CPoint(9, 9));
     Shown();
-    document->Selected().Apply({document->Selectable()[40]}, Selection::Way::Add);
+    document->Selected().Apply({document->Selectable()[40]}, Selection::Operation::Add);
     picture.InvalidateHighlight(CRect(0, 0, 1, 1));
-    EXPECT_EQ(Shown(), DrawnAnew());
+    EXPECT_EQ(Shown(), DrawnFromScratch());
 }
 
 } // namespace

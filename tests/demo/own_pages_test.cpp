@@ -26,7 +26,7 @@ protected:
     // Opens the sheet over the graphics, shows the page with that title, and closes the sheet by OK.
     void OnPage(const std::vector<GraphicStruct*>& graphics, const char* title,
                 const std::function<void(HWND page)>& work) {
-        selection().Apply(graphics, Selection::Way::Replace);
+        selection().Apply(graphics, Selection::Operation::Replace);
         user.InDialog([&] { user.Key(VK_RETURN, UserInput::kAlt); },
                       [&](HWND sheet) {
                           titles = PageTitles(sheet);

@@ -100,7 +100,7 @@ TEST_F(Styles, NeedAUniqueName) {
             user.Key(VK_ESCAPE);
         });
     EXPECT_EQ(styles().All().size(), 1u);
-    EXPECT_NE(styles().WhyNot(std::string(33, 'x')), "");
+    EXPECT_NE(styles().NameError(std::string(33, 'x')), "");
 }
 
 TEST_F(Styles, AreAppliedAsOneStep) {
@@ -214,8 +214,8 @@ TEST_F(Styles, StyleSelectedInTheSheetBecomesCurrent) {
 TEST_F(Styles, AreDeletedOnRequestIfUnused) {
     Make("Red");
     Make("Blue");
-    const auto erase = [&](const char* name, int answer) {
-        MessageBoxWatcher boxes(answer);
+    const auto erase = [&](const char* name, int reply) {
+        MessageBoxWatcher boxes(reply);
         InStyleSheets({[&](HWND sheet) {
             TypeStyle(sheet, name);
             user.Click(OnPage(sheet, IDC_STYLE_DELETE));

@@ -18,9 +18,9 @@ bool PrintOnConsole(FILE* stream, std::string_view utf8) {
     DWORD mode;
     if (!::GetConsoleMode(console, &mode)) return false;
     const std::wstring wide = orlo::Widen(std::string(utf8), CP_UTF8);
-    constexpr size_t kPiece = 8192; // consoles reject very long ones
-    for (size_t at = 0; at < wide.size(); at += kPiece) {
-        const auto size = static_cast<DWORD>(std::min(wide.size() - at, kPiece));
+    constexpr size_t kChunkSize = 8192; // consoles reject very long ones
+    for (size_t at = 0; at < wide.size(); at += kChunkSize) {
+        const auto size = static_cast<DWORD>(std::min(wide.size() - at, kChunkSize));
         DWORD written = 0;
         if (!::WriteConsoleW(console, wide.data() + at, size, &written, nullptr)) break;
     }

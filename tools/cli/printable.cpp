@@ -9,7 +9,7 @@
 namespace cli {
 namespace {
 
-constexpr size_t kPiece = 65536; // bytes per write
+constexpr size_t kChunkSize = 65536; // bytes per write
 
 // Returns the size in bytes of the first character, or 1 for an invalid byte.
 size_t CharacterSize(std::string_view utf8) {
@@ -82,7 +82,7 @@ PrintableBuffer::~PrintableBuffer() {
 std::streamsize PrintableBuffer::xsputn(const char* text, std::streamsize size) {
     text_.append(text, static_cast<size_t>(size));
     // Only whole lines, because a piece must not end within a character.
-    const size_t lines = text_.size() < kPiece ? std::string::npos : text_.rfind('\n');
+    const size_t lines = text_.size() < kChunkSize ? std::string::npos : text_.rfind('\n');
     return lines == std::string::npos || Write(lines + 1) ? size : 0;
 }
 

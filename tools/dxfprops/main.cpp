@@ -132,15 +132,15 @@ public:
     }
 
     // Like search programs, returns a separate exit code if nothing was found.
-    int ResultOf(const Matches& matches, const Noun& things, bool isConditional) {
+    int ResultOf(const Matches& matches, const Noun& noun, bool isConditional) {
         if (result_ != kDone || matches.count > 0 || !isConditional) return result_;
-        std::cerr << "dxfprops: no " << things.one << " matches";
+        std::cerr << "dxfprops: no " << noun.one << " matches";
         for (const std::vector<std::string>& conditions : {line_.where, line_.layers})
             for (const std::string& condition : conditions)
                 std::cerr << " " << condition;
         if (!line_.within.empty()) std::cerr << " --within " << line_.within;
         if (!matches.kinds.empty())
-            std::cerr << "; existing " << things.kinds << ": " << Joined({matches.kinds.begin(), matches.kinds.end()});
+            std::cerr << "; existing " << noun.kinds << ": " << Joined({matches.kinds.begin(), matches.kinds.end()});
         std::cerr << "\n";
         return kNothing;
     }
@@ -238,7 +238,7 @@ void RequireTarget(const CommandLine& line) {
 
 // Changes each file by the call and reports the counts.
 template <class Change>
-int ChangeFiles(const CommandLine& line, const Noun& things, bool isConditional, Change change) {
+int ChangeFiles(const CommandLine& line, const Noun& noun, bool isConditional, Change change) {
     Run run(line);
     Matches matches;
     const int result = run.ForEach(line.files, nullptr, [&](const std::string& file) {
@@ -251,10 +251,10 @@ int ChangeFiles(const CommandLine& line, const Noun& things, bool isConditional,
             std::cerr << "dxfprops: " << cli::OneLine(file) << ": note: " << note << "\n";
         Print(set.differences, "the drawing", "the changed drawing", std::cout);
         std::ostream& out = line.output == kStandardStream ? std::cerr : std::cout;
-        out << cli::OneLine(file) << ": " << set.changed << " " << (set.changed == 1 ? things.one : things.many)
+        out << cli::OneLine(file) << ": " << set.changed << " " << (set.changed == 1 ? noun.one : noun.many)
             << (line.isDry ? " would change\n" : " changed\n");
     });
-    return result != kDone ? result : run.ResultOf(matches, things, isConditional);
+    return result != kDone ? result : run.ResultOf(matches, noun, isConditional);
 }
 
 int Set(CommandLine& line) {

@@ -23,14 +23,14 @@ namespace {
 
 #ifdef _WIN32
 
-bool HasReaderGone() {
+bool IsPipeClosed() {
     const DWORD error = ::GetLastError();
     return error == ERROR_BROKEN_PIPE || error == ERROR_NO_DATA || error == ERROR_PIPE_NOT_CONNECTED;
 }
 
 #else
 
-bool HasReaderGone() {
+bool IsPipeClosed() {
     return errno == EPIPE;
 }
 
@@ -53,7 +53,7 @@ void Print(FILE* stream, const std::string& utf8) {
     const bool isWritten = std::fwrite(text.data(), 1, text.size(), stream) == text.size() && std::fflush(stream) == 0;
     if (isWritten || stream != stdout) return;
     // If the reader has closed the pipe, the program ends silently; other errors are reported.
-    if (!HasReaderGone()) Print(stderr, "suminfo: cannot write the output\n");
+    if (!IsPipeClosed()) Print(stderr, "suminfo: cannot write the output\n");
     std::exit(kFailed);
 }
 

@@ -74,7 +74,7 @@ bool IsFolder(const std::string& path) {
     return fs::is_directory(fs::u8path(path), unknown);
 }
 
-bool IsThere(const std::string& path) {
+bool Exists(const std::string& path) {
     std::error_code unknown;
     return fs::exists(fs::u8path(path), unknown);
 }
@@ -125,7 +125,7 @@ private:
         const auto entries = EntriesOf(folder);
         if (!entries) return Miss(folder, "cannot read the folder");
         for (const std::string& entry : *entries) {
-            if (!IsThere(entry)) // Wine lists names that it cannot open, with a question mark
+            if (!Exists(entry)) // Wine lists names that it cannot open, with a question mark
                 Miss(entry, "the system cannot open a file with this name");
             else if (IsFolder(entry) || MayBeDocument(entry))
                 Add(entry);
@@ -136,11 +136,11 @@ private:
 
     bool IsNew(const std::string& path) {
         const std::optional<FileIdentity> identity = IdentityOf(path);
-        return !identity || seen_.insert(*identity).second;
+        return !identity || listed_.insert(*identity).second;
     }
 
     FileList list_;
-    std::set<FileIdentity> seen_;
+    std::set<FileIdentity> listed_;
 };
 
 } // namespace

@@ -14,7 +14,7 @@ namespace {
 class WhiteBitmap {
 public:
     explicit WhiteBitmap(Extent size)
-        : size_(size), dc_(::CreateCompatibleDC(nullptr)), bitmap_(Made(dc_.get(), size, pixels_)),
+        : size_(size), dc_(::CreateCompatibleDC(nullptr)), bitmap_(CreateBitmap(dc_.get(), size, pixels_)),
           selected_(dc_.get(), bitmap_.get()) {
         if (!selected_) throw Failure("cannot create a bitmap of that size");
         ::PatBlt(dc_.get(), 0, 0, size.width, size.height, WHITENESS);
@@ -36,7 +36,7 @@ public:
 
 private:
     // Creates a top-down bitmap and stores the address of its memory in `pixels`.
-    static HBITMAP Made(HDC dc, Extent size, void*& pixels) {
+    static HBITMAP CreateBitmap(HDC dc, Extent size, void*& pixels) {
         BITMAPINFO info = {};
         info.bmiHeader = {sizeof info.bmiHeader, size.width, -size.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         return ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);

@@ -35,8 +35,9 @@ std::string Aligned(const std::vector<Line>& lines) {
     std::string table;
     for (const Line& line : lines) {
         table += "    " + line.name;
-        const size_t taken = Width(line.name);
-        if (!line.value.empty()) table += std::string(taken < width ? width - taken : 0, ' ') + "  " + line.value;
+        const size_t nameWidth = Width(line.name);
+        if (!line.value.empty())
+            table += std::string(nameWidth < width ? width - nameWidth : 0, ' ') + "  " + line.value;
         table += "\n";
     }
     return table;
@@ -97,18 +98,18 @@ Report ShowJson(const Source& source) {
     const SourceSets sets = SetsOf(source);
     Report report;
     report.clean = sets.damage.empty();
-    const auto keep = [&report](Json stream) {
+    const auto addToReport = [&report](Json stream) {
         report.clean = report.clean && !stream.contains("error") && stream["damage"].empty();
         return stream;
     };
     if (source.bare) {
-        json.update(keep(StreamJson(sets.streams.front())));
+        json.update(addToReport(StreamJson(sets.streams.front())));
         json["stream"] = nullptr;
     } else {
         json["damage"] = sets.damage;
         Json& list = json["property_sets"] = Json::array();
         for (const NamedStream& stream : sets.streams)
-            list.push_back(keep(StreamJson(stream)));
+            list.push_back(addToReport(StreamJson(stream)));
     }
     report.text = JsonLine(json);
     return report;

@@ -76,7 +76,7 @@ void Append(void* bytes, void* data, int size) {
     static_cast<std::string*>(bytes)->append(static_cast<const char*>(data), static_cast<size_t>(size));
 }
 
-void RefuseOtherKinds(const orlo::Bytes& value) {
+void RequireDrawable(const orlo::Bytes& value) {
     const auto tag = At<int32_t>(value, 0);
     const auto format = At<uint32_t>(value, 4);
     if (tag == kOfWindows && (format == kMetafilePicture || format == kBitmap)) return;
@@ -122,7 +122,7 @@ StoredPicture PictureIn(const orlo::Bytes& value) {
 
 void SaveThumbnail(const Source& source, const std::string& png, std::optional<Extent> size) {
     const orlo::Bytes value = ThumbnailOf(source);
-    RefuseOtherKinds(value);
+    RequireDrawable(value);
     const Extent extent = size ? *size : OwnExtent(value);
     if (extent.width <= 0 || extent.height <= 0 || extent.width > kLargest || extent.height > kLargest)
         throw Failure("the size must be between 1x1 and 8192x8192");

@@ -26,7 +26,7 @@ constexpr std::array kTypeWords = {
     TypeWord{"money", VT_CY},   TypeWord{"guid", VT_CLSID},
 };
 
-[[noreturn]] void Refuse(const std::string& text, const std::string& kind) {
+[[noreturn]] void ThrowNotAValue(const std::string& text, const std::string& kind) {
     throw Failure("'" + text + "' is not a " + kind);
 }
 
@@ -35,7 +35,7 @@ Number ParseInteger(const std::string& text, const char* kind) {
     Number number = 0;
     const char* end = text.data() + text.size();
     const auto [stopped, error] = std::from_chars(text.data(), end, number);
-    if (error != std::errc() || stopped != end || text.empty()) Refuse(text, kind);
+    if (error != std::errc() || stopped != end || text.empty()) ThrowNotAValue(text, kind);
     return number;
 }
 
@@ -43,7 +43,7 @@ double Real(const std::string& text) {
     char* end = nullptr;
     errno = 0;
     const double number = std::strtod(text.c_str(), &end);
-    if (text.empty() || *end != '\0' || errno == ERANGE) Refuse(text, "number");
+    if (text.empty() || *end != '\0' || errno == ERANGE) ThrowNotAValue(text, "number");
     return number;
 }
 
@@ -52,7 +52,7 @@ bool Truth(const std::string& text) {
         if (orlo::IsSameName(text, yes)) return true;
     for (const char* no : {"false", "no", "0"})
         if (orlo::IsSameName(text, no)) return false;
-    Refuse(text, "bool (true or false)");
+    ThrowNotAValue(text, "bool (true or false)");
 }
 
 uint64_t Now() {
@@ -83,7 +83,7 @@ orlo::Value ParseByFormat(uint32_t type, const std::string& text) {
     orlo::Value value;
     if (!orlo::ParseValueText(text, type, element) ||
         !orlo::DecodeValue(type, element, type == VT_CLSID ? 16 : 8, std::nullopt, value))
-        Refuse(text, form->kind);
+        ThrowNotAValue(text, form->kind);
     return value;
 }
 
@@ -131,12 +131,12 @@ orlo::Value ParseSpan(const std::string& text) {
     std::array<uint64_t, 3> parts = {};
     size_t count = 0, begin = 0;
     while (begin <= text.size()) {
-        if (count == parts.size()) Refuse(text, kKind);
+        if (count == parts.size()) ThrowNotAValue(text, kKind);
         const size_t end = std::min(text.find(':', begin), text.size());
         parts[count++] = ParseInteger<uint32_t>(text.substr(begin, end - begin), kKind);
         begin = end + 1;
     }
-    if (count < 2 || parts[1] > 59 || parts[2] > 59) Refuse(text, kKind);
+    if (count < 2 || parts[1] > 59 || parts[2] > 59) ThrowNotAValue(text, kKind);
     orlo::Value value;
     value.type = VT_FILETIME;
     value.data = ((parts[0] * 60 + parts[1]) * 60 + parts[2]) * 10000000;
