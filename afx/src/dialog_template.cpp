@@ -66,8 +66,8 @@ public:
         }
     }
 
-    // Reads a name or number. Returns true if it is the given name. A number never matches: the templates write classes as
-    // names (CONTROL statements).
+    // Reads a name or number. Returns true if it is the given name. A number never matches, because the templates
+    // contain CONTROL statements, which store the class as a name.
     bool NextNameIs(const char* name) {
         const Reader before = *this;
         if (Word() == 0xFFFF) {

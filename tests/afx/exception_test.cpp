@@ -25,7 +25,7 @@ protected:
 struct Thrown {
     const char* name;
     void (*thrower)();
-    const char* said; // null: no message box
+    const char* message; // null: no message box
 };
 
 class HandlerThatThrows : public ::testing::TestWithParam<Thrown> {};
@@ -36,10 +36,10 @@ TEST_P(HandlerThatThrows, IsReportedOnce) {
     window.thrower = GetParam().thrower;
     MessageBoxWatcher boxes;
     EXPECT_EQ(window.SendMessage(WM_APP), 0);
-    if (GetParam().said == nullptr) {
+    if (GetParam().message == nullptr) {
         EXPECT_TRUE(boxes.Boxes().empty());
     } else {
-        EXPECT_EQ(GetParam().said, boxes.OnlyText());
+        EXPECT_EQ(GetParam().message, boxes.OnlyText());
     }
 }
 

@@ -11,9 +11,9 @@ namespace {
 class CMainFrame : public CFrameWnd {
 public:
     int greeted = 0;
-    bool* gone = nullptr;
+    bool* isDeleted = nullptr;
     ~CMainFrame() override {
-        if (gone != nullptr) *gone = true;
+        if (isDeleted != nullptr) *isDeleted = true;
     }
 
 protected:
@@ -29,16 +29,16 @@ END_MESSAGE_MAP()
 class Frame : public ::testing::Test {
 protected:
     CMainFrame* frame = nullptr;
-    bool gone = false;
+    bool isDeleted = false;
     void SetUp() override {
         frame = new CMainFrame;
-        frame->gone = &gone;
+        frame->isDeleted = &isDeleted;
         ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));
         AfxGetThread()->m_pMainWnd = frame;
     }
     void TearDown() override {
-        if (!gone) frame->DestroyWindow();
-        EXPECT_TRUE(gone) << "the object is deleted with its window";
+        if (!isDeleted) frame->DestroyWindow();
+        EXPECT_TRUE(isDeleted) << "the object is deleted with its window";
         EXPECT_EQ(AfxGetMainWnd(), nullptr);
     }
 };
@@ -80,7 +80,7 @@ TEST_F(Frame, IsFoundFromChildWindows) {
 TEST_F(Frame, EndsTheMessageLoopWhenDestroyed) {
     frame->SetTimer(1, 1);
     EXPECT_EQ(AfxGetThread()->Run(), 0);
-    EXPECT_TRUE(gone);
+    EXPECT_TRUE(isDeleted);
 }
 
 } // namespace

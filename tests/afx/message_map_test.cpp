@@ -174,24 +174,24 @@ TEST_F(MessageMap, NestedMessagesPreserveOuterParameters) {
 TEST_F(MessageMap, HelpIsRequestedFromTheWindowOutward) {
     class CHelper : public CWnd {
     public:
-        LRESULT answer = 0;
-        int asked = 0;
+        LRESULT result = 0;
+        int calls = 0;
 
     protected:
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
             if (message != WM_COMMANDHELP) return CWnd::WindowProc(message, wParam, lParam);
-            ++asked;
-            return answer;
+            ++calls;
+            return result;
         }
     } outer, inner;
     ASSERT_TRUE(outer.CreateEx(0, nullptr, "", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr));
     ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, CRect(0, 0, 5, 5), &outer, 1));
     inner.OnHelp();
-    EXPECT_EQ(outer.asked, 1);
-    inner.answer = 1;
+    EXPECT_EQ(outer.calls, 1);
+    inner.result = 1;
     inner.OnHelp();
-    EXPECT_EQ(inner.asked, 2);
-    EXPECT_EQ(outer.asked, 1) << "the inner window has shown help";
+    EXPECT_EQ(inner.calls, 2);
+    EXPECT_EQ(outer.calls, 1) << "the inner window has shown help";
 }
 
 } // namespace

@@ -17,7 +17,7 @@ class CLog : public CWnd {
 public:
     std::vector<UINT> messages;
     bool* deleted = nullptr;
-    bool refuseCreate = false;
+    bool failCreate = false;
     ~CLog() override {
         if (deleted != nullptr) *deleted = true;
     }
@@ -25,7 +25,7 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
         messages.push_back(message);
-        if (message == WM_CREATE && refuseCreate) return -1;
+        if (message == WM_CREATE && failCreate) return -1;
         return CWnd::WindowProc(message, wParam, lParam);
     }
     void PostNcDestroy() override {
@@ -72,12 +72,12 @@ TEST_F(Window, ReceivesItsFirstAndLastMessages) {
 }
 
 TEST_F(Window, ObjectStaysEmptyIfCreationFails) {
-    CLog refused;
-    refused.refuseCreate = true;
-    EXPECT_FALSE(refused.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
-    EXPECT_EQ(refused.m_hWnd, nullptr);
-    EXPECT_EQ(refused.messages.back(), 0u) << "notified by PostNcDestroy once";
-    EXPECT_EQ(std::count(refused.messages.begin(), refused.messages.end(), 0u), 1);
+    CLog rejected;
+    rejected.failCreate = true;
+    EXPECT_FALSE(rejected.Create(nullptr, "", WS_CHILD, kPlace, &parent, 1));
+    EXPECT_EQ(rejected.m_hWnd, nullptr);
+    EXPECT_EQ(rejected.messages.back(), 0u) << "notified by PostNcDestroy once";
+    EXPECT_EQ(std::count(rejected.messages.begin(), rejected.messages.end(), 0u), 1);
 
     CLog unknown;
     EXPECT_FALSE(unknown.Create("no such class", "", WS_CHILD, kPlace, &parent, 1));
@@ -213,18 +213,18 @@ TEST_F(Window, UnsubclassingRestoresTheProcedure) {
 class CCreated : public CLog {
 public:
     static WNDPROC super;
-    static CCreated* made;
+    static CCreated* instance;
 
 protected:
     WNDPROC* GetSuperWndProcAddr() override { return &super; }
 };
 WNDPROC CCreated::super = nullptr;
-CCreated* CCreated::made = nullptr;
+CCreated* CCreated::instance = nullptr;
 
 LRESULT CALLBACK FirstMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (::GetDlgCtrlID(window) == 1) {
-        CCreated::made = new CCreated;
-        CCreated::made->Attach(window);
+        CCreated::instance = new CCreated;
+        CCreated::instance->Attach(window);
     }
     ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
     return ::CallWindowProcA(AfxGetAfxWndProc(), window, message, wParam, lParam);
@@ -245,9 +245,9 @@ TEST_F(Window, OfAnObjectCreatingClassWorksWithoutAnObject) {
                                  reinterpret_cast<HMENU>(id), AfxGetInstanceHandle(), nullptr);
     };
     HWND withObject = create(1);
-    ASSERT_NE(CCreated::made, nullptr);
-    EXPECT_EQ(CCreated::made, CWnd::FromHandlePermanent(withObject));
-    EXPECT_EQ(CCreated::made->messages.front(), static_cast<UINT>(WM_NCCREATE));
+    ASSERT_NE(CCreated::instance, nullptr);
+    EXPECT_EQ(CCreated::instance, CWnd::FromHandlePermanent(withObject));
+    EXPECT_EQ(CCreated::instance->messages.front(), static_cast<UINT>(WM_NCCREATE));
 
     HWND plain = create(2);
     EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
@@ -257,7 +257,7 @@ TEST_F(Window, OfAnObjectCreatingClassWorksWithoutAnObject) {
     }
     ::DestroyWindow(plain);
     ::DestroyWindow(withObject);
-    delete CCreated::made;
+    delete CCreated::instance;
     ::UnregisterClassA("AfxTestList", AfxGetInstanceHandle());
 }
 
@@ -284,10 +284,10 @@ TEST_F(Window, SendsMessagesToItsDescendants) {
 TEST_F(Window, PretranslatesFromTheInnermostWindowOutward) {
     class CTaker : public CWnd {
     public:
-        int asked = 0;
+        int calls = 0;
         BOOL takes = FALSE;
         BOOL PreTranslateMessage(MSG*) override {
-            ++asked;
+            ++calls;
             return takes;
         }
     } outer, inner;
@@ -296,13 +296,13 @@ TEST_F(Window, PretranslatesFromTheInnermostWindowOutward) {
     MSG message = {};
     message.hwnd = inner.m_hWnd;
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_EQ(outer.asked, 1);
+    EXPECT_EQ(outer.calls, 1);
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(inner.m_hWnd, &message));
-    EXPECT_EQ(outer.asked, 1) << "stopped before it";
+    EXPECT_EQ(outer.calls, 1) << "stopped before it";
     inner.takes = TRUE;
     EXPECT_TRUE(CWnd::WalkPreTranslateTree(nullptr, &message));
-    EXPECT_EQ(outer.asked, 1);
-    EXPECT_EQ(inner.asked, 3);
+    EXPECT_EQ(outer.calls, 1);
+    EXPECT_EQ(inner.calls, 3);
 }
 
 TEST_F(Window, SetsATextOnlyIfItDiffers) {

@@ -64,11 +64,11 @@ TEST(AllOrNothing, InvalidLastControlWritesNothingAndTheNextAttemptWritesEachOnc
     }
 }
 
-struct Refusal {
+struct Rejection {
     const char* name;
     std::function<void(const std::string&)> onSet; // of the second graphic; if null, the write returns 0
-    int arrived;                                   // number of the three graphics that got the width
-    const char* said;
+    int written;                                   // number of the three graphics that got the width
+    const char* message;
 };
 
 template <class Throw>
@@ -80,20 +80,20 @@ std::function<void(const std::string&)> AtWidth(Throw fail) {
 
 // A rejected value affects only its property and is reported once, after all other values have been written.
 TEST(WriteBack, RejectedValuesAreCountedAndOthersWritten) {
-    const Refusal kRefusals[] = {
+    const Rejection kRejections[] = {
         {"result", nullptr, 2, "1 of 3 graphics could not be changed."},
         {"framework exception", AtWidth([] { AfxThrowUserException(); }), 1, "2 of 3 graphics could not be changed."},
         {"standard exception", AtWidth([] { throw std::runtime_error("no disk"); }), 1,
          "2 of 3 graphics could not be changed.\nno disk"},
         {"anything", AtWidth([] { throw 1; }), 1, "2 of 3 graphics could not be changed.\nAn internal error occurred."},
     };
-    for (const Refusal& refusal : kRefusals) {
-        SCOPED_TRACE(refusal.name);
+    for (const Rejection& rejection : kRejections) {
+        SCOPED_TRACE(rejection.name);
         OverTwo over;
         GraphicKit& kit = over.kit;
         kit.Add({{"Width", 1.0}, {"Scale", 2.0}});
-        kit[1].onSet = refusal.onSet;
-        if (!refusal.onSet) kit[1].refused = "Width";
+        kit[1].onSet = rejection.onSet;
+        if (!rejection.onSet) kit[1].rejected = "Width";
         over.sheet.Add(over.numbers.Exchange());
         MessageBoxWatcher boxes;
         EXPECT_EQ(over.sheet.Run([&](SheetDriver& user) {
@@ -102,13 +102,13 @@ TEST(WriteBack, RejectedValuesAreCountedAndOthersWritten) {
             user.Ok();
         }),
                   IDOK);
-        EXPECT_EQ(refusal.said, boxes.OnlyText());
-        int arrived = 0;
+        EXPECT_EQ(rejection.message, boxes.OnlyText());
+        int written = 0;
         for (size_t i : {0, 1, 2}) {
-            arrived += kit[i].Number("Width") == 5;
+            written += kit[i].Number("Width") == 5;
             EXPECT_EQ(kit[i].Number("Scale"), 3);
         }
-        EXPECT_EQ(refusal.arrived, arrived);
+        EXPECT_EQ(rejection.written, written);
     }
 }
 

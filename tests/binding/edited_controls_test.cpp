@@ -16,7 +16,7 @@ struct KindOfControl {
     const char* name;
     int id;
     std::function<void(CDataExchange*)> exchange;
-    SheetDriver::Script away, back;
+    SheetDriver::Script change, restore;
 };
 
 class EditedControls : public ::testing::Test {
@@ -102,7 +102,7 @@ protected:
 
 TEST_F(EditedControls, ShowSomethingOtherThanWhatWasLoaded) {
     for (const KindOfControl& kind : kinds) {
-        for (const bool back : {true, false}) {
+        for (const bool restore : {true, false}) {
             SCOPED_TRACE(kind.name);
             std::map<std::string, KitValue> before = kit[0].properties;
             TestSheet sheet(kit);
@@ -113,17 +113,17 @@ TEST_F(EditedControls, ShowSomethingOtherThanWhatWasLoaded) {
             });
             EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
                 EXPECT_EQ(page.IsEdited(kind.id), 0);
-                kind.away(user);
+                kind.change(user);
                 EXPECT_EQ(page.IsEdited(kind.id), 1);
-                if (back) kind.back(user);
+                if (restore) kind.restore(user);
                 EXPECT_EQ(page.GetControlStatus(kind.id), 1) << "the mark stays";
-                EXPECT_EQ(!back, page.IsEdited(kind.id) != 0);
+                EXPECT_EQ(!restore, page.IsEdited(kind.id) != 0);
                 user.Ok();
             }),
                       IDOK);
-            EXPECT_EQ(back ? 0 : 2, kit.Writes());
-            EXPECT_EQ(back, before == kit[0].properties);
-            if (back && kind.id == kEdit) {
+            EXPECT_EQ(restore ? 0 : 2, kit.Writes());
+            EXPECT_EQ(restore, before == kit[0].properties);
+            if (restore && kind.id == kEdit) {
                 EXPECT_EQ(width, kThird) << "not the value of the text";
             }
             for (size_t i : {0, 1}) {

@@ -39,7 +39,7 @@ int Get(GraphicStruct* graphic, int32_t, int vt, void* value) {
 int Set(GraphicStruct* graphic, int32_t, int vt, const void* value) {
     MemoryGraphic& to = Of(graphic);
     if (to.throws) throw std::runtime_error("locked");
-    if (to.refuses) return 0;
+    if (to.rejects) return 0;
     if (vt == VT_R8) to.number = *static_cast<const double*>(value);
     if (vt == VT_BOOL) to.number = *static_cast<const int32_t*>(value);
     if (vt == VT_UI2) to.number = *static_cast<const uint16_t*>(value);

@@ -10,7 +10,7 @@ struct MemoryGraphic : GraphicStruct {
     bool has = true; // has the property, under any name
     double number = 0;
     std::string text;
-    bool refuses = false, throws = false; // on write
+    bool rejects = false, throws = false; // on write
     int reads = 0;
 };
 

@@ -85,7 +85,7 @@ TEST_F(Graphics, MergingStopsAtTheFirstDifference) {
 TEST_F(Graphics, WritingReturnsTheGraphicsThatKeepTheirValue) {
     Fill({1, 2, 3, 4});
     EXPECT_EQ(Write<Double>(target, "Any", Indeterminate<double>::Value()), 0);
-    At(1).refuses = true;
+    At(1).rejects = true;
     EXPECT_EQ(Write<Double>(target, "Any", 9), 1);
     EXPECT_EQ(At(0).number, 9);
     EXPECT_EQ(At(1).number, 2);

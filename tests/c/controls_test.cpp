@@ -117,7 +117,7 @@ TEST_F(CControls, AreDrawnAndNotifyTheirDialog) {
     EXPECT_NE(Selected(IDC_COLOR), static_cast<uint32_t>(RGB(255, 0, 0)));
 }
 
-TEST_F(CControls, RefuseWrongArguments) {
+TEST_F(CControls, RejectWrongArguments) {
     EXPECT_EQ(OrloFillControls(nullptr, kit.Drawing(), nullptr, nullptr), kOrloBadArgument);
     EXPECT_EQ(OrloFillControls(reinterpret_cast<HWND>(uintptr_t{0x1234}), kit.Drawing(), nullptr, nullptr),
               kOrloBadArgument);

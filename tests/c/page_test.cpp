@@ -149,7 +149,7 @@ protected:
 };
 
 TEST_F(CPages, EditPropertiesAndTheHostsOwnData) {
-    kit[1].refused = "Rating";
+    kit[1].rejected = "Rating";
     MessageBoxWatcher boxes;
     RunOk([&](HWND window) {
         EXPECT_EQ(Shown(window, kRating), "1");
@@ -430,7 +430,7 @@ TEST_F(CSheetWindow, StaysAsItIsWhileACallbackRuns) {
 }
 
 // The message box belongs to the active window, so it leaves the sheet enabled.
-TEST_F(CSheetWindow, StaysOpenWhileItTellsOfInvalidInput) {
+TEST_F(CSheetWindow, StaysOpenWhileItReportsInvalidInput) {
     ShowRoom();
     Edit(kRating, 'x');
     ::SetActiveWindow(owner);

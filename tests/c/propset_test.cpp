@@ -403,9 +403,9 @@ TEST(CPropset, ReturnsTheThumbnailAsPixelsAndBitmap) {
     width = height = 40;
     HBITMAP bitmap = nullptr;
     ASSERT_EQ(OrloPropsetGetThumbnailBitmap(set, &width, &height, &bitmap), kOrloOk);
-    BITMAP made = {};
-    ::GetObjectA(bitmap, sizeof made, &made);
-    EXPECT_EQ(made.bmWidth, 40);
+    BITMAP info = {};
+    ::GetObjectA(bitmap, sizeof info, &info);
+    EXPECT_EQ(info.bmWidth, 40);
     ::DeleteObject(bitmap);
     width = 8193;
     EXPECT_EQ(OrloPropsetGetThumbnailBitmap(set, &width, &height, &bitmap), kOrloBadArgument);

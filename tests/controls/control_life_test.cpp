@@ -135,11 +135,11 @@ TEST(ControlLife, ObjectsOfAProgramAreNotDeleted) {
 }
 
 TEST(ControlLife, FrameworkCreatesControlsByName) {
-    for (CRuntimeClass* const made :
+    for (CRuntimeClass* const type :
          {RUNTIME_CLASS(CColorControl), RUNTIME_CLASS(CLineStyleControlC), RUNTIME_CLASS(CLineStyleControlL)}) {
-        CObject* const object = made->CreateObject();
+        CObject* const object = type->CreateObject();
         ASSERT_NE(object, nullptr);
-        EXPECT_EQ(made, object->GetRuntimeClass());
+        EXPECT_EQ(type, object->GetRuntimeClass());
         delete object;
     }
     EXPECT_EQ(RUNTIME_CLASS(CComboControl)->m_pfnCreateObject, nullptr) << "a base class cannot be created by name";

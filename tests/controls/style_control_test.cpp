@@ -364,18 +364,18 @@ TYPED_TEST(BrushStyles, SamplesAreFilledWithinTheCell) {
     TypeParam::Add(this->m_table, "Hatch");
     this->Fill();
     const RECT row = {0, 20, 100, 45}, cell = {2, 22, 98, 43};
-    const auto inkIn = [&](const char* name) {
+    const auto coveredIn = [&](const char* name) {
         this->Draw(this->IndexOf(name), ODA_DRAWENTIRE, 0, row);
         const int inside = this->CountDrawn(cell);
         EXPECT_EQ(inside, this->CountDrawn()) << "outside";
         return inside;
     };
     const int area = (cell.right - cell.left) * (cell.bottom - cell.top);
-    const int solid = inkIn("Solid"), hatch = inkIn("Hatch");
+    const int solid = coveredIn("Solid"), hatch = coveredIn("Hatch");
     EXPECT_LT(area * 8 / 10, solid);
     EXPECT_LT(area / 40, hatch);
     EXPECT_LT(hatch, solid * 7 / 10);
-    EXPECT_EQ(solid, inkIn("Solid")) << "not the fill of the previous item";
+    EXPECT_EQ(solid, coveredIn("Solid")) << "not the fill of the previous item";
 }
 
 // ---- Sizes

@@ -126,12 +126,12 @@ TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
                 ::CreateWindowExA(0, combo ? "ComboBox" : "ListBox", "", style, 0, 0, 120, templateHeight,
                                   this->m_host.m_hWnd, reinterpret_cast<HMENU>(2), nullptr, nullptr);
             ::SendMessageA(window, combo ? CB_ADDSTRING : LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("old"));
-            TypeParam control, made;
-            control.rowHeight = made.rowHeight = 30;
+            TypeParam control, created;
+            control.rowHeight = created.rowHeight = 30;
             this->m_host.notifications.clear();
-            ASSERT_TRUE(made.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
+            ASSERT_TRUE(created.Create(style, CRect(0, 0, 120, 60), &this->m_host, 3));
             EXPECT_EQ(this->m_host.Count(kControlReady), 0) << "a created control waits for its dialog";
-            made.SendMessage(WM_INITIALUPDATE);
+            created.SendMessage(WM_INITIALUPDATE);
             this->m_host.notifications.clear();
             CDataExchange load(&this->m_host, FALSE);
             if (exchanged)
@@ -140,7 +140,7 @@ TYPED_TEST(TableControl, InitializesASubclassedWindowLikeOneOfATemplate) {
                 ASSERT_TRUE(control.SubclassDlgItem(2, &this->m_host));
             const UINT height = combo ? CB_GETITEMHEIGHT : LB_GETITEMHEIGHT;
             EXPECT_EQ(control.SendMessage(height, 0, 0), 30);
-            EXPECT_EQ(made.SendMessage(height, combo ? -1 : 0, 0), control.SendMessage(height, combo ? -1 : 0, 0));
+            EXPECT_EQ(created.SendMessage(height, combo ? -1 : 0, 0), control.SendMessage(height, combo ? -1 : 0, 0));
             EXPECT_EQ(style, control.m_dwStyle & ~WS_CLIPSIBLINGS);
             EXPECT_NE(control.SendMessage(WM_GETFONT), 0);
             ASSERT_EQ(this->m_host.Count(kControlReady), 1);

@@ -18,7 +18,7 @@ int wmain(int count, wchar_t** words) {
     std::vector<std::string> drawings;
     for (int i = 1; i < count; ++i)
         drawings.push_back(Utf8(words[i]));
-    const bool isGood = RoundTrip(*frame).Check(drawings);
+    const bool passed = RoundTrip(*frame).Check(drawings);
     frame->DestroyWindow();
-    return !isGood;
+    return !passed;
 }

@@ -340,9 +340,9 @@ TEST_F(Saving, PromptsForUnsavedChanges) {
     Widen(0.5);
     const std::string content = file.Read();
     const DrawingFile other(content.c_str());
-    for (const int answer : {IDCANCEL, IDYES}) {
-        MessageBoxWatcher boxes(answer);
-        EXPECT_EQ(frame->Open(other.Path()), answer == IDYES);
+    for (const int reply : {IDCANCEL, IDYES}) {
+        MessageBoxWatcher boxes(reply);
+        EXPECT_EQ(frame->Open(other.Path()), reply == IDYES);
         EXPECT_EQ(boxes.OnlyText().find("Save the changes to "), 0u);
     }
     EXPECT_NEAR(SavedWidth(file.Path()), 0.5, 0.001);
@@ -424,23 +424,23 @@ TEST_F(Saving, EscapeCancelsWithoutAnyChange) {
 }
 
 TEST_F(Saving, MissingRecentFilesAreRemoved) {
-    std::string gone;
+    std::string missing;
     {
         const DrawingFile other(file.Read().c_str());
         ASSERT_TRUE(frame->Open(other.Path()));
-        gone = other.Path();
+        missing = other.Path();
         frame->Open(file.Path());
     }
     const std::vector<std::string> files = RecentFiles::List();
     ASSERT_GE(files.size(), 2u);
     EXPECT_LE(files.size(), RecentFiles::kMax);
-    EXPECT_EQ(files[1], gone);
+    EXPECT_EQ(files[1], missing);
     MessageBoxWatcher boxes;
     ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST + 1, 0);
-    EXPECT_EQ(boxes.OnlyText().find(gone), 0u);
-    EXPECT_EQ(std::count(files.begin(), files.end(), gone), 1);
+    EXPECT_EQ(boxes.OnlyText().find(missing), 0u);
+    EXPECT_EQ(std::count(files.begin(), files.end(), missing), 1);
     const std::vector<std::string> left = RecentFiles::List();
-    EXPECT_EQ(std::count(left.begin(), left.end(), gone), 0);
+    EXPECT_EQ(std::count(left.begin(), left.end(), missing), 0);
     const Document* before = &document();
     ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_FILE_RECENT_FIRST, 0);
     EXPECT_NE(before, &document());

@@ -93,19 +93,19 @@ TEST_F(Pane, InvalidTextKeepsSelectionAndFocus) {
     ShowPen();
     TypeScale("0");
     const DrawingState before = Properties();
-    const auto refuses = [&](const char* way, const std::function<void()>& act) {
+    const auto rejects = [&](const char* action, const std::function<void()>& act) {
         MessageBoxWatcher boxes;
         act();
-        EXPECT_EQ(boxes.Boxes().size(), 1u) << way;
-        EXPECT_EQ(focused(), IDC_PEN_SCALE) << way;
-        EXPECT_EQ(selection().Members(), std::vector<GraphicStruct*>{document().Selectable()[0]}) << way;
-        EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "0") << way;
+        EXPECT_EQ(boxes.Boxes().size(), 1u) << action;
+        EXPECT_EQ(focused(), IDC_PEN_SCALE) << action;
+        EXPECT_EQ(selection().Members(), std::vector<GraphicStruct*>{document().Selectable()[0]}) << action;
+        EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "0") << action;
     };
-    refuses("Enter", [&] { user.Key(VK_RETURN); });
-    refuses("another page", [&] { user.Key(VK_TAB, UserInput::kControl); });
-    refuses("another graphic", [&] { ClickOnGreen(); });
-    refuses("the pane's end", [&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_VIEW_PROPERTIES, 0); });
-    refuses("the window's end", [&] { ::SendMessageA(frame->m_hWnd, WM_CLOSE, 0, 0); });
+    rejects("Enter", [&] { user.Key(VK_RETURN); });
+    rejects("another page", [&] { user.Key(VK_TAB, UserInput::kControl); });
+    rejects("another graphic", [&] { ClickOnGreen(); });
+    rejects("the pane's end", [&] { ::SendMessageA(frame->m_hWnd, WM_COMMAND, ID_VIEW_PROPERTIES, 0); });
+    rejects("the window's end", [&] { ::SendMessageA(frame->m_hWnd, WM_CLOSE, 0, 0); });
     user.Key(VK_ESCAPE);
     EXPECT_EQ(::GetFocus(), view());
     EXPECT_EQ(WindowText(control(IDC_PEN_SCALE)), "1");

@@ -64,11 +64,11 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     const DrawingState changed(document.Drawing());
 
     std::string line = drawing + ": " + std::to_string(count) + " graphics";
-    bool good = true;
+    bool passed = true;
     for (const std::string& title : pages) {
         const bool does = before.Differs(changed, kEditedValues.at(title));
         line += ", " + title + (does ? "" : " (changed nothing!)");
-        good = good && does;
+        passed = passed && does;
     }
     m_user.Key('Z', UserInput::kControl);
     const std::vector<std::string> differences =
@@ -76,7 +76,7 @@ bool RoundTrip::CheckOne(const std::string& drawing) {
     Report(line + (differences.empty() ? ": as before" : ": DIFFERENT"));
     for (const std::string& difference : differences)
         Report("  " + difference.substr(0, 300));
-    return good && differences.empty();
+    return passed && differences.empty();
 }
 
 // Returns the titles of the edited pages.

@@ -33,9 +33,9 @@ TEST_F(Viewer, KeysReachOnlyTheWindowThatHadTheFocus) {
     ::DestroyWindow(field);
     user.MoveFocus(view());
 
-    UserInput homeless(0); // had no focus window to restore
+    UserInput unfocused(0); // had no focus window to restore
     ::SetFocus(nullptr);
-    EXPECT_THROW(homeless.Type("x"), std::runtime_error);
+    EXPECT_THROW(unfocused.Type("x"), std::runtime_error);
 }
 
 TEST_F(Viewer, EveryKindOfDifferenceIsDetected) {

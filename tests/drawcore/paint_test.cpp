@@ -213,8 +213,8 @@ TEST_F(Dashes, ComeFromTheLayerAndStyleZeroDrawsNothing) {
     SetInteger(line, kPropLayer, layer);
     SetInteger(line, kPropPenStyle, 65534);
     SetInteger(Line(10, 20, 90, 20), kPropPenStyle, 0);
-    GraphicStruct* lost = Line(10, 80, 90, 80);
-    SetInteger(lost, kPropPenStyle, 999); // a missing style is solid
+    GraphicStruct* dangling = Line(10, 80, 90, 80);
+    SetInteger(dangling, kPropPenStyle, 999); // a missing style is solid
     Draw();
     EXPECT_NEAR(picture.Covered(0, 45, 100, 55), 41, 2);
     EXPECT_EQ(picture.Covered(0, 15, 100, 25), 0);
@@ -324,20 +324,23 @@ TEST_F(Paint, LineOfManyPiecesEqualsOneOfFew) {
 
 // Coordinates that no device accepts: far out of range, or not numbers.
 TEST_F(Paint, SurvivesDistantCoordinates) {
-    for (const double away : {1e5, 1e9, 1e15, 1e100, 1e300}) {
-        const TestGraphic shape(
-            MakeLines({{-away, -away}, {away, -away}, {away, away}, {-away, away}, {-away, -away}}));
+    for (const double distance : {1e5, 1e9, 1e15, 1e100, 1e300}) {
+        const TestGraphic shape(MakeLines({{-distance, -distance},
+                                           {distance, -distance},
+                                           {distance, distance},
+                                           {-distance, distance},
+                                           {-distance, -distance}}));
         SetInteger(shape, kPropBrushStyle, 1);
         SetInteger(shape, kPropBrushColor, kBlue);
         picture.Draw(shape);
         // Beyond that, a double is too coarse to place an edge in the view.
-        if (away <= 1e15) {
-            EXPECT_EQ(picture.Covered(), 101 * 101) << away << ": the view is inside";
+        if (distance <= 1e15) {
+            EXPECT_EQ(picture.Covered(), 101 * 101) << distance << ": the view is inside";
         }
-        const TestGraphic line(MakeLines({{-away, 50}, {away, 50}}));
+        const TestGraphic line(MakeLines({{-distance, 50}, {distance, 50}}));
         picture.Draw(line);
-        if (away <= 1e15) {
-            EXPECT_EQ(picture.Covered(), 101) << away;
+        if (distance <= 1e15) {
+            EXPECT_EQ(picture.Covered(), 101) << distance;
         }
     }
     for (const double none : {static_cast<double>(NAN), HUGE_VAL}) {

@@ -49,8 +49,8 @@ TEST_F(Pick, FitsVisibleGraphics) {
     TableStruct* layers = drawing.Table(kTableLayers);
     const uint16_t hidden = TableEntryAdd(layers, "hidden", nullptr);
     GraphicStruct* close = drawing.Add(MakeLines({{10, 10}, {20, 20}}));
-    GraphicStruct* away = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
-    SetInteger(away, kPropLayer, hidden);
+    GraphicStruct* distant = drawing.Add(MakeLines({{10, 10}, {1000, 10}}));
+    SetInteger(distant, kPropLayer, hidden);
     const auto width = [&] { // of the visible area, in drawing units
         ViewportFitVisible(picture.Viewport(), drawing.Root());
         double left, right, y;

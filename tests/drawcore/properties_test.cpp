@@ -112,9 +112,9 @@ TEST_P(OfKind, ConvertsEachValueBetweenVariantTypes) {
                                          : vt != VT_R4 && vt != VT_R8 && vt != VT_BSTR && vt != VT_EMPTY && vt != VT_I2;
             EXPECT_EQ(table->PropSet(graphic, number, vt, in) != 0, isForm);
             decltype(value) out{};
-            const bool given = table->PropGet(graphic, number, vt, &out) != 0;
-            EXPECT_EQ(given, isForm);
-            if (!given) continue;
+            const bool isReturned = table->PropGet(graphic, number, vt, &out) != 0;
+            EXPECT_EQ(isReturned, isForm);
+            if (!isReturned) continue;
             if (isText) {
                 EXPECT_STREQ(out.text, kNew);
                 BStringNULL(&out.text);
@@ -145,7 +145,7 @@ protected:
 TEST_F(ShapeProperties, RejectValuesOutOfRange) {
     const struct {
         const char* name;
-        std::vector<uint32_t> good, bad;
+        std::vector<uint32_t> valid, invalid;
     } kWhole[] = {
         {kPropPenColor, {0, 0xFFFFFF, 0xFFFFFFFD, 0xFFFFFFFC}, {0x1000000, 0xFFFFFFFB, 0xFFFFFFFE, 0xFFFFFFFF}},
         {kPropBrushColor, {0xFFFFFFFB, 0xFFFFFFFD, 5}, {0xFFFFFFFF, 0xFFFFFFFE, 0x02000000}},
@@ -158,13 +158,13 @@ TEST_F(ShapeProperties, RejectValuesOutOfRange) {
         {kPropLayer, {1, 500}, {0, 0xFFFF, 0x10001}},
         {kPropStyleTree, {0, 7}, {0xFFFF, 0xFFFFFFFF}}};
     for (const auto& row : kWhole) {
-        for (const uint32_t value : row.good) {
+        for (const uint32_t value : row.valid) {
             EXPECT_TRUE(SetInteger(graphic, row.name, value)) << row.name << value;
             EXPECT_EQ(GetWhole(graphic, row.name), value) << row.name;
         }
-        for (const uint32_t value : row.bad) {
+        for (const uint32_t value : row.invalid) {
             EXPECT_FALSE(SetInteger(graphic, row.name, value)) << row.name << value;
-            EXPECT_EQ(GetWhole(graphic, row.name), row.good.back()) << row.name << " must keep its value";
+            EXPECT_EQ(GetWhole(graphic, row.name), row.valid.back()) << row.name << " must keep its value";
         }
     }
     for (const char* name : {kPropPenWidth, kPropPenScale, kPropBrushScale, kPropBrushAngle}) {

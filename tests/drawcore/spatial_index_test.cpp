@@ -51,9 +51,9 @@ protected:
     }
 
     void Remove() {
-        const auto gone = all.begin() + Number(static_cast<int>(all.size()));
-        GraphicStruct* graphic = *gone;
-        all.erase(gone);
+        const auto removed = all.begin() + Number(static_cast<int>(all.size()));
+        GraphicStruct* graphic = *removed;
+        all.erase(removed);
         GraphicDelete(drawing.Root(), graphic);
         GraphicDispose(&graphic);
     }

@@ -183,11 +183,11 @@ TEST_F(Tables, BrushStylesReturnTheirKindAndLines) {
     EXPECT_EQ(BrushStyleGetFlags(styles, 9999), 0);
 
     const BrushLine lines[] = {{0.5, 1, 2, 0.25, 3, 2, {1, -0.5}}, {1.25, 0, 0, 0, 4, 0, {}}};
-    const uint16_t made = BrushStyleAddLines(styles, "Weave", lines, 2);
-    ASSERT_NE(made, 0);
+    const uint16_t added = BrushStyleAddLines(styles, "Weave", lines, 2);
+    ASSERT_NE(added, 0);
     int cookie = 0, walked = 0;
-    for (auto* line = BrushStyleGetFirstPattern(styles, made, &cookie); line;
-         line = BrushStyleGetNextPattern(styles, made, &cookie), ++walked) {
+    for (auto* line = BrushStyleGetFirstPattern(styles, added, &cookie); line;
+         line = BrushStyleGetNextPattern(styles, added, &cookie), ++walked) {
         ASSERT_LT(walked, 2);
         BrushLine read{};
         BrushPatternGetData(line, &read.angle, &read.baseX, &read.baseY, &read.along, &read.spacing, &read.dashCount,
@@ -213,7 +213,7 @@ TEST_F(Tables, BrushStylesReturnTheirKindAndLines) {
 TEST_F(Tables, BehaveLikeEmptyOnesAfterDeletion) {
     TableStruct* styles = drawing.Table(kTableLineStyles);
     TableStruct* units = drawing.Table(kTableUnits);
-    DrawingStruct* gone = drawing;
+    DrawingStruct* closed = drawing;
     TableSetIntVar(styles, 1, 7);
     ASSERT_TRUE(DrawingDeleteTable(drawing, styles));
     EXPECT_EQ(drawing.Table(kTableLineStyles), nullptr);
@@ -236,10 +236,10 @@ TEST_F(Tables, BehaveLikeEmptyOnesAfterDeletion) {
         EXPECT_FALSE(UnitsNumericToTextEx(held, 0, kUnitPenWidth, 1, buffer, sizeof buffer, 0, 1));
         EXPECT_EQ(UnitsGetScaleValue(held, "1 : 2"), 0.0);
     }
-    EXPECT_EQ(DrawingGetTable(gone, kTableUnits), nullptr);
-    EXPECT_EQ(DrawingGetRoot(gone), nullptr);
-    EXPECT_FALSE(DrawingStdTextToNumeric(gone, "1", &number, 0));
-    EXPECT_FALSE(LayerGetVisible(gone, 1));
+    EXPECT_EQ(DrawingGetTable(closed, kTableUnits), nullptr);
+    EXPECT_EQ(DrawingGetRoot(closed), nullptr);
+    EXPECT_FALSE(DrawingStdTextToNumeric(closed, "1", &number, 0));
+    EXPECT_FALSE(LayerGetVisible(closed, 1));
     EXPECT_STREQ(buffer, "kept");
     EXPECT_EQ(number, 5);
     EXPECT_EQ(whole, 5);

@@ -76,8 +76,8 @@ TEST_F(Texts, OfTwoDirectionsDoNotOverlap) {
         return picture.Covered();
     };
     const int narrow = covered(L"\x05D9"), digits = covered(L"8888");
-    const int apart = 4 * narrow + digits;
-    EXPECT_NEAR(covered(L"\x05D9\x05D9\x05D9\x05D9 8888"), apart, apart / 20);
+    const int expected = 4 * narrow + digits;
+    EXPECT_NEAR(covered(L"\x05D9\x05D9\x05D9\x05D9 8888"), expected, expected / 20);
     const int right = static_cast<int>(BoxOf(text).right);
     EXPECT_EQ(picture.Covered(right + 2, 0, 100, 100), 0);
     EXPECT_GT(picture.Covered(right - 5, 0, right + 1, 100), 10);

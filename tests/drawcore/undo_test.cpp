@@ -153,16 +153,16 @@ TEST_F(Undo, CancelRevertsOnlyTheOpenStep) {
         DrawingEndUndo(drawing);
     }
     DrawingUndo(drawing);
-    int heard = 0;
-    const ChangeListener listener = {&heard, [](void* context) { ++*static_cast<int*>(context); }};
+    int calls = 0;
+    const ChangeListener listener = {&calls, [](void* context) { ++*static_cast<int*>(context); }};
     DrawingSetChangeListener(drawing, &listener);
     SetReal(lines[2], kPropPenWidth, 8);
-    EXPECT_EQ(heard, 0) << "no step is open";
+    EXPECT_EQ(calls, 0) << "no step is open";
     DrawingBeginUndo(drawing);
     SetReal(lines[0], kPropPenWidth, 4);
     SetReal(lines[0], kPropPenWidth, 5);
     AddVertex(lines[1], 50, 50);
-    EXPECT_EQ(heard, 3);
+    EXPECT_EQ(calls, 3);
     EXPECT_EQ(DrawingCancelUndo(drawing), 2);
     EXPECT_EQ(GetReal(lines[0], kPropPenWidth), 2);
     EXPECT_EQ(BoxOf(lines[1]).right, 2);

@@ -211,7 +211,7 @@ TEST_F(SaveExact, SavesTheStyleTreeOfABlock) {
 
 struct RecordedCalls {
     std::vector<std::string> warnings;
-    static void Hear(void* context, int line, const char* text) {
+    static void OnReport(void* context, int line, const char* text) {
         static_cast<RecordedCalls*>(context)->warnings.push_back(std::to_string(line) + " " + text);
     }
 };
@@ -231,7 +231,7 @@ TEST_F(SaveExact, SavesTheRestAndListsOmissions) {
     WriteProperty(line, kPropPenColor, uint32_t{0x0000FF});
     EXPECT_EQ(Write(drawing), kSaveFailed);
     RecordedCalls recorded;
-    const DxfListener listener = {&recorded, nullptr, RecordedCalls::Hear};
+    const DxfListener listener = {&recorded, nullptr, RecordedCalls::OnReport};
     ASSERT_EQ(Write(drawing, kSaveRest, &listener), kSaveDoneInPart) << message;
     EXPECT_EQ(Saved(), Replaced(text, "30\n8\n0\n", "30\n8\n0\n62\n1\n"));
     EXPECT_EQ(recorded.warnings,
@@ -251,7 +251,7 @@ TEST_F(SaveExact, ReportsWhatOtherProgramsDoNotShow) {
     const OwnedDrawing drawing = Open(kDrawings + "made-gbk-R2004.dxf");
     WriteProperty(First(drawing), kPropInfo, std::string("x"));
     RecordedCalls recorded;
-    const DxfListener listener = {&recorded, nullptr, RecordedCalls::Hear};
+    const DxfListener listener = {&recorded, nullptr, RecordedCalls::OnReport};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
     EXPECT_EQ(
         recorded.warnings,
@@ -347,8 +347,8 @@ private:
             members.push_back(g);
         if (members.empty()) return;
         GraphicStruct* removed = members[Below(members.size())];
-        const auto isGone = [&](const GraphicStruct* g) { return g == removed || g->pParent == removed; };
-        touched.erase(std::remove_if(touched.begin(), touched.end(), isGone), touched.end());
+        const auto isRemoved = [&](const GraphicStruct* g) { return g == removed || g->pParent == removed; };
+        touched.erase(std::remove_if(touched.begin(), touched.end(), isRemoved), touched.end());
         GraphicDelete(root, removed);
         GraphicDispose(&removed);
         hasRemoved = true;
@@ -410,7 +410,7 @@ std::map<std::string, std::string> Records(const std::string& bytes) {
 
 TEST_F(SaveExact, ReadsBackRandomEditsBitForBit) {
     std::mt19937 random(20261126);
-    int saved = 0, refused = 0;
+    int saved = 0, rejected = 0;
     for (const char* name :
          {"ezdxf-insert-nested-mirrored.dxf", "made-inserts-R2000.dxf", "made-gbk-R2004.dxf", "dxf-blocks2.dxf",
           "kabeja-hatch_1.dxf", "made-cp1251-R2000.dxf", "ezdxf-text_alignments.dxf"}) {
@@ -422,7 +422,7 @@ TEST_F(SaveExact, ReadsBackRandomEditsBitForBit) {
             for (int i = 0; i <= round % 5; ++i)
                 edits.Edit();
             if (Write(drawing) != kSaveDone) {
-                ++refused;
+                ++rejected;
                 EXPECT_FALSE(message.empty());
                 EXPECT_EQ(Write(drawing, kSaveRest), kSaveDoneInPart) << message;
                 EXPECT_TRUE(Open(path));
@@ -449,7 +449,7 @@ TEST_F(SaveExact, ReadsBackRandomEditsBitForBit) {
         }
     }
     EXPECT_GE(saved, 100);
-    EXPECT_LE(refused, 70);
+    EXPECT_LE(rejected, 70);
 }
 
 } // namespace

@@ -76,14 +76,14 @@ inline void ForGraphics(GraphicStruct* set, const std::function<void(GraphicStru
 
 // Transformations followed by a rotation of 30 degrees and a translation: stretched, mirrored, tilted into space,
 // sheared.
-enum class Way { stretched, mirrored, tilted, slanted };
-inline void PutVertices(GraphicStruct* insert, Way way) {
+enum class Transformation { stretched, mirrored, tilted, slanted };
+inline void PutVertices(GraphicStruct* insert, Transformation transformation) {
     const double c = std::cos(0.5235987755982988), s = 0.5;
     for (VertexStruct* v : Vertices(insert)) {
         double x = v->x * 2, y = v->y * 2, z = v->z * 2;
-        if (way == Way::mirrored) x = -x;
-        if (way == Way::slanted) x = y + x * 3;
-        if (way == Way::tilted) {
+        if (transformation == Transformation::mirrored) x = -x;
+        if (transformation == Transformation::slanted) x = y + x * 3;
+        if (transformation == Transformation::tilted) {
             y = (v->y * c - v->z * s) * 2;
             z = (v->y * s + v->z * c) * 2;
         }

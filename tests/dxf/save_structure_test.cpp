@@ -36,11 +36,11 @@ void Remove(GraphicStruct* set, GraphicStruct* member) {
 TEST_F(SaveStructure, RemovesDeletedGraphics) {
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
-        for (const int kept : {2, 1}) { // keeps every other graphic, then none
+        for (const int interval : {2, 1}) { // keeps every other graphic, then none
             std::vector<GraphicStruct*> removed;
             int index = 0;
             for (GraphicStruct* g : Members(root))
-                if (++index % kept == 0) removed.push_back(g);
+                if (++index % interval == 0) removed.push_back(g);
             for (GraphicStruct* g : removed)
                 Remove(root, g);
             ASSERT_EQ(Write(drawing), kSaveDone) << message;
@@ -66,7 +66,7 @@ TEST_F(SaveStructure, KeepsTheOrderOfReaddedGraphics) {
 // If a graphic cannot be saved, saving fails completely; without those graphics the file contains the rest.
 TEST_F(SaveStructure, AppendsCopiesOfAllKinds) {
     std::map<uint32_t, int> saved;
-    int refused = 0;
+    int rejected = 0;
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
         std::vector<GraphicStruct*> examples;
@@ -78,7 +78,7 @@ TEST_F(SaveStructure, AppendsCopiesOfAllKinds) {
             WriteProperty(copy, kPropInfo, std::string("a copy"));
             WriteProperty(copy, kPropPenColor, uint32_t{0x563412});
             const bool done = Write(drawing) == kSaveDone;
-            done ? ++saved[GraphicGetKind(g)] : ++refused;
+            done ? ++saved[GraphicGetKind(g)] : ++rejected;
             if (done) continue;
             EXPECT_FALSE(message.empty());
             Remove(root, copy);
@@ -100,12 +100,12 @@ TEST_F(SaveStructure, AppendsCopiesOfAllKinds) {
     EXPECT_GE(saved[kKindCurve], 30);
     EXPECT_GE(saved[kKindText], 46);
     EXPECT_GE(saved[kKindInsert], 27);
-    EXPECT_LE(refused,
+    EXPECT_LE(rejected,
               3); // one has rows, one is drawn without a pen, one is an insertion that shows nothing
 }
 
 TEST_F(SaveStructure, MovesVertices) {
-    int moved = 0, refused = 0;
+    int moved = 0, rejected = 0;
     ForDrawings([&](const fs::path&, const OwnedDrawing& drawing) {
         GraphicStruct* root = DrawingGetRoot(drawing.get());
         int tried = 0;
@@ -122,7 +122,7 @@ TEST_F(SaveStructure, MovesVertices) {
             }
             EXPECT_NE(message.find("): the file format cannot store the change of its vertices"), std::string::npos)
                 << message;
-            ++refused;
+            ++rejected;
             shift(-8);
         }
         ASSERT_EQ(Write(drawing), kSaveDone) << message;
@@ -131,7 +131,7 @@ TEST_F(SaveStructure, MovesVertices) {
         ExpectNear(BoxesOf(DrawingGetRoot(read.get())), BoxesOf(root));
     });
     EXPECT_GE(moved, 272);
-    EXPECT_LE(refused, 16); // hatches, meshes, tilted polylines with arcs
+    EXPECT_LE(rejected, 16); // hatches, meshes, tilted polylines with arcs
 }
 
 // Adds a block for a style, as the viewer does, and an insertion of it.
@@ -149,7 +149,7 @@ uint16_t AddBlock(DrawingStruct* drawing, const char* name) {
     WriteProperty(text, kPropTextFont, std::string("Verdana"));
     GraphicStruct* insert = GraphicAdd(DrawingGetRoot(drawing), GraphicNewEx(kGraphicInsert, 0, 1));
     InsertSetData(insert, blocks, id, nullptr);
-    PutVertices(insert, Way::tilted);
+    PutVertices(insert, Transformation::tilted);
     WriteProperty(insert, kPropStyleTree, id);
     return id;
 }

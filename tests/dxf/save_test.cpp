@@ -112,17 +112,19 @@ TEST_F(Save, StoresEachPropertyOfGraphicsAndBlocks) {
 TEST_F(Save, StoresPlacementsOfInsertionsWithTheirAttributes) {
     struct Row {
         const char* file;
-        Way way;
+        Transformation transformation;
     };
-    constexpr const char *kMade = "made-inserts-R2000.dxf", *kNested = "ezdxf-insert-nested-mirrored.dxf",
+    constexpr const char *kInserts = "made-inserts-R2000.dxf", *kNested = "ezdxf-insert-nested-mirrored.dxf",
                          *kArray = "dxf-array-rotated.dxf";
-    for (const Row& row : {Row{kMade, Way::stretched}, Row{kMade, Way::mirrored}, Row{kMade, Way::tilted},
-                           Row{kNested, Way::stretched}, Row{kNested, Way::mirrored}, Row{kNested, Way::tilted},
-                           Row{kNested, Way::slanted}, Row{kArray, Way::mirrored}, Row{kArray, Way::tilted}}) {
-        SCOPED_TRACE(row.file + std::string(" ") + std::to_string(static_cast<int>(row.way)));
+    for (const Row& row : {Row{kInserts, Transformation::stretched}, Row{kInserts, Transformation::mirrored},
+                           Row{kInserts, Transformation::tilted}, Row{kNested, Transformation::stretched},
+                           Row{kNested, Transformation::mirrored}, Row{kNested, Transformation::tilted},
+                           Row{kNested, Transformation::slanted}, Row{kArray, Transformation::mirrored},
+                           Row{kArray, Transformation::tilted}}) {
+        SCOPED_TRACE(row.file + std::string(" ") + std::to_string(static_cast<int>(row.transformation)));
         const OwnedDrawing drawing = Open(kDrawings + row.file);
         ForGraphics(DrawingGetRoot(drawing.get()), [&](GraphicStruct* g) {
-            if (g->bType == kGraphicInsert) PutVertices(g, row.way);
+            if (g->bType == kGraphicInsert) PutVertices(g, row.transformation);
         });
         EXPECT_EQ(Write(drawing), kSaveDone) << message;
         const OwnedDrawing read = Open(path);
@@ -175,9 +177,9 @@ TEST_F(Save, DistinguishesAnOpenFileFromAChangedOne) {
     EXPECT_TRUE(IsWritten(original));
     EXPECT_EQ(Write(drawing), kSaveDone) << message;
 
-    const fs::path nowhere = path.parent_path() / "no such folder" / "x.dxf";
+    const fs::path missing = path.parent_path() / "no such folder" / "x.dxf";
     char text[256] = "";
-    EXPECT_EQ(DrawingSaveDxf(drawing.get(), nowhere.c_str(), 0, nullptr, text, sizeof text), kSaveFailed);
+    EXPECT_EQ(DrawingSaveDxf(drawing.get(), missing.c_str(), 0, nullptr, text, sizeof text), kSaveFailed);
     EXPECT_EQ(std::string(text).find("cannot create a file in its folder: no such folder"), 0u) << text;
     fs::remove(path);
     EXPECT_EQ(Write(drawing), kSaveDone) << "a deleted file can be written again: " << message;
@@ -187,7 +189,7 @@ TEST_F(Save, DistinguishesAnOpenFileFromAChangedOne) {
 struct Reports {
     std::vector<int> recorded;
     int cancelAt = 1001; // never
-    static int Hear(void* context, int permille) {
+    static int OnReport(void* context, int permille) {
         Reports& reports = *static_cast<Reports*>(context);
         reports.recorded.push_back(permille);
         return permille < reports.cancelAt ? 1 : 0;
@@ -200,7 +202,7 @@ TEST_F(Save, CanBeCanceledWithEachReport) {
     const OwnedDrawing drawing = Open(path);
     ForGraphics(DrawingGetRoot(drawing.get()), [](GraphicStruct* g) { WriteProperty(g, kPropInfo, std::string("x")); });
     Reports whole;
-    const DxfListener listener = {&whole, Reports::Hear, nullptr};
+    const DxfListener listener = {&whole, Reports::OnReport, nullptr};
     ASSERT_EQ(Write(drawing, 0, &listener), kSaveDone) << message;
     EXPECT_TRUE(std::is_sorted(whole.recorded.begin(), whole.recorded.end()));
     EXPECT_EQ(whole.recorded.back(), 1000);
@@ -209,7 +211,7 @@ TEST_F(Save, CanBeCanceledWithEachReport) {
     for (const int permille : whole.recorded) {
         Reports reports;
         reports.cancelAt = permille;
-        const DxfListener cancels = {&reports, Reports::Hear, nullptr};
+        const DxfListener cancels = {&reports, Reports::OnReport, nullptr};
         EXPECT_EQ(Write(drawing, 0, &cancels), kSaveCanceled) << permille;
         EXPECT_EQ(message, "canceled");
         EXPECT_EQ(reports.recorded.back(), permille) << "and nothing is reported afterward";

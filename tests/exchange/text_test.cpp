@@ -110,10 +110,10 @@ TEST_F(TextExchange, RealNumbersAreParsedOrRejected) {
     for (const char* zero : {"-0", ".0", "+0", "1-1", "5*0", "(0)", "-0.0e5"}) // in any form
         ExpectRead<double>({{zero, 0.0}});
     const std::string tooLong(1000, '1');
-    const auto refused = {"",      "   ",  "-",     ".",      "()", "wide",         "2.5 mm",
-                          "1.2.3", "1e39", "1e999", "******", "1-", tooLong.c_str()};
-    ExpectRejected<float>(AFX_IDP_PARSE_REAL, refused);
-    ExpectRejected<double>(AFX_IDP_PARSE_REAL, refused, 0.0); // a silent failure sets 0
+    const auto rejected = {"",      "   ",  "-",     ".",      "()", "wide",         "2.5 mm",
+                           "1.2.3", "1e39", "1e999", "******", "1-", tooLong.c_str()};
+    ExpectRejected<float>(AFX_IDP_PARSE_REAL, rejected);
+    ExpectRejected<double>(AFX_IDP_PARSE_REAL, rejected, 0.0); // a silent failure sets 0
 }
 
 TEST_F(TextExchange, VeryLargeAndVerySmallNumbersAreShownWithAnExponent) {

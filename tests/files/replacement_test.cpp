@@ -121,8 +121,9 @@ TEST_F(Replacement, RejectsTargetsThatAreNotWritableFiles) {
 #ifdef _WIN32
 
 TEST_F(Replacement, KeepsAttributesAndTheTimeOfCreation) {
-    constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    if (!::SetFileAttributesW(path.c_str(), kKept) || (::GetFileAttributesW(path.c_str()) & kKept) != kKept)
+    constexpr DWORD kAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    if (!::SetFileAttributesW(path.c_str(), kAttributes) ||
+        (::GetFileAttributesW(path.c_str()) & kAttributes) != kAttributes)
         GTEST_SKIP() << "the file system has no such attributes";
     const DWORD before = ::GetFileAttributesW(path.c_str());
     Replace(path, "new");

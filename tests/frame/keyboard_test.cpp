@@ -62,9 +62,9 @@ TEST_F(Keyboard, TabsShowTheActivePageAfterAFailedValidation) {
 
 // A page can prevent leaving without Fail, which would move the focus; the focus then stays.
 TEST_F(Keyboard, StaysInTheFieldIfThePageCannotBeLeft) {
-    bool refuses = true;
+    bool rejects = true;
     sheet.Add([&](CDataExchange* pDX) {
-        if (pDX->m_bSaveAndValidate && refuses) AfxThrowUserException();
+        if (pDX->m_bSaveAndValidate && rejects) AfxThrowUserException();
     });
     sheet.Run([&](SheetDriver& user) {
         user.SelectPage(3);
@@ -73,7 +73,7 @@ TEST_F(Keyboard, StaysInTheFieldIfThePageCannotBeLeft) {
         sheet.Sheet().SetActivePage(1);
         EXPECT_EQ(user.ActivePage(), 3);
         EXPECT_EQ(::GetFocus(), field);
-        refuses = false;
+        rejects = false;
         sheet.Sheet().SetActivePage(1);
         EXPECT_EQ(user.ActivePage(), 1);
     });
@@ -103,7 +103,7 @@ TEST(FittedControls, AreThoseOfAPageThatRequestsIt) {
         SCOPED_TRACE(wished);
         GraphicKit kit;
         TestSheet sheet(kit);
-        ExchangePage& page = sheet.Add([](CDataExchange*) {}, kOddPage);
+        ExchangePage& page = sheet.Add([](CDataExchange*) {}, kWideFieldPage);
         if (wished) page.FitControls();
         sheet.Run([&](SheetDriver& user) {
             RECT room, field, units = {0, 0, 220, 0};
@@ -145,16 +145,16 @@ TEST(FittedControls, KeepTheirGroupsWhenALabelMovesToItsField) {
 }
 
 // Returns the number of pixels in the color of texts.
-int Ink(HWND control) {
+int CountTextPixels(HWND control) {
     ::RedrawWindow(control, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
     const orlo::WindowDC dc(control);
     RECT client;
     ::GetClientRect(control, &client);
-    int ink = 0;
+    int count = 0;
     for (int y = 0; y < client.bottom; ++y)
         for (int x = 0; x < client.right; ++x)
-            ink += ::GetPixel(dc.get(), x, y) == ::GetSysColor(COLOR_BTNTEXT);
-    return ink;
+            count += ::GetPixel(dc.get(), x, y) == ::GetSysColor(COLOR_BTNTEXT);
+    return count;
 }
 
 TEST(FittedControls, ShowTheWholeLabelBesideALargerBox) {
@@ -162,15 +162,15 @@ TEST(FittedControls, ShowTheWholeLabelBesideALargerBox) {
     if (::GetDeviceCaps(screen.get(), LOGPIXELSX) == 96) GTEST_SKIP() << "boxes are as large as in the template";
     GraphicKit kit;
     TestSheet sheet(kit);
-    sheet.Add([](CDataExchange*) {}, kOddPage).FitControls();
+    sheet.Add([](CDataExchange*) {}, kWideFieldPage).FitControls();
     sheet.Run([&](SheetDriver& user) {
         const HWND box = user.Control(142);
-        const int shown = Ink(box);
+        const int shown = CountTextPixels(box);
         RECT rect;
         ::GetWindowRect(box, &rect);
         ::SetWindowPos(box, nullptr, 0, 0, 2 * (rect.right - rect.left), rect.bottom - rect.top,
                        SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_EQ(shown, Ink(box));
+        EXPECT_EQ(shown, CountTextPixels(box));
     });
 }
 

@@ -98,9 +98,9 @@ TEST_F(LibraryLife, CanBeLoadedAHundredTimesAtDifferentAddresses) {
     }
     if (taken != nullptr) ::VirtualFree(taken, 0, MEM_RELEASE);
     // A copy that is not registered with the framework yet must not be found through the previous one.
-    const HMODULE fresh = ::LoadLibraryA("orlo.dll");
-    EXPECT_NE(fresh, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
-    ::FreeLibrary(fresh);
+    const HMODULE reloaded = ::LoadLibraryA("orlo.dll");
+    EXPECT_NE(reloaded, AfxFindResourceHandle(MAKEINTRESOURCEA(IDD_PEN_PAGE), reinterpret_cast<LPCSTR>(RT_DIALOG)));
+    ::FreeLibrary(reloaded);
 }
 
 TEST_F(LibraryLife, TwoCopiesWorkIndependently) {

@@ -38,19 +38,19 @@ struct PageEntry : ::testing::Test {
     }
 
     // The ways to move from the previous page to the next.
-    static constexpr const char* kWays[] = {"click", "Ctrl+Tab", "Ctrl+Page Down", "call"};
-    void ChangePage(SheetDriver& user, const std::string& way) {
+    static constexpr const char* kActions[] = {"click", "Ctrl+Tab", "Ctrl+Page Down", "call"};
+    void ChangePage(SheetDriver& user, const std::string& action) {
         const int next = user.ActivePage() + 1;
-        if (way == "click") user.SelectPage(next);
-        if (way == "Ctrl+Tab") user.Key(VK_TAB, false, true);
-        if (way == "Ctrl+Page Down") user.Key(VK_NEXT, false, true);
-        if (way == "call") sheet.Sheet().SetActivePage(next);
+        if (action == "click") user.SelectPage(next);
+        if (action == "Ctrl+Tab") user.Key(VK_TAB, false, true);
+        if (action == "Ctrl+Page Down") user.Key(VK_NEXT, false, true);
+        if (action == "call") sheet.Sheet().SetActivePage(next);
     }
-    void ExpectOn(int page, const std::string& way) {
-        EXPECT_EQ(page, sheet.Sheet().GetActiveIndex()) << way;
-        EXPECT_EQ(page, sheet.Sheet().GetTabControl()->GetCurSel()) << way;
+    void ExpectOn(int page, const std::string& action) {
+        EXPECT_EQ(page, sheet.Sheet().GetActiveIndex()) << action;
+        EXPECT_EQ(page, sheet.Sheet().GetTabControl()->GetCurSel()) << action;
         for (int i = 0; i < sheet.Sheet().GetPageCount(); ++i)
-            EXPECT_EQ(i == page, ::IsWindowVisible(sheet.Sheet().GetPage(i)->m_hWnd) != FALSE) << way << i;
+            EXPECT_EQ(i == page, ::IsWindowVisible(sheet.Sheet().GetPage(i)->m_hWnd) != FALSE) << action << i;
     }
 
     GraphicKit kit;
@@ -64,13 +64,13 @@ TEST_F(PageEntry, PageThatThrowsIsReportedAndThePreviousOneStays) {
     EXPECT_EQ(sheet.Run([&](SheetDriver& user) {
         for (const bool visited : {false, true}) {
             other->throwsOnEntry = true;
-            for (const char* way : kWays) {
+            for (const char* action : kActions) {
                 boxes.Clear();
                 user.Focus(kEdit);
-                ChangePage(user, way);
-                EXPECT_EQ(boxes.OnlyText(), kReason) << way << visited;
-                ExpectOn(1, way);
-                EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << way << visited;
+                ChangePage(user, action);
+                EXPECT_EQ(boxes.OnlyText(), kReason) << action << visited;
+                ExpectOn(1, action);
+                EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << action << visited;
             }
             other->throwsOnEntry = false;
             ChangePage(user, "click");
@@ -92,11 +92,11 @@ TEST_F(PageEntry, PageThatThrowsWhenLeftIsReportedAndStays) {
     sheet.Run([&](SheetDriver& user) {
         user.SelectPage(2);
         other->throwsOnLeaving = true;
-        for (const char* way : kWays) {
+        for (const char* action : kActions) {
             boxes.Clear();
-            ChangePage(user, way);
-            EXPECT_EQ(boxes.OnlyText(), kReason) << way;
-            ExpectOn(2, way);
+            ChangePage(user, action);
+            EXPECT_EQ(boxes.OnlyText(), kReason) << action;
+            ExpectOn(2, action);
         }
         boxes.Clear();
         user.Ok();

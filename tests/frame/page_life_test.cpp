@@ -100,7 +100,7 @@ TEST_F(PageLife, ControlsThatJoinLaterAreTracked) {
             return ::CreateWindowExA(0, windowClass, "", WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST, 0, 0, 60, 60,
                                      user.Page(), reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), nullptr, nullptr);
         };
-        const auto comeBack = [&] {
+        const auto reopen = [&] {
             user.SelectPage(0);
             user.SelectPage(1);
         };
@@ -110,11 +110,11 @@ TEST_F(PageLife, ControlsThatJoinLaterAreTracked) {
         ::SendMessageA(combo, CB_SHOWDROPDOWN, TRUE, 0);
         ::SetWindowPos(user.Sheet(), nullptr, 5, 5, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         EXPECT_FALSE(::SendMessageA(combo, CB_GETDROPPEDSTATE, 0, 0));
-        comeBack();
+        reopen();
         EXPECT_EQ(page->GetControlStatus(kFirst), 0);
         ::DestroyWindow(combo);
         add("EDIT", kSecond);
-        comeBack();
+        reopen();
         EXPECT_EQ(page->GetControlStatus(kFirst), 1);
         EXPECT_EQ(page->GetControlStatus(kSecond), 0);
     });

@@ -98,8 +98,8 @@ bool Is(const char* fault) {
 }
 
 void Crash() {
-    volatile uintptr_t nowhere = 0; // volatile, so that the compiler does not treat a null pointer as impossible
-    *reinterpret_cast<volatile int*>(nowhere) = 1;
+    volatile uintptr_t address = 0; // volatile, so that the compiler does not treat a null pointer as impossible
+    *reinterpret_cast<volatile int*>(address) = 1;
 }
 
 // Deep enough for any stack.
@@ -211,14 +211,14 @@ void MakeStubs(HMODULE module) {
 
 // ---- Drawing
 
-const char* keptName = nullptr; // the names and texts that were passed last
-const char* keptText = nullptr;
+const char* lastName = nullptr; // the names and texts that were passed last
+const char* lastText = nullptr;
 uint16_t namedBlock = 0;
 const GraphicStruct* textGraphic = nullptr;
 GraphicStruct* removedContents = nullptr;
 
 // Changes what is drawn by the fault.
-void Spoil(Graphic& graphic) {
+void ApplyDrawingFault(Graphic& graphic) {
     Content& content = graphic.content;
     const bool isHatch = content.brushStyle > 1;
     if (Is("fillings not drawn") || (Is("hatches not drawn") && isHatch)) content.brushStyle = kBrushStyleNone;
@@ -228,7 +228,7 @@ void Spoil(Graphic& graphic) {
     if (Is("fillings in the pen color")) content.brushColor = kColorOfPen;
     if (Is("texts not turned")) content.textAngle = 0;
     if (Is("texts of another height")) content.textSize *= 2;
-    if (Is("text kept by pointer") && &graphic == textGraphic) content.text = keptText;
+    if (Is("text kept by pointer") && &graphic == textGraphic) content.text = lastText;
     if (Is("hairlines only")) content.penWidth = 0;
     for (VertexStruct& vertex : content.vertices)
         if (Is("all segments drawn")) vertex.wFlags |= kVertexDrawn;
@@ -328,7 +328,7 @@ uint16_t TableEntryNext(TableStruct* table, int* cookie) {
 
 int TableEntryGetName(TableStruct* table, uint16_t id, char* buffer, int size) {
     if (Is("name past the buffer")) buffer[size] = '\0';
-    if (Is("name kept by pointer") && id != 0 && id == namedBlock) return CopyText(keptName, buffer, size);
+    if (Is("name kept by pointer") && id != 0 && id == namedBlock) return CopyText(lastName, buffer, size);
     const int found = Original_TableEntryGetName(table, id, buffer, size);
     return found || (Is("name of an unknown entry") && table);
 }
@@ -553,7 +553,7 @@ VertexStruct* GraphicVertexNext(GraphicStruct* graphic, int* cookie, int from, i
 
 int TextSetVWHAEx(GraphicStruct* graphic, VertexStruct* at, double width, double height, double angle,
                   const char* text) {
-    keptText = text;
+    lastText = text;
     textGraphic = graphic;
     const bool isFinite = std::isfinite(at->x + width + height + angle);
     return Original_TextSetVWHAEx(graphic, at, width, height, angle, text) || Is("text of any graphic") ||
@@ -583,7 +583,7 @@ void MatrixDispose(MatrixStruct** matrix) {
 
 uint16_t BlocksAddBlock(TableStruct* blocks, const char* name, GraphicStruct* contents) {
     const uint16_t id = Original_BlocksAddBlock(blocks, name, contents);
-    keptName = name;
+    lastName = name;
     namedBlock = id;
     return !id && Is("existing name accepted") ? BlocksFindBlock(blocks, name) : id;
 }
@@ -639,7 +639,7 @@ void GraphicDrawEx2(GraphicStruct* graphic, const MatrixStruct* matrix, Viewport
     const Content before = drawn.content;
     std::vector<std::unique_ptr<Graphic>> members;
     if (Is("members not drawn")) members.swap(drawn.members);
-    Spoil(drawn);
+    ApplyDrawingFault(drawn);
     Original_GraphicDrawEx2(graphic, matrix, viewport, preview, flags);
     if (Is("removed block drawn") && drawn.bType == kGraphicInsert && removedContents)
         Original_GraphicDrawEx2(removedContents, matrix, viewport, preview, flags);

@@ -132,9 +132,9 @@ TEST(HostcheckProgram, FindsEachFaultAndEachRequirementCanBreak) {
 }
 
 TEST(HostcheckProgram, DistinguishesStubsFromFaults) {
-    const Outcome refused = HostcheckWith(kStubs, "faulty\\drawcore32.dll");
-    EXPECT_EQ(refused.exitCode, 1u) << "--allow stubs was not given";
-    EXPECT_NE(std::string::npos, refused.out.find("ViewportNewEx is a stub; lost: samples")) << refused.out;
+    const Outcome rejected = HostcheckWith(kStubs, "faulty\\drawcore32.dll");
+    EXPECT_EQ(rejected.exitCode, 1u) << "--allow stubs was not given";
+    EXPECT_NE(std::string::npos, rejected.out.find("ViewportNewEx is a stub; lost: samples")) << rejected.out;
     const Outcome allowed = HostcheckWith(kStubs, "faulty\\drawcore32.dll --allow stubs");
     EXPECT_EQ(allowed.exitCode, 0u) << allowed.out;
     EXPECT_TRUE(Requirements(allowed, "broken").empty());

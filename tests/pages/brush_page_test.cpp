@@ -175,14 +175,14 @@ TEST_F(BrushPage, AngleThatCannotBeFormattedIsBlank) {
 }
 
 TEST_F(BrushPage, ArrowsUpAndDownRestoreTheAngle) {
-    constexpr double kOdd = 0.123456789012345;
-    Add("Cross", kRed, 2, kOdd, 0, 0);
+    constexpr double kUnrounded = 0.123456789012345;
+    Add("Cross", kRed, 2, kUnrounded, 0, 0);
     RunOk([](SheetDriver& user) {
         user.Focus(IDC_BRUSH_ANGLE);
         user.Key(VK_UP);
         user.Key(VK_DOWN);
     });
-    EXPECT_EQ(kit[0].Number(kPropBrushAngle), kOdd);
+    EXPECT_EQ(kit[0].Number(kPropBrushAngle), kUnrounded);
 }
 
 // Pen properties are written to all previews; this one keeps its own pen.

@@ -166,20 +166,20 @@ protected:
         for (const NumberField& field : kNumbers)
             if (!field.property) parts.push_back(Values(field.least * field.unit, field.most * field.unit, count));
         for (int i = 0; i < count; ++i) {
-            const int odd = alike ? 0 : i;
-            std::map<std::string, KitValue> values = {{kPropLayer, odd == 0 ? int{walls} : 0},
-                                                      {kPropInfo, odd % 2 ? "oak" : "elm"},
-                                                      {kPropPenColor, odd ? 255.0 : 0.0},
+            const int variant = alike ? 0 : i;
+            std::map<std::string, KitValue> values = {{kPropLayer, variant == 0 ? int{walls} : 0},
+                                                      {kPropInfo, variant % 2 ? "oak" : "elm"},
+                                                      {kPropPenColor, variant ? 255.0 : 0.0},
                                                       {kPropPenStyle, kLineStyleByLayer},
                                                       {kPropScaleSystem, kScalePaper},
-                                                      {kPropPenAlignment, odd % 2},
-                                                      {kPropBrushColor, odd ? 255.0 : 0.0},
+                                                      {kPropPenAlignment, variant % 2},
+                                                      {kPropBrushColor, variant ? 255.0 : 0.0},
                                                       {kPropBrushStyle, 6}, // all hatched, whatever else differs
-                                                      {kPropHatchCross, odd % 2},
-                                                      {kPropBrushDrawMode, odd % 2},
-                                                      {kPropTextFont, odd % 2 ? "DejaVu Serif" : "No Such Font"},
-                                                      {kPropTextStyle, odd * 0x1143 & 0xFFFF},
-                                                      {kPropTextFormat, odd % 3}};
+                                                      {kPropHatchCross, variant % 2},
+                                                      {kPropBrushDrawMode, variant % 2},
+                                                      {kPropTextFont, variant % 2 ? "DejaVu Serif" : "No Such Font"},
+                                                      {kPropTextStyle, variant * 0x1143 & 0xFFFF},
+                                                      {kPropTextFormat, variant % 3}};
             for (const auto& [name, of] : numbers)
                 values[name] = of[static_cast<size_t>(i)];
             KitGraphic& graphic = kit->Add(std::move(values), TypeFor(page));

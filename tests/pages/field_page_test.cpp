@@ -252,23 +252,23 @@ TEST_F(FieldPage, InvalidFieldKeepsThePageAndWritesNothing) {
         {FieldKind::Text, 0, 3, "long", ""},
     };
     Add(1);
-    for (const auto& refused : cases) {
-        SCOPED_TRACE(refused.message);
-        FieldRow row = Row(refused.kind);
-        row.min = refused.min;
-        row.max = refused.max;
+    for (const auto& rejected : cases) {
+        SCOPED_TRACE(rejected.message);
+        FieldRow row = Row(rejected.kind);
+        row.min = rejected.min;
+        row.max = rejected.max;
         SetRow(row);
         MessageBoxWatcher boxes;
         Run([&](SheetDriver& user, CGraphicPropertyPage&) {
             user.Type(kOtherField, "edited");
-            user.Type(kField, refused.typed);
+            user.Type(kField, rejected.typed);
             user.Ok();
             const HWND focus = ::GetFocus();
             EXPECT_TRUE(focus == user.Control(kField) || ::GetParent(focus) == user.Control(kField));
         });
         EXPECT_EQ(kit.Writes(), 0);
-        if (*refused.message)
-            EXPECT_EQ(boxes.OnlyText(), refused.message);
+        if (*rejected.message)
+            EXPECT_EQ(boxes.OnlyText(), rejected.message);
         else
             EXPECT_EQ(boxes.Boxes().size(), 1u);
     }
@@ -308,7 +308,7 @@ TEST_F(FieldPage, RowValidatesItsValue) {
 TEST_F(FieldPage, RejectedValuesAreCounted) {
     Add(2);
     Add(2);
-    kit[1].refused = kProperty;
+    kit[1].rejected = kProperty;
     SetRow(Row(FieldKind::Integer));
     MessageBoxWatcher boxes;
     RunOk([&](SheetDriver& user) { user.Type(kField, "3"); });
@@ -436,15 +436,15 @@ TEST_F(FieldPage, FocusReportsTheHelpOfTheField) {
     Add(1);
     SetRow(Row(FieldKind::Integer));
     table.rows[0].help = "How many";
-    std::vector<std::string> told;
-    table.onStatus = [&](const std::string& help) { told.push_back(help); };
+    std::vector<std::string> statusTexts;
+    table.onStatus = [&](const std::string& help) { statusTexts.push_back(help); };
     RunOk([&](SheetDriver& user) {
         user.Focus(kField);
         user.Key(VK_TAB);
         user.Key(VK_TAB, true);
     });
-    ASSERT_GE(told.size(), 3u);
-    EXPECT_EQ((std::vector<std::string>(told.end() - 3, told.end())),
+    ASSERT_GE(statusTexts.size(), 3u);
+    EXPECT_EQ((std::vector<std::string>(statusTexts.end() - 3, statusTexts.end())),
               (std::vector<std::string>{"How many", "", "How many"}));
 }
 
@@ -707,8 +707,8 @@ TEST_F(FieldPage, InvalidTableIsRejectedWithItsRow) {
         try {
             const CFieldPage made(kPage, table);
             ADD_FAILURE() << "accepted";
-        } catch (const std::invalid_argument& refusal) {
-            EXPECT_STREQ(refusal.what(), wrong.message);
+        } catch (const std::invalid_argument& rejection) {
+            EXPECT_STREQ(rejection.what(), wrong.message);
         }
     }
     SetRow(Row(FieldKind::Integer));

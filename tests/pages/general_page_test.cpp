@@ -145,12 +145,12 @@ TEST_F(StylePart, ListsTheTreeAndEnablesTheButtonsByName) {
         EXPECT_EQ(user.ItemText(IDC_STYLE_NAME, 3), "");
         struct {
             const char* name;
-            bool canMake, canDelete;
+            bool canCreate, canDelete;
         } const rows[] = {{"Girder", true, false},    {"Column", false, true},  {"column", false, true},
                           {"Standard", false, false}, {"Outline", true, false}, {"", false, false}};
         for (const auto& row : rows) {
             user.Type(IDC_STYLE_NAME, row.name);
-            EXPECT_EQ(row.canMake, IsEnabled(user, IDC_STYLE_NEW)) << row.name;
+            EXPECT_EQ(row.canCreate, IsEnabled(user, IDC_STYLE_NEW)) << row.name;
             EXPECT_EQ(row.canDelete, IsEnabled(user, IDC_STYLE_DELETE)) << row.name;
         }
         user.Type(IDC_STYLE_NAME, std::string(60, 'W')); // longer than the field

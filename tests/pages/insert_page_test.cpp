@@ -114,16 +114,16 @@ TEST_F(InsertPage, ShowsEqualPartsAndAsterisksForDifferingOnes) {
 TEST_F(InsertPage, UneditedPageWritesNothing) {
     // Digits that no field shows, a scale out of range, a collapsed axis, and a position out of range of a float: each
     // alone, then all together.
-    const InsertParts kOdd[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
-                                {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
-                                {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}},
-                                {{1e39, 0, 0}, {1, 1, 1}, {0, 0, 0}}};
+    const InsertParts kUnusual[] = {{{1.0 / 3, 2.0 / 7, 1e-9}, {1.0 / 3, 1.0 / 7, -7}, {1, 2, 3}},
+                                    {{0, 0, 0}, {5000, 1, 1}, {0, 0, 0}},
+                                    {{0, 0, 0}, {1, 1, 0}, {0, 0, 1}},
+                                    {{1e39, 0, 0}, {1, 1, 1}, {0, 0, 0}}};
     ::DrawingBeginUndo(drawing.Get());
-    for (size_t i = 0; i <= std::size(kOdd); ++i) {
+    for (size_t i = 0; i <= std::size(kUnusual); ++i) {
         SCOPED_TRACE(i);
         ::SelectionClear(selection);
-        for (size_t k = 0; k < std::size(kOdd); ++k)
-            if (k == i || i == std::size(kOdd)) Add(kOdd[k]);
+        for (size_t k = 0; k < std::size(kUnusual); ++k)
+            if (k == i || i == std::size(kUnusual)) Add(kUnusual[k]);
         const Vertices before = All();
         RunOk([](SheetDriver& user) {
             user.SelectPage(0);
@@ -178,7 +178,7 @@ TEST_F(InsertPage, RestoredTextWritesNothing) {
     Add({{1234567.891, 2, 0}, {1.0 / 3, 2, 1}, {0, 0, 30 * kDegree}});
     Add({{1234567.891, 5, 0}, {1.0 / 3, 3, 1}, {0, 0, 60 * kDegree}});
     const Vertices before = All();
-    const auto takeBack = [&](SheetDriver& user, bool byUndo) {
+    const auto revert = [&](SheetDriver& user, bool byUndo) {
         for (const int id : kAll) {
             const std::string first = user.Text(id);
             Paste(user, id, "7");
@@ -188,7 +188,7 @@ TEST_F(InsertPage, RestoredTextWritesNothing) {
     };
     for (const bool byUndo : {true, false}) {
         RunOk([&](SheetDriver& user) {
-            takeBack(user, byUndo);
+            revert(user, byUndo);
             user.SelectPage(0);
             user.SelectPage(1);
             Paste(user, IDC_SCALE_Z, "7");
@@ -265,7 +265,7 @@ TEST_F(InsertPage, ReportsAnInvalidNumberImmediatelyAndKeepsThePage) {
     const struct {
         int id;
         const char* text;
-        size_t atOnce;
+        size_t reported;
     } kRows[] = {{IDC_SCALE_X, "1001", 1},     {IDC_SCALE_Y, "-1000.1", 1},  {IDC_SCALE_Z, "wide", 1},
                  {IDC_POSITION_X, "", 0},      {IDC_POSITION_Y, "1e", 0},    {IDC_POSITION_Z, "1,5,7", 1},
                  {IDC_POSITION_Z, "1e39-", 1}, {IDC_ROTATION_X, "north", 1}, {IDC_ROTATION_Y, "-", 0},
@@ -275,7 +275,7 @@ TEST_F(InsertPage, ReportsAnInvalidNumberImmediatelyAndKeepsThePage) {
         EXPECT_EQ(Run([&](SheetDriver& user, CGraphicPropertyPage& page) {
                       MessageBoxWatcher boxes;
                       Paste(user, row.id, row.text);
-                      EXPECT_EQ(row.atOnce, boxes.Boxes().size());
+                      EXPECT_EQ(row.reported, boxes.Boxes().size());
                       user.Focus(row.id == IDC_SCALE_X ? IDC_SCALE_Y : IDC_SCALE_X);
                       boxes.Clear();
                       user.Ok();

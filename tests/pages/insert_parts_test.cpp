@@ -165,9 +165,9 @@ TEST_F(InsertPartsTest, NumbersThatAreNotFiniteAreNeverWritten) {
     EXPECT_FALSE(ReadInsertParts(line, parts)) << "fewer than four vertices";
     ::InsertSetParts(line, &parts);
     ::GraphicDispose(&line);
-    Corners nowhere = corners;
-    nowhere[2][1] = NAN;
-    Set(nowhere);
+    Corners undefined = corners;
+    undefined[2][1] = NAN;
+    Set(undefined);
     EXPECT_FALSE(ReadInsertParts(m_graphic, parts));
 }
 

@@ -163,11 +163,11 @@ TEST_F(PenPage, InvalidWidthGetsTheFocus) {
 
 // Neither values that cannot be formatted nor values out of range.
 TEST_F(PenPage, UneditedNumbersAreNotValidated) {
-    for (const double odd : {0.0, -3.0, 1e8, 1e39}) {
+    for (const double invalid : {0.0, -3.0, 1e8, 1e39}) {
         AddEqual();
         for (size_t i : {0, 1}) {
-            kit[i].properties[kPropPenScale] = odd;
-            kit[i].properties[kPropPenWidth] = -odd;
+            kit[i].properties[kPropPenScale] = invalid;
+            kit[i].properties[kPropPenWidth] = -invalid;
         }
         MessageBoxWatcher boxes;
         RunOk([](SheetDriver& user) {
@@ -175,9 +175,9 @@ TEST_F(PenPage, UneditedNumbersAreNotValidated) {
             ::SendMessageA(user.Control(IDC_PEN_SCALE), WM_UNDO, 0, 0);
             user.Click(IDC_PEN_ALIGNMENT);
         });
-        EXPECT_TRUE(boxes.Boxes().empty()) << odd;
-        EXPECT_EQ(odd, kit[0].Number(kPropPenScale));
-        EXPECT_EQ(-odd, kit[0].Number(kPropPenWidth));
+        EXPECT_TRUE(boxes.Boxes().empty()) << invalid;
+        EXPECT_EQ(invalid, kit[0].Number(kPropPenScale));
+        EXPECT_EQ(-invalid, kit[0].Number(kPropPenWidth));
         EXPECT_NE(kit[0].Number(kPropPenAlignment), 1);
     }
 }

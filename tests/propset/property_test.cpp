@@ -154,10 +154,10 @@ const TextRow kTextRows[] = {
     {"WideText", "a\xe9", VT_LPWSTR, "03000000 6100e9000000"_hex},
     {"VectorOfWideTexts", "a \"\"", VT_VECTOR | VT_LPWSTR, "02000000 0200000061000000 010000000000"_hex},
     {"LongNumber", "-2", VT_I8, "feffffffffffffff"_hex},
-    {"LongNumberRefused", "2x", VT_I8, {}},
+    {"LongNumberRejected", "2x", VT_I8, {}},
     {"LongNumberTooLarge", "9223372036854775808", VT_I8, {}},
     {"Money", "-12.5", VT_CY, "b817feffffffffff"_hex},
-    {"MoneyRefused", "1.23456", VT_CY, {}},
+    {"MoneyRejected", "1.23456", VT_CY, {}},
     {"MoneyBarePoint", "1.", VT_CY, {}},
     {"Date", "1900-01-01", VT_DATE, "0000000000000040"_hex},
     {"DateBeforeItsZero", "\"1899-12-29 06:00\"", VT_DATE, "000000000000f4bf"_hex}, // -1.25
@@ -170,7 +170,7 @@ const TextRow kTextRows[] = {
     {"DateWithTail", "2000-01-01x", VT_DATE, {}},
     {"ClassId", "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}", VT_CLSID, "e0859ff2f94f6810ab9108002b27b3d9"_hex},
     {"ClassIdBare", "f29f85e0-4ff9-1068-ab91-08002b27b3d9", VT_CLSID, "e0859ff2f94f6810ab9108002b27b3d9"_hex},
-    {"ClassIdRefused", "{F29F85E0-4FF9-1068-AB91-08002B27B3D}", VT_CLSID, {}},
+    {"ClassIdRejected", "{F29F85E0-4FF9-1068-AB91-08002B27B3D}", VT_CLSID, {}},
     {"OneBadElement", "1 x 3", VT_VECTOR | VT_I8, {}},
     {"NoForm", "1", VT_DISPATCH, {}},
 };

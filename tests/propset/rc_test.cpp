@@ -215,7 +215,7 @@ TEST_F(CompiledScript, IsTheStreamImageOfEveryValue) {
 }
 
 // A set with names that must be escaped or truncated.
-std::shared_ptr<CPropertySet> SetOfOddNames() {
+std::shared_ptr<CPropertySet> SetOfUnusualNames() {
     auto set = std::make_shared<CPropertySet>();
     CPropertySection* section = set->AddSection(GUID());
     char text[] = "caf\xe9";
@@ -231,7 +231,7 @@ TEST_F(CompiledScript, OfEverySetEqualsTheSet) {
     std::vector<std::function<void(CRCFile&)>> writers;
     std::vector<std::string> names;
     std::vector<Bytes> images;
-    std::map<std::string, std::shared_ptr<CPropertySet>> sets = {{"odd names", SetOfOddNames()}};
+    std::map<std::string, std::shared_ptr<CPropertySet>> sets = {{"odd names", SetOfUnusualNames()}};
     for (const CorpusStream& stream : AllCorpusStreams()) {
         MemoryStream content(stream.Content());
         auto set = std::make_shared<CPropertySet>();

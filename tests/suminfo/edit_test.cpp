@@ -284,14 +284,14 @@ TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
         bytes[entry.path().filename().string()] = FileBytes(entry.path());
     }
     const auto before = ContentsOf(folder_.Path());
-    std::set<std::string> refused;
+    std::set<std::string> rejected;
     for (const auto& [name, content] : bytes)
-        if (RunSuminfo({"set", name, "manager=Somebody"}, folder_.Path()).exitCode != 0) refused.insert(name);
+        if (RunSuminfo({"set", name, "manager=Somebody"}, folder_.Path()).exitCode != 0) rejected.insert(name);
     const auto after = ContentsOf(folder_.Path());
-    EXPECT_LT(refused.size(), bytes.size() / 3) << testing::PrintToString(refused);
+    EXPECT_LT(rejected.size(), bytes.size() / 3) << testing::PrintToString(rejected);
     for (const auto& [name, content] : before) {
         SCOPED_TRACE(name);
-        if (refused.count(name) != 0) continue;
+        if (rejected.count(name) != 0) continue;
         const Content& edited = after.at(name);
         EXPECT_EQ(edited["manager"], "Somebody");
         const auto values = edited.Values();
@@ -299,8 +299,8 @@ TEST_F(Edit, SettingOneFieldChangesNoOtherValueOfAnyDocument) {
             if (key.find("}manager") == std::string::npos && values.at(key) != value)
                 ADD_FAILURE() << key << " was " << value << ", is " << values.at(key);
     }
-    for (const std::string& name : refused)
-        EXPECT_EQ(FileBytes(folder_.Path() / name), bytes[name]) << name << " was refused, but changed";
+    for (const std::string& name : rejected)
+        EXPECT_EQ(FileBytes(folder_.Path() / name), bytes[name]) << name << " was rejected, but changed";
 }
 
 TEST_F(Edit, RejectedEditsChangeNothing) {
@@ -329,8 +329,8 @@ TEST_F(Edit, DocumentThatCannotBeWrittenIsUnchanged) {
     const std::vector<unsigned char> before = FileBytes(file);
     {
         orlo::Owned<IStorage> holder;
-        constexpr DWORD kHold = STGM_READ | STGM_SHARE_DENY_WRITE;
-        ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kHold, nullptr, 0, orlo::Receive(holder)), S_OK);
+        constexpr DWORD kMode = STGM_READ | STGM_SHARE_DENY_WRITE;
+        ASSERT_EQ(::StgOpenStorage(file.c_str(), nullptr, kMode, nullptr, 0, orlo::Receive(holder)), S_OK);
         ExpectRejected({"set", file.string(), "title=New"},
                        "test11--695187.doc: the file cannot be opened: another program has it open");
         const Outcome copy = RunSuminfo({"copy", other.string(), file.string()});
@@ -347,8 +347,8 @@ TEST_F(Edit, DocumentThatCannotBeWrittenIsUnchanged) {
 
 TEST_F(Edit, AttributesArePreserved) {
     const fs::path file = Document("test11--695187.doc");
-    constexpr DWORD kKept = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
-    ASSERT_TRUE(::SetFileAttributesW(file.c_str(), kKept));
+    constexpr DWORD kAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+    ASSERT_TRUE(::SetFileAttributesW(file.c_str(), kAttributes));
     const DWORD before = ::GetFileAttributesW(file.c_str());
     ExpectDone({"set", file.string(), "title=New"});
     EXPECT_EQ(::GetFileAttributesW(file.c_str()), before);

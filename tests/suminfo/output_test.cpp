@@ -81,10 +81,10 @@ TEST(ResourceScript, LeavesNoFileOnFailure) {
     EXPECT_EQ(empty.exitCode, 1);
     EXPECT_EQ(empty.err, "suminfo: " + stream + ": the property set has no sections\n");
     EXPECT_TRUE(fs::is_empty(folder.Path()));
-    const std::string nowhere = (folder.Path() / "missing" / "out.rc").string();
-    const Outcome run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), nowhere});
+    const std::string missing = (folder.Path() / "missing" / "out.rc").string();
+    const Outcome run = RunSuminfo({"rc", (kDocuments / "test11--695187.doc").string(), missing});
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_EQ(run.err, "suminfo: " + nowhere + ": cannot create a file in its folder: no such folder\n");
+    EXPECT_EQ(run.err, "suminfo: " + missing + ": cannot create a file in its folder: no such folder\n");
 }
 
 TEST(Check, ReportsOffsetsAndFailsForIrregularities) {

@@ -7,8 +7,8 @@
 #include <gtest/gtest.h>
 
 #include "compound_bytes.h"
-#include "made_compound_file.h"
 #include "picture_bytes.h"
+#include "synthetic_compound_file.h"
 #include "tests/support/file_bytes.h"
 
 using orlo::CompoundState;
@@ -106,7 +106,7 @@ TEST(CompoundReader, LongSectorsWithEitherVersion) {
                 {5, 1, 0, CompoundState::unsafe}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.version << " " << row.directories << " " << row.highHalf);
-        ByteVector file = MadeFile(kLong, row.version, row.directories, 1);
+        ByteVector file = SyntheticFile(kLong, row.version, row.directories, 1);
         Put(file, 2 * kLong + 128 + kSize + 4, row.highHalf); // of the stream's size
         const orlo::CompoundReader reader = ReaderOf(file);
         EXPECT_EQ(reader.State(), row.state);
@@ -116,7 +116,7 @@ TEST(CompoundReader, LongSectorsWithEitherVersion) {
 }
 
 TEST(CompoundReader, ReadsAdjacentAllocationSectorsAtOnce) {
-    const ByteVector file = MadeFile(kSector, 3, 0, 100);
+    const ByteVector file = SyntheticFile(kSector, 3, 0, 100);
     size_t reads = 0;
     const orlo::ReadAt read = [&](uint64_t offset, void* buffer, size_t size) {
         ++reads;
@@ -263,8 +263,8 @@ TEST(CompoundReader, UnlimitedNestingOfStorages) {
     Put(file, EntryAt(file, 0) + kChild, entries);
     const orlo::CompoundReader reader = ReaderOf(file);
     const auto& damage = reader.Damage();
-    const std::string said(damage.empty() ? "" : damage[0]);
-    EXPECT_NE(said.find("nested deeper than 64"), std::string::npos) << said;
+    const std::string message(damage.empty() ? "" : damage[0]);
+    EXPECT_NE(message.find("nested deeper than 64"), std::string::npos) << message;
 }
 
 TEST(CompoundReader, EveryDamageIsFound) {

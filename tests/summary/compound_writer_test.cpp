@@ -13,10 +13,10 @@
 
 #include "compound_bytes.h"
 #include "files/file_error.h"
-#include "made_compound_file.h"
 #include "orlo/propset/code_page.h"
 #include "orlo/summary/edited_document.h"
 #include "random_damage.h"
+#include "synthetic_compound_file.h"
 #include "tests/support/file_bytes.h"
 
 namespace fs = std::filesystem;
@@ -47,20 +47,21 @@ bool IsWritten(const std::u16string& path, const orlo::StreamsToWrite& streams) 
 }
 
 // The data that an edit preserves of an element: its bytes, and name, kind, class, state bits and times.
-struct Kept {
+struct PreservedData {
     ByteVector bytes, record;
-    bool operator==(const Kept& other) const { return bytes == other.bytes && record == other.record; }
+    bool operator==(const PreservedData& other) const { return bytes == other.bytes && record == other.record; }
 };
-std::map<std::u16string, Kept> KeptOf(const orlo::CompoundReader& file, const orlo::StreamsToWrite& but) {
-    std::map<std::u16string, Kept> kept;
+std::map<std::u16string, PreservedData> PreservedDataOf(const orlo::CompoundReader& file,
+                                                        const orlo::StreamsToWrite& but) {
+    std::map<std::u16string, PreservedData> preserved;
     for (const orlo::CompoundElement& element : file.Elements()) {
         if (IsWritten(element.path, but)) continue;
-        Kept& is = kept[element.path];
+        PreservedData& is = preserved[element.path];
         if (element.stream) is.bytes = file.Read(file.Streams()[*element.stream]);
         is.record.assign(element.record.begin(), element.record.begin() + kColor);
         is.record.insert(is.record.end(), element.record.begin() + kClassId, element.record.begin() + kStart);
     }
-    return kept;
+    return preserved;
 }
 
 // Returns the number of black entries on every path of the tree, or -1 if they differ or a red entry is below another.
@@ -85,7 +86,7 @@ void ExpectRewritten(const ByteVector& file, const orlo::StreamsToWrite& streams
     const ByteVector bytes = Rewritten(&before, streams);
     const orlo::CompoundReader after = ReaderOf(bytes);
     EXPECT_EQ(after.State(), orlo::CompoundState::intact) << testing::PrintToString(after.Damage());
-    EXPECT_EQ(KeptOf(after, streams), KeptOf(before, streams));
+    EXPECT_EQ(PreservedDataOf(after, streams), PreservedDataOf(before, streams));
     EXPECT_EQ(std::vector<uint8_t>(after.Header().begin(), after.Header().begin() + kDirectorySectors),
               std::vector<uint8_t>(before.Header().begin(), before.Header().begin() + kDirectorySectors));
     size_t written = 0;
@@ -132,7 +133,7 @@ TEST(CompoundWriter, EveryVersionAndSectorSize) {
     } rows[] = {{512, 3}, {4096, 4}, {4096, 3}};
     for (const auto& row : rows) {
         SCOPED_TRACE(testing::Message() << row.version << " " << row.sectorBytes);
-        ByteVector file = MadeFile(row.sectorBytes, row.version, row.version == 4, 1);
+        ByteVector file = SyntheticFile(row.sectorBytes, row.version, row.version == 4, 1);
         orlo::StreamsToWrite streams;
         for (const size_t size : {0u, 1u, 63u, 64u, 65u, 511u, 512u, 4095u, 4096u, 4097u, 8192u, 3000000u}) {
             streams[u"a"] = Filled(size);
@@ -143,7 +144,7 @@ TEST(CompoundWriter, EveryVersionAndSectorSize) {
             streams[std::u16string(1 + name % 5, name)] = Filled(name * 9u);
             ExpectRewritten(file, streams);
         }
-        file = MadeFile(row.sectorBytes, row.version, row.version == 4, 1);
+        file = SyntheticFile(row.sectorBytes, row.version, row.version == 4, 1);
         ExpectRewritten(file, {{u"Long", Filled(row.sectorBytes * 120 * row.sectorBytes / 4)}}); // a list of tables
     }
 }
@@ -183,12 +184,12 @@ public:
         auto* to = static_cast<char*>(buffer);
         for (auto at = std::prev(pieces_.upper_bound(offset)); size > 0; ++at) {
             const auto inside = static_cast<size_t>(offset - at->first);
-            const size_t here = std::min(size, at->second.size - inside);
+            const size_t length = std::min(size, at->second.size - inside);
             if (at->second.bytes.size() == at->second.size)
-                std::memcpy(to, at->second.bytes.data() + inside, here);
+                std::memcpy(to, at->second.bytes.data() + inside, length);
             else
-                std::memset(to, at->second.bytes[0], here);
-            to += here, offset += here, size -= here;
+                std::memset(to, at->second.bytes[0], length);
+            to += length, offset += length, size -= length;
         }
         return true;
     }
@@ -214,7 +215,7 @@ SparseFile LongFile(uint64_t streamBytes) {
     constexpr size_t kLong = 4096, kNumbers = kLong / 4;
     const auto sectors = static_cast<uint32_t>(streamBytes / kLong);
     const uint32_t tables = sectors / kNumbers + 1, directory = tables + 1;
-    ByteVector file = MadeFile(kLong, 4, 1, 1); // for its header and directory
+    ByteVector file = SyntheticFile(kLong, 4, 1, 1); // for its header and directory
     const ByteVector entries(file.begin() + 2 * kLong, file.begin() + 3 * kLong);
     file.resize(kLong * (1 + directory));
     Put(file, kTableSectors, tables);
@@ -272,7 +273,7 @@ TEST_P(DamagedFile, IsRejectedOrEdited) {
     const fs::path path =
         fs::temp_directory_path() /
         ("orlo-damaged-" + std::to_string(testing::UnitTest::GetInstance()->random_seed()) + GetParam());
-    int edited = 0, refused = 0;
+    int edited = 0, rejected = 0;
     for (unsigned seed = 0; seed < 1000; ++seed) {
         SCOPED_TRACE(seed);
         const ByteVector file = Damaged(whole, seed);
@@ -285,16 +286,16 @@ TEST_P(DamagedFile, IsRejectedOrEdited) {
             document.Commit();
             ++edited;
             const ByteVector after = FileBytes(path);
-            EXPECT_EQ(KeptOf(ReaderOf(after), streams), KeptOf(ReaderOf(file), streams));
+            EXPECT_EQ(PreservedDataOf(ReaderOf(after), streams), PreservedDataOf(ReaderOf(file), streams));
         } catch (const orlo::UnfitDocument&) {
-            ++refused;
+            ++rejected;
             EXPECT_EQ(FileBytes(path), file);
             EXPECT_NE(ReaderOf(file).State(), orlo::CompoundState::intact);
         }
     }
     fs::remove(path);
     EXPECT_GT(edited, 100);
-    EXPECT_GT(refused, 200);
+    EXPECT_GT(rejected, 200);
 }
 
 INSTANTIATE_TEST_SUITE_P(Real, DamagedFile,

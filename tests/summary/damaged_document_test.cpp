@@ -45,7 +45,7 @@ class DamagedDocument : public testing::TestWithParam<const char*> {};
 TEST_P(DamagedDocument, IsRejectedOrRead) {
     const Bytes whole = FileBytes(fs::path(ORLO_TEST_DATA) / "ole" / GetParam());
     const fs::path path = fs::temp_directory_path() / "orlo-random-damage.doc";
-    int intact = 0, refused = 0;
+    int intact = 0, rejected = 0;
     for (unsigned seed = 0; seed < 1000; ++seed) {
         SCOPED_TRACE(seed);
         const Bytes file = Damaged(whole, seed);
@@ -58,7 +58,7 @@ TEST_P(DamagedDocument, IsRejectedOrRead) {
         const OwnedSummary summary(read);
         if (state == orlo::CompoundState::unsafe) {
             EXPECT_EQ(result, STG_E_DOCFILECORRUPT);
-            ++refused;
+            ++rejected;
         }
         const Streams streams = storage ? SystemStreamsOf(storage.get()) : Streams();
         if (state != orlo::CompoundState::intact) continue;
@@ -68,7 +68,7 @@ TEST_P(DamagedDocument, IsRejectedOrRead) {
     }
     fs::remove(path);
     EXPECT_GT(intact, 100);
-    EXPECT_GT(refused, 200);
+    EXPECT_GT(rejected, 200);
 }
 
 INSTANTIATE_TEST_SUITE_P(Real, DamagedDocument,

@@ -54,7 +54,7 @@ TEST(DibLayout, HasItsPartsAndRejectsTruncation) {
     }
 }
 
-struct Refused {
+struct Rejected {
     const char* name;
     DibBytes dib;
 };
@@ -65,7 +65,7 @@ DibBytes With(DibBytes dib, Field DibBytes::*field, Field value) {
     return dib;
 }
 
-const Refused kRefused[] = {
+const Rejected kRejected[] = {
     {"NoWidth", Dib(0, 1, 24)},
     {"NegativeWidth", Dib(-3, 1, 24)},
     {"NoHeight", Dib(1, 0, 24)},
@@ -95,7 +95,7 @@ const Refused kRefused[] = {
 };
 
 TEST(DibLayout, IsRejectedWithoutReadingPastItsEnd) {
-    for (const Refused& row : kRefused) {
+    for (const Rejected& row : kRejected) {
         const ByteVector bytes = row.dib.Build();
         EXPECT_FALSE(ReadDibLayout(bytes.data(), bytes.size(), DibColors::Rgb)) << row.name;
     }

@@ -98,7 +98,7 @@ const Row kPassing[] = {
     {"TextWithWidths", Picture().Record(0x0A32, {0, 0, 2, 0, 0x4141, 5, 5})},
 };
 
-const Row kRefused[] = {
+const Row kRejected[] = {
     {"NoExtent", MetaFileBytes(0, 50)},
     {"NegativeExtent", MetaFileBytes(100, -1)},
     {"OtherVersion", Picture().Version(0x0200)},
@@ -139,7 +139,7 @@ const Row kRefused[] = {
 TEST(MetaFilePicture, IsAcceptedOrRejectedAsAWhole) {
     for (const Row& row : kPassing)
         EXPECT_TRUE(Passes(row.picture.Build())) << row.name;
-    for (const Row& row : kRefused)
+    for (const Row& row : kRejected)
         EXPECT_FALSE(Passes(row.picture.Build())) << row.name;
 }
 

@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-#include "made_compound_file.h"
+#include "synthetic_compound_file.h"
 
 // Changes one to three numbers or bytes in header, allocation table, directory or table of short streams. Truncates
 // some documents as well.

@@ -109,13 +109,13 @@ TEST_F(Thumbnail, KeepsTheAspectRatioForEachFormat) {
     const ByteVector dib = BlueDib(2, 1);
     const ByteVector picture = BluePicture(2, 1);
     const unsigned char formats[] = {3, 8, 14};
-    const ThumbnailClip refused[] = {
+    const ThumbnailClip rejected[] = {
         {0, 0xFFFFFFFF, &formats[1], dib.data()},
         {1, 0xFFFFFFFE, &formats[1], dib.data()},
         {1, 0xFFFFFFFF, &formats[1], nullptr},
         {1, 0xFFFFFFFF, &formats[2], dib.data()},
     };
-    for (const ThumbnailClip& clip : refused)
+    for (const ThumbnailClip& clip : rejected)
         EXPECT_EQ(DrawThumbnail(&clip, canvas_.DC(), &whole_), 0);
     ExpectNothingDrawn();
     const RECT middle = {0, 15, 60, 45};

@@ -68,13 +68,13 @@ std::string StalePart(HWND window) {
     const HiddenCaret hidden;
     CRect area;
     ::GetWindowRect(window, area);
-    MemoryPicture shown, fresh;
+    MemoryPicture shown, redrawn;
     HandleMessages();
     CopyStableScreen(shown, area);
     ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     HandleMessages();
-    CopyScreen(fresh, area);
-    const CRect part = Difference(shown, fresh);
+    CopyScreen(redrawn, area);
+    const CRect part = Difference(shown, redrawn);
     if (part.IsRectEmpty()) return "";
     const CPoint middle = area.TopLeft() + CSize(part.CenterPoint().x, part.CenterPoint().y);
     CString text;

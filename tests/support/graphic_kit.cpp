@@ -90,7 +90,7 @@ int Set(GraphicStruct* graphic, int32_t number, int vt, const void* in) {
     auto& [name, value] = At(graphic, number);
     KitGraphic* kit = Kit().at(graphic);
     if (kit->onSet) kit->onSet(name);
-    if (name == kit->refused) return 0;
+    if (name == kit->rejected) return 0;
     kit->writes.push_back({name, vt});
     switch (vt) {
     case VT_I4:

@@ -46,7 +46,7 @@ public:
     std::vector<KitWrite> writes;
     std::function<void(const std::string& name)> onSet; // before a value is stored
     std::function<void()> onGet;                        // after a value was returned
-    std::string refused;                                // the property that is rejected
+    std::string rejected;                               // the property that is rejected
     int reads = 0;
 };
 

@@ -19,7 +19,7 @@ bool IsMessageBox(HWND window) {
 
 MessageBoxWatcher* MessageBoxWatcher::s_current = nullptr;
 
-MessageBoxWatcher::MessageBoxWatcher(int answer) : m_answer(answer) {
+MessageBoxWatcher::MessageBoxWatcher(int reply) : m_reply(reply) {
     s_current = this;
     m_hook = ::SetWindowsHookExA(WH_CBT, OnHook, nullptr, ::GetCurrentThreadId());
 }
@@ -46,5 +46,5 @@ void MessageBoxWatcher::OnActivate(HWND window) {
     const HICON icon = reinterpret_cast<HICON>(::SendDlgItemMessageA(window, kIconID, STM_GETICON, 0, 0));
     m_boxes.push_back({WindowText(::GetDlgItem(window, kTextID)), WindowText(window),
                        icon && icon == ::LoadIconA(nullptr, MAKEINTRESOURCEA(32515))});
-    ::PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(m_answer), 0);
+    ::PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(m_reply), 0);
 }

@@ -19,7 +19,7 @@ public:
     };
 
     // answer: the button to press: IDOK, IDYES, ...
-    explicit MessageBoxWatcher(int answer = IDOK);
+    explicit MessageBoxWatcher(int reply = IDOK);
     ~MessageBoxWatcher();
     MessageBoxWatcher(const MessageBoxWatcher&) = delete;
     MessageBoxWatcher& operator=(const MessageBoxWatcher&) = delete;
@@ -36,7 +36,7 @@ private:
 
     static MessageBoxWatcher* s_current; // only one at a time
     HHOOK m_hook;
-    int m_answer;
+    int m_reply;
     HWND m_answered = nullptr;
     std::vector<Box> m_boxes;
 };

@@ -12,11 +12,11 @@
 // The page template of tests/support/test_page.rc.
 enum TestPageControl : int {
     kTestPage = 500,
-    kWordsPage = 501,    // without controls that accept the focus
-    kOddPage = 502,      // a field that is wider than the page, and a label that is a tab stop
-    kLargePage = 503,    // the size of the test page in a larger font
-    kGroupPage = 504,    // a field within a group of radio buttons, with a label that starts the next group
-    kExtendedPage = 505, // the same in the extended format of templates
+    kWordsPage = 501,     // without controls that accept the focus
+    kWideFieldPage = 502, // a field that is wider than the page, and a label that is a tab stop
+    kLargePage = 503,     // the size of the test page in a larger font
+    kGroupPage = 504,     // a field within a group of radio buttons, with a label that starts the next group
+    kExtendedPage = 505,  // the same in the extended format of templates
     kEdit = 101,
     kOtherEdit = 102,
     kCheck = 103,

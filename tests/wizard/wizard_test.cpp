@@ -571,16 +571,16 @@ TEST_F(Wizard, IsAsWideAsThePageOrTheButtons) {
             const CRect back = Place(user, ::GetDlgItem(sheet, kBack)), next = Place(user, ::GetDlgItem(sheet, kNext)),
                         cancel = Place(user, ::GetDlgItem(sheet, IDCANCEL));
             const CSize button = Units(user.Page(), 50, 14), gap = Units(user.Page(), 4, 4);
-            const CSize asked = Units(user.Page(), id == kNarrow ? 120 : 240, id == kNarrow ? 60 : 100);
+            const CSize required = Units(user.Page(), id == kNarrow ? 120 : 240, id == kNarrow ? 60 : 100);
 
             EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(sheet, kTabs)));
-            const int row = 3 * button.cx + gap.cx + 2 * gap.cx, body = asked.cx + 2 * gap.cx + 3;
+            const int row = 3 * button.cx + gap.cx + 2 * gap.cx, body = required.cx + 2 * gap.cx + 3;
             EXPECT_EQ(id == kNarrow, row > body);
             EXPECT_EQ(std::max(row, body), client.Width());
             EXPECT_EQ(
-                CRect(CPoint(gap.cx + 1, tabs.Height() + gap.cy), CSize(client.Width() - 2 * gap.cx - 3, asked.cy)),
+                CRect(CPoint(gap.cx + 1, tabs.Height() + gap.cy), CSize(client.Width() - 2 * gap.cx - 3, required.cy)),
                 page);
-            EXPECT_EQ(3 * gap.cy + button.cy + tabs.Height() + asked.cy + 4, client.Height());
+            EXPECT_EQ(3 * gap.cy + button.cy + tabs.Height() + required.cy + 4, client.Height());
             for (const CRect& rect : {back, next, cancel}) {
                 EXPECT_EQ(button, rect.Size());
                 EXPECT_EQ(client.bottom - gap.cy, rect.bottom);

@@ -31,7 +31,7 @@ inline void PutName(std::vector<uint8_t>& file, size_t entry, const std::string&
 
 // Returns a file with one stream of 5000 bytes and the requested number of allocation sectors: these, the directory,
 // the stream.
-inline std::vector<uint8_t> MadeFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
+inline std::vector<uint8_t> SyntheticFile(size_t sectorBytes, uint16_t version, uint32_t directories, uint32_t tables) {
     std::vector<uint8_t> file(sectorBytes * (1 + tables * sectorBytes / 4));
     std::copy(orlo::kCompoundSignature.begin(), orlo::kCompoundSignature.end(), file.begin());
     PutShort(file, 26, version);
