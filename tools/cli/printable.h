@@ -15,8 +15,8 @@ std::string Printable(std::string_view utf8, const char* escape = "\\x%02x");
 // Also escapes line ends and tabs, as \n, \r and \t.
 std::string OneLine(std::string_view utf8);
 
-// During its lifetime, text that is written to the stream is escaped by Printable. If `file`, the file of the stream, is
-// a console, the text is printed on it. The stream fails if the text cannot be written.
+// During its lifetime, text that is written to the stream is escaped by Printable. If `file`, the file of the stream,
+// is a console, the text is printed on it. The stream fails if the text cannot be written.
 class PrintableBuffer : public std::streambuf {
 public:
     PrintableBuffer(std::ostream& stream, FILE* file) : stream_(stream), file_(file), target_(stream.rdbuf(this)) {}
