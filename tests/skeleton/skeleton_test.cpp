@@ -131,6 +131,22 @@ TEST_F(Skeleton, IsEditedOnEveryPageOfTheSheet) {
     EXPECT_DOUBLE_EQ(CALL(host, GraphicVertexNext)(Member(2), &cookie, 0, 0xFFFF)->x, 3);
 }
 
+TEST_F(Skeleton, FitsExtentsOnlyAsRequested) {
+    const RECT all = {0, 0, 60, 60};
+    const Pixels picture(all.right, all.bottom);
+    ViewportStruct* viewport = CALL(host, ViewportNewEx)();
+    const ExtentsStruct* extents = CALL(host, GraphicGetExtentsSel)(Member(0), 0);
+    CALL(host, ViewportSetRect)(viewport, &all);
+    for (const int fit : {0, int{kFitWhole}}) {
+        CALL(host, ViewportSetExtents)(viewport, extents, fit);
+        CALL(host, ViewportSetGDIStuff)(viewport, nullptr, picture.DC(), MM_TEXT, 1);
+        CALL(host, GraphicDrawEx2)(Member(0), nullptr, viewport, 0, 1);
+        EXPECT_EQ(picture.CountWhere(all, [](COLORREF color) { return color != RGB(255, 255, 255); }) > 0,
+                  fit == kFitWhole);
+    }
+    CALL(host, ViewportDispose)(&viewport);
+}
+
 TEST_F(Skeleton, DrawsThePreviewInTheSelectedColor) {
     Run([](SheetDriver& user) {
         user.SelectPage(1);
