@@ -191,6 +191,21 @@ TYPED_TEST(StyleControls, SelectionIsAFrameThatCanBeRemoved) {
     EXPECT_LT(100, this->m_pixels.Count(kAll, highlight)) << "the closed field is always drawn completely";
 }
 
+TYPED_TEST(StyleControls, SampleIsCenteredAndFillsItsRowInOneDirection) {
+    TypeParam::Add(this->m_table, "Own");
+    this->Fill();
+    this->Draw(this->IndexOf("Own"));
+    CRect ink;
+    for (int y = kRow.top; y < kRow.bottom; ++y)
+        for (int x = kRow.left; x < kRow.right; ++x)
+            if (this->CountDrawn({x, y, x + 1, y + 1}) > 0) ink.UnionRect(CRect(ink), CRect(x, y, x + 1, y + 1));
+    const CRect row = kRow;
+    EXPECT_NEAR(ink.CenterPoint().x, row.CenterPoint().x, 10) << "the last gap can be at an edge";
+    EXPECT_NEAR(ink.CenterPoint().y, row.CenterPoint().y, 2);
+    EXPECT_TRUE(4 * row.Width() < 5 * ink.Width() || 4 * row.Height() < 5 * ink.Height())
+        << ink.Width() << " by " << ink.Height();
+}
+
 TYPED_TEST(StyleControls, SubclassedWindowHasASampleWhenFilled) {
     CWnd window;
     ASSERT_TRUE(window.CWnd::Create(TypeParam::kClass, "", TypeParam::kStyle, CRect(0, 0, 200, 100), &this->m_host, 2));
