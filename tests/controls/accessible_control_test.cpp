@@ -89,8 +89,8 @@ TEST_F(AccessibleControls, AreNamedByTheirLabelOrElseTheSmallestGroupAround) {
         ::CreateWindowExA(0, kind, text, WS_CHILD | WS_VISIBLE | style, place.left, place.top, place.Width(),
                           place.Height(), m_host.m_hWnd, nullptr, nullptr, nullptr);
     };
-    add("Button", "Everything", BS_GROUPBOX, {0, 0, 290, 290});
     add("Button", "&Styles", BS_GROUPBOX, {5, 5, 200, 200});
+    add("Button", "Everything", BS_GROUPBOX, {0, 0, 290, 290});
     add("Static", "La&yer:", 0, {10, 10, 50, 30});
     CLayerControl layers;
     const DWORD style = WS_CHILD | WS_VISIBLE | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE | CBS_HASSTRINGS;
