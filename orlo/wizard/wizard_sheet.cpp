@@ -47,12 +47,13 @@ bool HasFieldAfter(HWND page, HWND control) {
     return next != nullptr && next != first && next != from;
 }
 
-// A multiline edit control handles all keys, but passes Return to the default button of its parent, the page, which has
-// none.
+// A multiline edit control handles all keys, but passes Return without Ctrl to the default button of its parent, the
+// page, which has none.
 bool TakesReturn(MSG& message) {
     const LRESULT code = ::SendMessageA(message.hwnd, WM_GETDLGCODE, VK_RETURN, reinterpret_cast<LPARAM>(&message));
     const LONG style = ::GetWindowLongA(message.hwnd, GWL_STYLE);
-    if ((code & DLGC_HASSETSEL) != 0 && (style & ES_MULTILINE) != 0) return (style & ES_WANTRETURN) != 0;
+    if ((code & DLGC_HASSETSEL) != 0 && (style & ES_MULTILINE) != 0)
+        return (style & ES_WANTRETURN) != 0 || ::GetKeyState(VK_CONTROL) < 0;
     return (code & (DLGC_WANTALLKEYS | DLGC_WANTMESSAGE)) != 0;
 }
 

@@ -253,10 +253,14 @@ TEST_F(Wizard, IsDrawnCompletelyOnEachPage) {
     walk();
 }
 
-// A field of several lines begins a new line where its style says so; otherwise the key presses Next.
+// A field of several lines begins a new line where its style says so; otherwise the key presses Next, and only with
+// Ctrl begins a line.
 TEST_F(Wizard, ReturnBeginsALineInAMultilineField) {
     Run(*Make({kOneLine, kNotes, kWide}), [&](SheetDriver& user) {
         user.Focus(kField);
+        user.Key(VK_RETURN, false, true);
+        EXPECT_EQ(State(user), "0 - &Next >");
+        EXPECT_EQ(::SendMessageA(user.Control(kField), EM_GETLINECOUNT, 0, 0), 2);
         user.Key(VK_RETURN);
         EXPECT_EQ(State(user), "1 Back &Next >");
         user.Focus(kField);
