@@ -17,7 +17,8 @@
 
 namespace {
 
-constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNotes = 603, kOneLine = 604, kNoField = 605, kNoTemplate = 699;
+constexpr int kNarrow = 600, kWide = 601, kQuiet = 602, kNotes = 603, kOneLine = 604, kNoField = 605, kLists = 606,
+              kNoTemplate = 699;
 constexpr int kField = 1010, kKeepColor = 1011, kLookUp = 1012, kBack = 100, kNext = 101, kTabs = 301, kHeading = 302;
 
 class CStep : public CPropertyPage {
@@ -267,6 +268,24 @@ TEST_F(Wizard, ReturnBeginsALineInAMultilineField) {
         user.Key(VK_RETURN);
         EXPECT_EQ(State(user), "1 Back &Next >");
         EXPECT_EQ(::SendMessageA(user.Control(kField), EM_GETLINECOUNT, 0, 0), 2);
+    });
+}
+
+TEST_F(Wizard, ReturnClosesAnOpenList) {
+    Run(*Make({kLists, kWide}), [](SheetDriver& user) {
+        for (const int list : {kField, kKeepColor}) {
+            ::SendMessageA(user.Control(list), CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("First"));
+            user.Focus(list);
+            user.Key(VK_F4);
+            ASSERT_TRUE(::SendMessageA(user.Control(list), CB_GETDROPPEDSTATE, 0, 0));
+            user.Key(VK_DOWN);
+            user.Key(VK_RETURN);
+            EXPECT_FALSE(::SendMessageA(user.Control(list), CB_GETDROPPEDSTATE, 0, 0));
+            EXPECT_EQ(user.Selection(list), 0);
+            EXPECT_EQ(State(user), "0 - &Next >");
+        }
+        user.Key(VK_RETURN);
+        EXPECT_EQ(State(user), "1 Back Finish");
     });
 }
 
