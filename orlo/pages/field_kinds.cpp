@@ -232,6 +232,11 @@ std::pair<double, double> LimitsOf(const Field& field) {
     return row.min != row.max ? std::pair(row.min, row.max) : std::pair(field.kind->least, field.kind->most);
 }
 
+UINT RangePrompt(FieldKind kind) {
+    if (kind == FieldKind::Date) return IDS_DATE_RANGE;
+    return kind == FieldKind::Integer ? AFX_IDP_PARSE_INT_RANGE : AFX_IDP_PARSE_REAL_RANGE;
+}
+
 int CheckLimits(int bReport, CDataExchange* pDX, const Field& field, const CString& text) {
     return field.row->max <= 0.0 || DDV_MaxChars(bReport, pDX, text, static_cast<int>(field.row->max));
 }
@@ -241,8 +246,8 @@ int CheckLimits(int bReport, CDataExchange* pDX, const Field& field, Number numb
     const auto [least, most] = LimitsOf(field);
     const auto value = static_cast<double>(number);
     if (field.kind->format == nullptr || least == most || (value >= least && value <= most)) return 1;
-    const UINT prompt = field.kind->vt == VT_I4 ? AFX_IDP_PARSE_INT_RANGE : AFX_IDP_PARSE_REAL_RANGE;
-    return FailTextRange(bReport, pDX, field.kind->format(least).c_str(), field.kind->format(most).c_str(), prompt);
+    return FailTextRange(bReport, pDX, field.kind->format(least).c_str(), field.kind->format(most).c_str(),
+                         RangePrompt(field.row->kind));
 }
 
 int CheckRow(int bReport, CDataExchange* pDX, const Field& field, const FieldValue& value) {

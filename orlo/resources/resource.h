@@ -62,6 +62,9 @@
 // A value that a check of the host rejects without a message.
 #define IDS_ENTER_VALUE 138
 
+// Limits of a date: %1 to %2.
+#define IDS_DATE_RANGE 139
+
 // Caption of the property sheet.
 #define IDS_PROPERTIES 2000
 

@@ -248,6 +248,7 @@ TEST_F(FieldPage, InvalidFieldKeepsThePageAndWritesNothing) {
         {FieldKind::Angle, 0, 0, "left", "Please enter a valid angle."},
         {FieldKind::Scale, 0, 0, "0", "Please enter a number from 1e-07 to 10000000."},
         {FieldKind::Date, 0, 0, "13/13/2000", "Please enter a valid date."},
+        {FieldKind::Date, 36526, 36891, "1/1/2001", "Please enter a date from 1/1/2000 to 12/31/2000."},
         {FieldKind::FontHeight, 0, 0, "tall", "Please enter a valid font size."},
         {FieldKind::Text, 0, 3, "long", ""},
     };
