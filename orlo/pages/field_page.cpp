@@ -152,7 +152,9 @@ public:
 
 void FieldPageParts::MakeControls(CWnd& page) {
     for (const auto& field : fields) {
-        for (const std::string& choice : field->row->choices) { // radio buttons ignore it
+        const HWND control = ::GetDlgItem(page.m_hWnd, field->id);
+        if (IsOfClass(control, "Edit")) ::SendMessageA(control, EM_SETLIMITTEXT, 0, 0); // instead of 32 KB
+        for (const std::string& choice : field->row->choices) {                         // radio buttons ignore it
             const std::string item = WithoutMnemonic(choice);
             ::SendDlgItemMessageA(page.m_hWnd, field->id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
         }

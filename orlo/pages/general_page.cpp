@@ -81,6 +81,7 @@ BOOL CGeneralPage::OnInitDialog() {
         for (const int id : styleControls)
             ShowDlgControl(m_hWnd, id, 0);
     }
+    ::SendDlgItemMessageA(m_hWnd, IDC_INFO, EM_SETLIMITTEXT, 0, 0); // instead of 32 KB
     ::SendDlgItemMessageA(m_hWnd, IDC_STYLE_NAME, CB_LIMITTEXT, kLongestStyleName, 0);
     return TRUE;
 }

@@ -402,6 +402,21 @@ TEST_F(FieldPage, MissingFaceIsShown) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
+// An edit control accepts no more than 32 KB by default.
+TEST_F(FieldPage, ALongTextCanBeExtended) {
+    std::string text;
+    for (int line = 0; line < 700; ++line)
+        text += "A line of about fifty characters, with its end.\r\n";
+    Add(text.c_str());
+    SetRow(Row(FieldKind::Lines));
+    RunOk([&](SheetDriver& user) {
+        user.Focus(kField);
+        ::SendMessageA(user.Control(kField), EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
+        user.Key('1');
+    });
+    EXPECT_TRUE(kit[0].Text(kProperty) == text + "1");
+}
+
 TEST_F(FieldPage, RestoredTextIsNotAnEdit) {
     kit.Add({{kProperty, 1.23456789012345}, {kOther, "stays"}});
     SetRow(Row(FieldKind::Number));

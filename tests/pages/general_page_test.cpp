@@ -48,6 +48,20 @@ TEST_F(GeneralPage, KeepsUneditedDifferingValues) {
     EXPECT_EQ(kit.Writes(), 0);
 }
 
+// An edit control accepts no more than 32 KB by default.
+TEST_F(GeneralPage, ALongTextCanBeExtended) {
+    std::string text;
+    for (int line = 0; line < 700; ++line)
+        text += "A line of about fifty characters, with its end.\r\n";
+    Add(walls, text.c_str());
+    RunOk([&](SheetDriver& user) {
+        user.Focus(IDC_INFO);
+        ::SendMessageA(user.Control(IDC_INFO), EM_SETSEL, text.size(), static_cast<LPARAM>(text.size()));
+        user.Key('1');
+    });
+    EXPECT_TRUE(kit[0].Text(kPropInfo) == text + "1");
+}
+
 TEST_F(GeneralPage, OneEditChangesOnePropertyOfAll) {
     Add(walls, "a");
     Add(doors, "b");
