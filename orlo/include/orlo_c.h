@@ -230,6 +230,10 @@ typedef void(ORLO_CALL* OrloWrittenCallback)(void* context, uint32_t changed, ui
 // Called when the user has closed a modeless sheet, or has requested to undo the changes since the last Apply.
 typedef void(ORLO_CALL* OrloSheetCallback)(void* context);
 
+// Sent to the owner's window, with wParam and lParam 0, when the user presses the Help button. The window procedure
+// returns non-zero if it has shown help.
+enum { kOrloHelpMessage = 0x0365 };
+
 typedef struct OrloSheet {
     uint32_t size;                   // sizeof(OrloSheet)
     uint32_t filter;                 // which members of the selection to edit, such as kOrloAllGraphics

@@ -395,6 +395,25 @@ TEST_F(CSheetWindow, CanBeClosedByTheUserAndShownAgain) {
     EXPECT_EQ(closed, 2);
 }
 
+TEST_F(CSheetWindow, TheOwnerIsAskedForHelp) {
+    static int asked;
+    asked = 0;
+    const auto procedure = [](HWND self, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        if (message != kOrloHelpMessage) return ::DefWindowProcA(self, message, wParam, lParam);
+        return ++asked;
+    };
+    ::SetWindowLongPtrA(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(procedure)));
+    user.Click(::GetDlgItem(Sheet(), ID_HELP));
+    EXPECT_EQ(asked, 1) << "the modeless sheet";
+    int32_t code = 0;
+    user.InDialog([&] { OrloRunSheet(&sheet, &code); },
+                  [&](HWND modal) {
+                      user.Click(::GetDlgItem(modal, ID_HELP));
+                      user.Click(::GetDlgItem(modal, IDCANCEL));
+                  });
+    EXPECT_EQ(asked, 2) << "the modal sheet";
+}
+
 TEST_F(CSheetWindow, CloseInvalidatesTheHandle) {
     EXPECT_EQ(OrloSheetClose(handle), kOrloOk);
     EXPECT_FALSE(::IsWindow(window));
