@@ -37,6 +37,10 @@ for name in bin/{afx,drawcore32,orlo}.dll bin/suminfo.exe share/orlo/adapter/dra
     [ "$(stat -c %s "$prefix/$name.debug")" -gt 10000 ] || { echo "$name.debug contains nothing"; exit 1; }
 done
 python3 "$here/check_contents.py" "$prefix"
+if grep -rlF --include=*.{a,debug,dll,exe} "$source/" "$prefix"; then
+    echo "these contain the folder that they were built in"
+    exit 1
+fi
 diff <(sed 1,2d "$prefix/lib/orlo.def" | sort) <(grep ^Orlo "$source/tests/exports/orlo.exports" | sort)
 
 step "the examples by find_package"
