@@ -25,7 +25,7 @@ constexpr std::array kWordings = {
     Wording{std::errc::read_only_file_system, "access is denied, or the file is read-only"},
     Wording{std::errc::is_a_directory, "it is a folder"},
     Wording{std::errc::no_space_on_device, "the disk is full"},
-    Wording{std::errc::file_too_large, "it is larger than the limit for files"},
+    Wording{std::errc::file_too_large, "it exceeds the limit of file sizes"},
     Wording{std::errc::io_error, "the disk is full or failed"},
     Wording{std::errc::device_or_resource_busy, "another program has it open"},
     Wording{std::errc::not_enough_memory, "not enough memory"},

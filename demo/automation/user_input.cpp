@@ -83,7 +83,7 @@ HWND UserInput::Focus() {
         ::SetFocus(m_focus);
     }
     m_focus = ::GetFocus();
-    if (!m_focus) throw std::runtime_error("another program has taken the keyboard");
+    if (!m_focus) throw std::runtime_error("another program has the keyboard focus");
     return m_focus;
 }
 
@@ -193,7 +193,7 @@ void UserInput::InDialogs(const std::function<void()>& open, const std::vector<S
         Wait(kTick);
     dialog.StopTimer();
     if (dialog.thrown) std::rethrow_exception(dialog.thrown);
-    if (dialog.begun < scripts.size()) throw std::runtime_error("no window came up");
+    if (dialog.begun < scripts.size()) throw std::runtime_error("no window appeared");
     Wait(m_pause);
 }
 

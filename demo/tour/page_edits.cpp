@@ -51,7 +51,7 @@ int IndexOfColor(HWND combo, unsigned long color) {
 }
 
 constexpr PageEdit kEdits[] = {
-    {"General", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Seen by the tour"); }},
+    {"General", [](UserInput& user, HWND page) { TypeOver(user, page, IDC_INFO, "Checked on site"); }},
     {"Pen",
      [](UserInput& user, HWND page) {
          const HWND colors = FocusOn(user, page, IDC_COLOR);

@@ -124,7 +124,7 @@ CompoundReader::Structure::Structure(ReadAt read, uint64_t size) : read_(std::mo
     ReadTable();
     const std::vector<Entry> entries = ReadDirectory();
     if (entries.empty() || entries[0].kind != kRoot) {
-        Damaged("the directory: the document has no root");
+        Damaged("the directory: the root storage is missing");
         return;
     }
     ReadShortStreams(entries[0]);

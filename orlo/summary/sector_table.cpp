@@ -13,7 +13,7 @@ const char* InWords(ChainFault fault) {
     case ChainFault::invalidSector:
         return "refers to a sector that does not exist";
     case ChainFault::shared:
-        return "runs into another chain";
+        return "shares a sector with another chain";
     case ChainFault::circular:
         return "is circular";
     case ChainFault::unexpected:

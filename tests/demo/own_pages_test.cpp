@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kLength = CFieldPage::FieldID(0), kCorners = CFieldPage::FieldID(2), kX = CFieldPage::FieldID(3),
+constexpr int kLength = CFieldPage::FieldID(0), kVertices = CFieldPage::FieldID(2), kX = CFieldPage::FieldID(3),
               kGroups = CFieldPage::FieldID(0);
 
 // A line with data of another program.
@@ -40,7 +40,7 @@ protected:
     }
     bool HasPage(const char* title) const { return std::find(titles.begin(), titles.end(), title) != titles.end(); }
     std::vector<GraphicStruct*> Graphics() { return document().Selectable(); }
-    static VertexStruct Corner(GraphicStruct* graphic, int index) {
+    static VertexStruct Vertex(GraphicStruct* graphic, int index) {
         for (const VertexStruct* vertex : orlo::host::Vertices(graphic))
             if (index-- == 0) return *vertex;
         return {};
@@ -54,22 +54,22 @@ TEST_F(OwnPages, TheFirstPointOfSeveralLinesIsMovedAndUndone) {
     const std::vector<uint32_t> before = ViewPixels();
     OnPage(lines, "Geometry", [&](HWND page) {
         EXPECT_EQ(WindowText(::GetDlgItem(page, kLength)), "*****");
-        EXPECT_EQ(WindowText(::GetDlgItem(page, kCorners)), "2");
+        EXPECT_EQ(WindowText(::GetDlgItem(page, kVertices)), "2");
         EXPECT_EQ(WindowText(::GetDlgItem(page, kX)), "*****");
         user.Mnemonic('x');
         EXPECT_EQ(::GetFocus(), ::GetDlgItem(page, kX));
         user.Type("2*4");
     });
     for (GraphicStruct* line : lines) {
-        EXPECT_EQ(Corner(line, 0).x, 8);
-        EXPECT_EQ(Corner(line, 0).y, 5);
+        EXPECT_EQ(Vertex(line, 0).x, 8);
+        EXPECT_EQ(Vertex(line, 0).y, 5);
     }
-    EXPECT_EQ(Corner(lines[1], 1).x, 35);
+    EXPECT_EQ(Vertex(lines[1], 1).x, 35);
     selection().Clear();
     EXPECT_NE(ViewPixels(), before);
     user.Key('Z', UserInput::kControl);
-    EXPECT_EQ(Corner(lines[0], 0).x, 5);
-    EXPECT_EQ(Corner(lines[1], 0).x, 25);
+    EXPECT_EQ(Vertex(lines[0], 0).x, 5);
+    EXPECT_EQ(Vertex(lines[1], 0).x, 25);
 }
 
 TEST_F(OwnPages, ExtendedDataIsShownAsInTheFile) {

@@ -115,7 +115,7 @@ def check_forms():
     expect("a name that begins with a hyphen", done.stdout.startswith(b"./-r.dxf: ") and done.returncode == 0, done)
     expect("an empty array", json.loads(run("get", "none.dxf", "--json").stdout)[0]["file"] == "none.dxf")
     for option, beginning in (("--version", b"dxfprops 1."), ("--man", b".TH DXFPROPS"),
-                              ("--completion", b"# Completion")):
+                              ("--completion", b"# Bash completion")):
         expect(option, run(option).stdout.startswith(beginning), run(option))
     expect("the examples of the manual page", run("--man").stdout.count(b"Examples:") == 1)
     script = run("--completion").stdout.decode()

@@ -234,10 +234,11 @@ TEST_F(SaveExact, SavesTheRestAndListsOmissions) {
     const DxfListener listener = {&recorded, nullptr, RecordedCalls::OnReport};
     ASSERT_EQ(Write(drawing, kSaveRest, &listener), kSaveDoneInPart) << message;
     EXPECT_EQ(Saved(), Replaced(text, "30\n8\n0\n", "30\n8\n0\n62\n1\n"));
-    EXPECT_EQ(recorded.warnings,
-              (std::vector<std::string>{
-                  "0 the file format cannot store a group of graphics",
-                  "49 LWPOLYLINE 2F (line 49): the file format cannot store a polyline that has left its plane"}));
+    EXPECT_EQ(
+        recorded.warnings,
+        (std::vector<std::string>{
+            "0 the file format cannot store a group of graphics",
+            "49 LWPOLYLINE 2F (line 49): the file format cannot store a flat polyline with different elevations"}));
     EXPECT_TRUE(DrawingIsModified(drawing.get())) << "omitted objects are not saved";
     VertexSet(*Vertices(polyline).begin(), 0, 7, 0);
     GraphicDelete(root, group);

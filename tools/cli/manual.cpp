@@ -88,8 +88,8 @@ std::string OptionNames(const CLI::App& app) {
 
 std::string BashCompletion(const CLI::App& app, const CompletedWords& words) {
     const std::string function = "_" + app.get_name();
-    std::string script = "# Completion for bash: source this file, or keep it among bash-completion's.\n" + function +
-                         "() {\n    local current=${COMP_WORDS[COMP_CWORD]} options= words= commands=\"";
+    std::string script = "# Bash completion: source this file, or install it for the package bash-completion.\n" +
+                         function + "() {\n    local current=${COMP_WORDS[COMP_CWORD]} options= words= commands=\"";
     for (const CLI::App* command : CommandsOf(app))
         script += (command == CommandsOf(app).front() ? "" : " ") + command->get_name();
     script += "\"\n    case ${COMP_WORDS[1]} in\n";

@@ -48,7 +48,7 @@ void RequireStorable(const Layer& wanted, const Layer& was, std::string_view ver
     if (wanted.trueColor >= 0 && was.trueColor < 0 && version < "AC1018")
         throw SaveError("a file of this version cannot store the color");
     if ((wanted.lineWeight != was.lineWeight || wanted.plotted != was.plotted) && version < "AC1015")
-        throw SaveError("a file of this version has no line weights and no plotting of layers");
+        throw SaveError("a file of this version cannot store the line weight or plotting of a layer");
 }
 
 } // namespace

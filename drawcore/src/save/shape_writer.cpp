@@ -96,7 +96,7 @@ void AppearanceWriter::MovePolyline(Polyline& polyline, const std::vector<Vec3>&
         return !SameToRounding(point.z, height, std::max(std::fabs(point.x), std::fabs(point.y)));
     };
     if (flat && std::any_of(now.begin(), now.end(), isOff))
-        throw SaveError("the file format cannot store a polyline that has left its plane");
+        throw SaveError("the file format cannot store a flat polyline with different elevations");
     const bool isLight = record_.Groups()[0].value.find("LW") != std::string_view::npos;
     if (isLight) {
         PutReal(38, was[0].z, height, {43, 70, 90});
