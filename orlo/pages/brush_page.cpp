@@ -58,7 +58,7 @@ AngularUnit AngularUnitOf(DrawingStruct* drawing) {
     }
 }
 
-double Turned(double radians, int steps, const AngularUnit& unit) {
+double SteppedAngle(double radians, int steps, const AngularUnit& unit) {
     const double to = std::fmod(radians / unit.radians + steps, unit.turn);
     return (to < 0 ? to + unit.turn : to) * unit.radians;
 }
@@ -144,7 +144,7 @@ void CBrushPage::TurnAngle(int steps) {
         ::MessageBeep(MB_ICONWARNING);
         return;
     }
-    angle = Turned(IsNearlyIndeterminate(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
+    angle = SteppedAngle(IsNearlyIndeterminate(angle) ? 0.0 : angle, steps, AngularUnitOf(drawing));
     DDX_TextAngle(&load, IDC_BRUSH_ANGLE, angle, drawing);
 }
 

@@ -141,10 +141,10 @@ TEST_F(Inserts, MoveTheirMembers) {
         };
         expectBox({10, 10, 40, 34});
         // Scaled by 2, at (100, 0), rotated by 90 degrees.
-        const double turned[4][3] = {{100, 0, 0}, {100, 40, 0}, {60, 0, 0}, {100, 0, flat}};
+        const double rotated[4][3] = {{100, 0, 0}, {100, 40, 0}, {60, 0, 0}, {100, 0, flat}};
         int i = 0;
         for (VertexStruct* corner : orlo::host::Vertices(insert)) {
-            VertexSet(corner, turned[i][0], turned[i][1], turned[i][2]);
+            VertexSet(corner, rotated[i][0], rotated[i][1], rotated[i][2]);
             ++i;
         }
         expectBox({52, 0, 100, 60});

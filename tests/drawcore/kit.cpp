@@ -35,8 +35,8 @@ GraphicStruct* MakeText(const char* text, P at, double height, double angle, dou
 
 GraphicStruct* MakeInsert(TableStruct* blocks, uint16_t block, P at, double sx, double sy, double angle) {
     const OwnedMatrix scaled(MatrixScale(nullptr, OwnedVertex(VertexNewEx(sx, sy, 1)).get(), 0));
-    const OwnedMatrix turned(MatrixRotateZ(scaled.get(), angle, 0));
-    const OwnedMatrix placed(MatrixOffset(turned.get(), OwnedVertex(VertexNewEx(at.x, at.y, 0)).get()));
+    const OwnedMatrix rotated(MatrixRotateZ(scaled.get(), angle, 0));
+    const OwnedMatrix placed(MatrixOffset(rotated.get(), OwnedVertex(VertexNewEx(at.x, at.y, 0)).get()));
     GraphicStruct* insert = GraphicNewEx(kGraphicInsert, 0, 1);
     InsertSetData(insert, blocks, block, placed.get());
     return insert;

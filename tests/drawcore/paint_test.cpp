@@ -283,7 +283,7 @@ TEST_F(Paint, HatchesHaveTheirSpacingAndStayInside) {
     const uint16_t horizontal = TableEntryGetIDFirst(drawing.Table(kTableBrushStyles), nullptr, "Horizontal");
     EXPECT_NEAR(rows(horizontal, 0, 0).first, 8, 1);
     EXPECT_EQ(rows(horizontal, 0, 0).second, 0);
-    EXPECT_NEAR(rows(horizontal, 1.5707963267948966, 0).second, 8, 1) << "turned";
+    EXPECT_NEAR(rows(horizontal, 1.5707963267948966, 0).second, 8, 1) << "rotated";
     EXPECT_NEAR(rows(horizontal, 0, 1).second, 8, 1) << "crossed";
 }
 

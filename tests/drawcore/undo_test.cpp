@@ -120,7 +120,7 @@ TEST_F(Undo, RedoesUntilSomethingElseIsChanged) {
         SetReal(lines[1], kPropPenWidth, 3);
     });
     const uint32_t end = DrawingGetUndoMark(drawing);
-    for (int turn = 0; turn < 2; ++turn) {
+    for (int repetition = 0; repetition < 2; ++repetition) {
         EXPECT_EQ(DrawingUndo(drawing), 2);
         EXPECT_EQ(DrawingGetUndoMark(drawing), middle);
         EXPECT_EQ(DrawingUndo(drawing), 1);

@@ -226,13 +226,13 @@ void ApplyDrawingFault(Graphic& graphic) {
     if (Is("drawn segments filled only") && hasUndrawn) content.brushStyle = kBrushStyleNone;
     if (Is("no line is a line") && content.penStyle == kLineStyleNone) content.penStyle = kLineStyleByLayer;
     if (Is("fillings in the pen color")) content.brushColor = kColorOfPen;
-    if (Is("texts not turned")) content.textAngle = 0;
+    if (Is("texts not rotated")) content.textAngle = 0;
     if (Is("texts of another height")) content.textSize *= 2;
     if (Is("text kept by pointer") && &graphic == textGraphic) content.text = lastText;
     if (Is("hairlines only")) content.penWidth = 0;
     for (VertexStruct& vertex : content.vertices)
         if (Is("all segments drawn")) vertex.wFlags |= kVertexDrawn;
-    if (!Is("insertions not turned") || graphic.bType != kGraphicInsert) return;
+    if (!Is("insertions not rotated") || graphic.bType != kGraphicInsert) return;
     auto& corners = content.vertices;
     for (size_t axis = 1; axis < 4; ++axis)
         Original_VertexSet(&corners[axis], corners[0].x + (axis == 1), corners[0].y + (axis == 2),

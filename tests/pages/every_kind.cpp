@@ -72,10 +72,10 @@ void EveryKind::AddText(int i) {
 void EveryKind::AddInsertion(int i) {
     GraphicStruct* insertion = ::GraphicNewEx(kGraphicInsert, 0, 1);
     const orlo::host::OwnedVertex vertex(::VertexNewEx(5.0 * i, 3, 0));
-    MatrixStruct* turned = ::MatrixRotateZ(nullptr, 0.5 * (i + 1), 0);
-    MatrixStruct* placed = ::MatrixOffset(turned, vertex.get());
+    MatrixStruct* rotated = ::MatrixRotateZ(nullptr, 0.5 * (i + 1), 0);
+    MatrixStruct* placed = ::MatrixOffset(rotated, vertex.get());
     ::InsertSetData(insertion, ::BlocksFromDrawing(m_drawing.Get()), m_block, placed);
-    ::MatrixDispose(&turned);
+    ::MatrixDispose(&rotated);
     ::MatrixDispose(&placed);
     Add(insertion);
 }

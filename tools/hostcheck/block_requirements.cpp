@@ -138,19 +138,19 @@ void FollowsItsVertices(const Subject& s) {
     Require(right == 6, "a block of 2 units, scaled by 3, ends at %g instead of 6", right);
 }
 
-// A rectangle of 6 by 2 units, turned by 90 degrees: from 2, 1 to 4, 7.
+// A rectangle of 6 by 2 units, rotated by 90 degrees: from 2, 1 to 4, 7.
 void TurnsInsertions(const Subject& s) {
     const Block block(s, 6, 2);
     const MatrixStruct matrix = {{{0, 1, 0, 0}, {-1, 0, 0, 0}, {0, 0, 1, 0}, {4, 1, 0, 1}}};
     const auto insertion = block.NewInsertion(&matrix);
     const double right = RightOf(s, insertion.get());
-    Require(std::fabs(right - 4) < 1e-9, "the extents of the turned insertion end at %g instead of 4", right);
+    Require(std::fabs(right - 4) < 1e-9, "the extents of the rotated insertion end at %g instead of 4", right);
     const Measure drawn = Scene(s).Draw(insertion.get()).picture.Of();
     const RECT expected = Scene::Area(2, 1, 4, 7);
     Require(std::fabs(drawn.centerX - (expected.left + expected.right) / 2.0) < Scene::kUnit &&
                 std::fabs(drawn.centerY - (expected.top + expected.bottom) / 2.0) < Scene::kUnit &&
                 drawn.Height() > 2 * drawn.Width(),
-            "a block of 6 by 2 units, turned by 90 degrees, is drawn with %ld by %ld pixels at %g, %g", drawn.Width(),
+            "a block of 6 by 2 units, rotated by 90 degrees, is drawn with %ld by %ld pixels at %g, %g", drawn.Width(),
             drawn.Height(), drawn.centerX, drawn.centerY);
 }
 

@@ -35,13 +35,13 @@ Owned<MatrixStruct> Scaled(const Subject& s, const MatrixStruct* matrix) {
 Owned<MatrixStruct> Moved(const Subject& s, const MatrixStruct* matrix) {
     return s.Own(CALL(s.host, MatrixOffset)(matrix, s.NewVertex(2, 3, 4).get()), "MatrixOffset");
 }
-Owned<MatrixStruct> TurnedAboutX(const Subject& s, const MatrixStruct* matrix) {
+Owned<MatrixStruct> RotatedAboutX(const Subject& s, const MatrixStruct* matrix) {
     return s.Own(CALL(s.host, MatrixRotateX)(matrix, kRightAngle, 0), "MatrixRotateX");
 }
-Owned<MatrixStruct> TurnedAboutY(const Subject& s, const MatrixStruct* matrix) {
+Owned<MatrixStruct> RotatedAboutY(const Subject& s, const MatrixStruct* matrix) {
     return s.Own(CALL(s.host, MatrixRotateY)(matrix, kRightAngle, 0), "MatrixRotateY");
 }
-Owned<MatrixStruct> TurnedAboutZ(const Subject& s, const MatrixStruct* matrix) {
+Owned<MatrixStruct> RotatedAboutZ(const Subject& s, const MatrixStruct* matrix) {
     return s.Own(CALL(s.host, MatrixRotateZ)(matrix, kRightAngle, 0), "MatrixRotateZ");
 }
 
@@ -51,14 +51,14 @@ void Scales(const Subject& s) {
 void Translates(const Subject& s) {
     RequireAt(Transform(*Moved(s, nullptr), {1, 1, 1}), {3, 4, 5});
 }
-void TurnsYToZ(const Subject& s) {
-    RequireAt(Transform(*TurnedAboutX(s, nullptr), {1, 2, 0}), {1, 0, 2});
+void RotatesYToZ(const Subject& s) {
+    RequireAt(Transform(*RotatedAboutX(s, nullptr), {1, 2, 0}), {1, 0, 2});
 }
-void TurnsZToX(const Subject& s) {
-    RequireAt(Transform(*TurnedAboutY(s, nullptr), {0, 1, 2}), {2, 1, 0});
+void RotatesZToX(const Subject& s) {
+    RequireAt(Transform(*RotatedAboutY(s, nullptr), {0, 1, 2}), {2, 1, 0});
 }
-void TurnsXToY(const Subject& s) {
-    RequireAt(Transform(*TurnedAboutZ(s, nullptr), {2, 0, 1}), {0, 2, 1});
+void RotatesXToY(const Subject& s) {
+    RequireAt(Transform(*RotatedAboutZ(s, nullptr), {2, 0, 1}), {0, 2, 1});
 }
 
 // Each function, applied to a matrix that scales x by 5 and translates by 1, 2, 3.
@@ -67,9 +67,9 @@ void AppliesTheGivenMatrixFirst(const Subject& s) {
     const Point from = Transform(given, {1, 1, 1}); // 6, 3, 4
     RequireAt(Transform(*Scaled(s, &given), {1, 1, 1}), {2 * from.x, 3 * from.y, 4 * from.z});
     RequireAt(Transform(*Moved(s, &given), {1, 1, 1}), {from.x + 2, from.y + 3, from.z + 4});
-    RequireAt(Transform(*TurnedAboutX(s, &given), {1, 1, 1}), {from.x, -from.z, from.y});
-    RequireAt(Transform(*TurnedAboutY(s, &given), {1, 1, 1}), {from.z, from.y, -from.x});
-    RequireAt(Transform(*TurnedAboutZ(s, &given), {1, 1, 1}), {-from.y, from.x, from.z});
+    RequireAt(Transform(*RotatedAboutX(s, &given), {1, 1, 1}), {from.x, -from.z, from.y});
+    RequireAt(Transform(*RotatedAboutY(s, &given), {1, 1, 1}), {from.z, from.y, -from.x});
+    RequireAt(Transform(*RotatedAboutZ(s, &given), {1, 1, 1}), {-from.y, from.x, from.z});
 }
 
 void KeepsTheGivenMatrix(const Subject& s) {
@@ -77,9 +77,9 @@ void KeepsTheGivenMatrix(const Subject& s) {
     const std::pair<const char*, Owned<MatrixStruct> (*)(const Subject&, const MatrixStruct*)> functions[] = {
         {"MatrixScale", Scaled},
         {"MatrixOffset", Moved},
-        {"MatrixRotateX", TurnedAboutX},
-        {"MatrixRotateY", TurnedAboutY},
-        {"MatrixRotateZ", TurnedAboutZ}};
+        {"MatrixRotateX", RotatedAboutX},
+        {"MatrixRotateY", RotatedAboutY},
+        {"MatrixRotateZ", RotatedAboutZ}};
     Violations violations;
     for (const auto& [name, function] : functions)
         violations.Collect([&, name = name, function = function] {
@@ -100,9 +100,9 @@ void ClearsThePointer(const Subject& s) {
 constexpr Requirement kRows[] = {
     {"MatrixScale", "scales along the axes; null is the identity", Scales},
     {"MatrixOffset", "translates; row 3 contains the translation", Translates},
-    {"MatrixRotateX", "turns y to z for a positive angle in radians", TurnsYToZ},
-    {"MatrixRotateY", "turns z to x for a positive angle in radians", TurnsZToX},
-    {"MatrixRotateZ", "turns x to y for a positive angle in radians", TurnsXToY},
+    {"MatrixRotateX", "rotates y to z for a positive angle in radians", RotatesYToZ},
+    {"MatrixRotateY", "rotates z to x for a positive angle in radians", RotatesZToX},
+    {"MatrixRotateZ", "rotates x to y for a positive angle in radians", RotatesXToY},
     {"MatrixScale", "and the others return a matrix that first applies the given one", AppliesTheGivenMatrixFirst},
     {"MatrixOffset", "and the others do not change the given matrix", KeepsTheGivenMatrix},
     {"MatrixDispose", "sets the pointer to null", ClearsThePointer},

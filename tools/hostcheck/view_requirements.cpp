@@ -176,7 +176,7 @@ void DrawsHatches(const Subject& s) {
     }
 }
 
-// Draws a red text with capital letters that are three units high, at 1, 2 or, turned by 90 degrees, at 5, 1.
+// Draws a red text with capital letters that are three units high, at 1, 2 or, rotated by 90 degrees, at 5, 1.
 Measure DrawText(const Subject& s, bool isTurned) {
     const auto text = s.NewGraphic(kGraphicText);
     CALL(s.host, GraphicAttach)(text.get(), s.Drawing());

@@ -15,7 +15,7 @@ using Family = Hatch::PatternLine;
 constexpr size_t kMaxLines = 256; // far more than in the largest real patterns
 constexpr size_t kMaxDashes = 64;
 
-Vec3 Turned(const Vec3& p, double angle, double scale) {
+Vec3 RotatedAndScaled(const Vec3& p, double angle, double scale) {
     const double c = std::cos(angle) * scale, s = std::sin(angle) * scale;
     return {p.x * c - p.y * s, p.x * s + p.y * c, 0};
 }
@@ -26,8 +26,8 @@ std::vector<Family> NormalLines(const Hatch& hatch, double scale, double angle) 
     for (const Family& from : hatch.lines) {
         Family& line = lines.emplace_back();
         line.angle = from.angle - drawcore::Degrees(angle);
-        line.base = Turned(from.base - hatch.lines[0].base, -angle, 1 / scale);
-        line.offset = Turned(from.offset, -angle, 1 / scale);
+        line.base = RotatedAndScaled(from.base - hatch.lines[0].base, -angle, 1 / scale);
+        line.offset = RotatedAndScaled(from.offset, -angle, 1 / scale);
         for (const double dash : from.dashes)
             line.dashes.push_back(dash / scale);
     }
@@ -88,8 +88,8 @@ std::vector<Family> PlacedLines(const std::vector<Family>& lines, double scale, 
     for (const Family& from : lines) {
         Family& line = placed.emplace_back();
         line.angle = from.angle + drawcore::Degrees(angle);
-        line.base = base + Turned(from.base - lines[0].base, angle, scale);
-        line.offset = Turned(from.offset, angle, scale);
+        line.base = base + RotatedAndScaled(from.base - lines[0].base, angle, scale);
+        line.offset = RotatedAndScaled(from.offset, angle, scale);
         for (const double dash : from.dashes)
             line.dashes.push_back(dash * scale);
     }

@@ -115,7 +115,8 @@ std::optional<AxisEnds> ExtendedAxisEnds(const Entity& entity) {
 
 // Returns the placement with a nonzero z axis, since many files have insertions with a z scale of 0.
 Matrix Solid(const Matrix& placement) {
-    const Vec3 x = placement.Turn({1, 0, 0}), y = placement.Turn({0, 1, 0}), z = placement.Turn({0, 0, 1});
+    const Vec3 x = placement.ApplyToVector({1, 0, 0}), y = placement.ApplyToVector({0, 1, 0}),
+               z = placement.ApplyToVector({0, 0, 1});
     return Length(z) > 0 ? placement : Matrix::FromAxes(x, y, Normalized(Cross(x, y)), placement.Apply({}));
 }
 
@@ -155,9 +156,9 @@ double RoundingAt(const Vec3& point) {
 
 bool HaveSameAxes(const Matrix& a, const Matrix& b) {
     for (const Vec3& axis : {Vec3{1, 0, 0}, Vec3{0, 1, 0}, Vec3{0, 0, 1}}) {
-        const Vec3 length = a.Turn(axis);
+        const Vec3 length = a.ApplyToVector(axis);
         const double rounding = std::max({RoundingAt(a.Apply({})), RoundingAt(b.Apply({})), RoundingAt(length)});
-        const Vec3 difference = b.Turn(axis) - length;
+        const Vec3 difference = b.ApplyToVector(axis) - length;
         if (Length(difference) > rounding) return false;
     }
     return true;

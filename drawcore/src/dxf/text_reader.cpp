@@ -104,7 +104,7 @@ void EntityReader::ReadMText(Entity& entity) {
             SetCommon(entity);
         }
     }
-    if (angle) text.direction = ObjectSystem(entity.normal).Turn({std::cos(*angle), std::sin(*angle), 0});
+    if (angle) text.direction = ObjectSystem(entity.normal).ApplyToVector({std::cos(*angle), std::sin(*angle), 0});
     text.text = in_.decoder.Decode(bytes);
     text.attachment = std::clamp(text.attachment, 1, 9);
 }

@@ -86,9 +86,9 @@ dxf::Shape ShapeOf(EllipseArc arc, Vec3& normal) {
     }
     const double length = Length(arc.major), across = Length(arc.minor);
     const bool isLevel = arc.major.z == 0 && arc.minor.z == 0;
-    const double turned = arc.major.x * arc.minor.y - arc.major.y * arc.minor.x;
+    const double orientation = arc.major.x * arc.minor.y - arc.major.y * arc.minor.x;
     const bool isCircle = Near(length, across) && Near(Dot(arc.major, arc.minor) + length * across, length * across);
-    if (isCircle && isLevel && turned > 0) {
+    if (isCircle && isLevel && orientation > 0) {
         if (arc.IsFullTurn()) return dxf::Circle{arc.center, length};
         const double start = std::atan2(arc.major.y, arc.major.x) + arc.start;
         return dxf::Arc{arc.center, length, Degrees(start), Degrees(start + arc.sweep)};

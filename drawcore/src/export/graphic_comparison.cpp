@@ -78,8 +78,8 @@ const char* DifferentText(const Graphic& a, const Graphic& b, bool calculated) {
     if (a.Parent() && a.Parent()->FindMotion(motion)) {
         calculated = true;
         one.position = motion.Apply(one.position);
-        one.along = Normalized(motion.Turn(one.along));
-        one.up = Normalized(motion.Turn(one.up));
+        one.along = Normalized(motion.ApplyToVector(one.along));
+        one.up = Normalized(motion.ApplyToVector(one.up));
         one.widthFactor = other.widthFactor; // derived from the width
     }
     const bool samePlace = SamePlace(one.position, other.position, calculated) && dxf::Near(one.along, other.along) &&
@@ -187,7 +187,7 @@ double DisplayedHeight(const Graphic& text) {
     const TextState& state = static_cast<const TextGraphic&>(text).state;
     Matrix motion;
     if (!text.Parent() || !text.Parent()->FindMotion(motion)) return state.height;
-    const Vec3 up = motion.Turn(state.up);
+    const Vec3 up = motion.ApplyToVector(state.up);
     return up == state.up ? state.height : state.height * Length(up);
 }
 

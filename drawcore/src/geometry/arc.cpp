@@ -14,7 +14,7 @@ Vec3 EllipseArc::At(double t) const {
 }
 
 EllipseArc EllipseArc::Transformed(const Matrix& matrix) const {
-    return {matrix.Apply(center), matrix.Turn(major), matrix.Turn(minor), start, sweep};
+    return {matrix.Apply(center), matrix.ApplyToVector(major), matrix.ApplyToVector(minor), start, sweep};
 }
 
 EllipseArc CircleArc(const Vec3& center, double radius, double start, double sweep) {

@@ -28,7 +28,7 @@ double ParameterAt(double low, double high, int step, int steps) {
 void FlattenArc(const EllipseArc& original, const Matrix& matrix, double tolerance, Path& path) {
     EllipseArc arc = original;
     arc.start = std::fmod(original.start, 2 * kPi); // equivalent modulo a full turn, but keeps all digits
-    const Vec3 u = matrix.Turn(arc.major), v = matrix.Turn(arc.minor);
+    const Vec3 u = matrix.ApplyToVector(arc.major), v = matrix.ApplyToVector(arc.minor);
     const double radius = std::max(std::hypot(u.x, u.y), std::hypot(v.x, v.y));
     const double sweep = arc.sweep;
     if (!std::isfinite(radius) || !std::isfinite(sweep) || std::fabs(sweep) > 4 * kPi) return;

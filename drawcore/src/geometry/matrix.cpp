@@ -30,11 +30,11 @@ Matrix Matrix::FromAxes(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3&
 }
 
 Vec3 Matrix::Apply(const Vec3& p) const {
-    const Vec3 turned = Turn(p);
-    return {turned.x + at[3][0], turned.y + at[3][1], turned.z + at[3][2]};
+    const Vec3 vector = ApplyToVector(p);
+    return {vector.x + at[3][0], vector.y + at[3][1], vector.z + at[3][2]};
 }
 
-Vec3 Matrix::Turn(const Vec3& v) const {
+Vec3 Matrix::ApplyToVector(const Vec3& v) const {
     return {v.x * at[0][0] + v.y * at[1][0] + v.z * at[2][0], v.x * at[0][1] + v.y * at[1][1] + v.z * at[2][1],
             v.x * at[0][2] + v.y * at[1][2] + v.z * at[2][2]};
 }
@@ -50,7 +50,7 @@ bool Matrix::Invert(Matrix& inverse) const {
         back.at[1][c] = columns[c].y / volume;
         back.at[2][c] = columns[c].z / volume;
     }
-    const Vec3 origin = back.Turn({at[3][0], at[3][1], at[3][2]});
+    const Vec3 origin = back.ApplyToVector({at[3][0], at[3][1], at[3][2]});
     inverse = back * Translation(origin * -1);
     return true;
 }

@@ -15,8 +15,8 @@ struct Matrix {
     // Returns the matrix that maps the x, y and z axes to these vectors and the origin to that point.
     static Matrix FromAxes(const Vec3& x, const Vec3& y, const Vec3& z, const Vec3& origin);
 
-    Vec3 Apply(const Vec3& p) const; // transforms a point
-    Vec3 Turn(const Vec3& v) const;  // transforms a vector, without translation
+    Vec3 Apply(const Vec3& p) const;         // transforms a point
+    Vec3 ApplyToVector(const Vec3& v) const; // transforms a vector, without translation
     // Transforms a point and drops its z coordinate.
     Point Plan(const Vec3& p) const {
         return {p.x * at[0][0] + p.y * at[1][0] + p.z * at[2][0] + at[3][0],

@@ -104,8 +104,8 @@ InsertArray InsertGraphic::MovedArray() const {
     InsertArray moved = Array();
     Matrix motion;
     if (!moved.IsOne() && FindMotion(motion)) {
-        moved.columnStep = motion.Turn(moved.columnStep);
-        moved.rowStep = motion.Turn(moved.rowStep);
+        moved.columnStep = motion.ApplyToVector(moved.columnStep);
+        moved.rowStep = motion.ApplyToVector(moved.rowStep);
     }
     return moved;
 }

@@ -139,7 +139,7 @@ void UndoLog::EnforceLimit() {
     }
 }
 
-int UndoLog::Turn(std::deque<Step>& from, std::deque<Step>& to) {
+int UndoLog::RestoreStep(std::deque<Step>& from, std::deque<Step>& to) {
     NotifyListener();
     Step& step = from.back();
     to.push_back(step.CurrentState());
@@ -151,14 +151,14 @@ int UndoLog::Turn(std::deque<Step>& from, std::deque<Step>& to) {
 
 int UndoLog::Undo() {
     if (open_ || steps_.empty()) return 0;
-    const int restored = Turn(steps_, undone_);
+    const int restored = RestoreStep(steps_, undone_);
     EnforceLimit();
     return restored;
 }
 
 int UndoLog::Redo() {
     if (open_ || undone_.empty()) return 0;
-    const int restored = Turn(undone_, steps_);
+    const int restored = RestoreStep(undone_, steps_);
     EnforceLimit();
     return restored;
 }

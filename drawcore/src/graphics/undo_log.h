@@ -70,7 +70,7 @@ private:
     Saved* InOpenStep(const Graphic& graphic);
     void AddToStep(Graphic& graphic); // adds it to the open step
     void NotifyListener() const;
-    int Turn(std::deque<Step>& from, std::deque<Step>& to);
+    int RestoreStep(std::deque<Step>& from, std::deque<Step>& to);
     void EnforceLimit();
 
     std::deque<Step> steps_;

@@ -172,10 +172,11 @@ private:
 std::unique_ptr<Graphic> EntityImport::MakeInsert(const dxf::Entity& entity, const dxf::Insert& insert) {
     const Id block = insert.block == dxf::BlockIndex::none ? kNoId : tables_.blocks[static_cast<size_t>(insert.block)];
     if (!block) return nullptr;
-    const Matrix turned = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
+    const Matrix rotated = Matrix::RotationZ(Radians(insert.rotation)) * dxf::ObjectSystem(entity.normal);
     auto graphic = std::make_unique<InsertGraphic>(block, dxf::AxisEndsOf(entity));
     graphic->SetArray({static_cast<int>(insert.columns), static_cast<int>(insert.rows),
-                       turned.Turn({insert.columnSpacing, 0, 0}), turned.Turn({0, insert.rowSpacing, 0})});
+                       rotated.ApplyToVector({insert.columnSpacing, 0, 0}),
+                       rotated.ApplyToVector({0, insert.rowSpacing, 0})});
     return graphic;
 }
 

@@ -49,8 +49,8 @@ void Place(const dxf::Entity& entity, const dxf::Text& text, TextState& state) {
     const double backward = text.backward ? -1 : 1, upsideDown = text.upsideDown ? -1 : 1;
     const double up = angle + kPi / 2 - slant;
     state.position = system.Apply(byAlignment ? text.alignment : text.insertion);
-    state.along = system.Turn({std::cos(angle), std::sin(angle), 0}) * backward;
-    state.up = system.Turn({std::cos(up), std::sin(up), 0}) * upsideDown;
+    state.along = system.ApplyToVector({std::cos(angle), std::sin(angle), 0}) * backward;
+    state.up = system.ApplyToVector({std::cos(up), std::sin(up), 0}) * upsideDown;
 }
 
 } // namespace
@@ -88,7 +88,7 @@ std::unique_ptr<TextGraphic> ImportText(const dxf::Entity& entity, const dxf::MT
     constexpr TextAnchor kAnchors[] = {TextAnchor::Top, TextAnchor::Middle, TextAnchor::Bottom};
     state.anchor = kAnchors[(text.attachment - 1) / 3];
     state.position = text.insertion;
-    const Vec3 along = text.direction, normal = dxf::ObjectSystem(entity.normal).Turn({0, 0, 1});
+    const Vec3 along = text.direction, normal = dxf::ObjectSystem(entity.normal).ApplyToVector({0, 0, 1});
     state.along = Length(along) > 0 ? Normalized(along) : Vec3{1, 0, 0};
     state.up = Normalized(Cross(normal, state.along));
     return graphic;

@@ -28,12 +28,12 @@ Point Plan(const Vec3& v) {
 bool MakeFamily(const PatternLine& line, const BrushUse& brush, bool crossed, Family& family) {
     constexpr double kRightAngle = 1.5707963267948966;
     const Matrix matrix = (crossed ? Matrix::RotationZ(kRightAngle) : Matrix()) * brush.pattern;
-    const Vec3 along = matrix.Turn({std::cos(line.angle), std::sin(line.angle), 0});
+    const Vec3 along = matrix.ApplyToVector({std::cos(line.angle), std::sin(line.angle), 0});
     const double length = std::hypot(along.x, along.y);
     if (!std::isfinite(length) || length <= 0) return false;
     family.base = matrix.Plan({line.base.x, line.base.y, 0});
     family.along = {along.x / length, along.y / length};
-    family.step = Plan(matrix.Turn({line.offset.x, line.offset.y, 0}));
+    family.step = Plan(matrix.ApplyToVector({line.offset.x, line.offset.y, 0}));
     family.spacing = family.step.y * family.along.x - family.step.x * family.along.y;
     family.dashScale = length;
     family.dashes = &line.dashes;

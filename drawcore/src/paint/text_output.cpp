@@ -25,8 +25,8 @@ XFORM Directions(const TextRow& row) {
 // row is seen edge-on or is too far away for the device.
 bool Place(const TextRow& row, XFORM& form, POINT& position) {
     const double x = std::floor(row.matrix.at[3][0] + 0.5), y = std::floor(row.matrix.at[3][1] + 0.5);
-    const double turn = static_cast<double>(form.eM11) * form.eM22 - static_cast<double>(form.eM12) * form.eM21;
-    const double px = (x * form.eM22 - y * form.eM21) / turn, py = (y * form.eM11 - x * form.eM12) / turn;
+    const double determinant = static_cast<double>(form.eM11) * form.eM22 - static_cast<double>(form.eM12) * form.eM21;
+    const double px = (x * form.eM22 - y * form.eM21) / determinant, py = (y * form.eM11 - x * form.eM12) / determinant;
     constexpr double kFarthest = 1 << 26; // limit of device coordinates
     if (!(std::fabs(px) < kFarthest && std::fabs(py) < kFarthest)) return false;
     position = {static_cast<LONG>(std::lround(px)), static_cast<LONG>(std::lround(py))};

@@ -27,7 +27,7 @@ double Clean(double number, double rounding) {
 constexpr double kDegrees = drawcore::Degrees(1); // of a radian
 
 // Returns the new angle in degrees, or the old one if they differ only by whole turns.
-double Turned(double was, double now, double rounding) {
+double ChangedAngle(double was, double now, double rounding) {
     return std::fabs(std::remainder(now - was, 360)) <= rounding ? was : now;
 }
 
@@ -38,7 +38,8 @@ Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& plac
     Insert placed;
     Matrix back;
     if (!ObjectSystem(normal).Invert(back)) return placed;
-    const Vec3 x = back.Turn(placement.Turn({1, 0, 0})), y = back.Turn(placement.Turn({0, 1, 0}));
+    const Vec3 x = back.ApplyToVector(placement.ApplyToVector({1, 0, 0})),
+               y = back.ApplyToVector(placement.ApplyToVector({0, 1, 0}));
     const double old = Radians(insert.rotation);
     const bool mirrors = (x.x * y.y - x.y * y.x < 0) != (insert.scaleX * insert.scaleY < 0);
     double sign = insert.scaleX < 0 ? -1 : 1;
@@ -51,8 +52,9 @@ Insert PlacedInsert(const Vec3& normal, const Insert& insert, const Matrix& plac
     };
     placed.scaleX = number(insert.scaleX, x.x * std::cos(angle) + x.y * std::sin(angle), 1);
     placed.scaleY = number(insert.scaleY, y.y * std::cos(angle) - y.x * std::sin(angle), 1);
-    placed.scaleZ = number(insert.scaleZ, back.Turn(placement.Turn({0, 0, 1})).z, 1);
-    placed.rotation = Turned(insert.rotation, number(insert.rotation, angle * kDegrees, kDegrees), rounding * kDegrees);
+    placed.scaleZ = number(insert.scaleZ, back.ApplyToVector(placement.ApplyToVector({0, 0, 1})).z, 1);
+    placed.rotation =
+        ChangedAngle(insert.rotation, number(insert.rotation, angle * kDegrees, kDegrees), rounding * kDegrees);
     placed.at = back.Apply(placement.Apply({}));
     return placed;
 }
@@ -65,8 +67,8 @@ Matrix MatrixOf(const Vec3& normal, const Insert& insert) {
 
 // Returns the normal of the placed block's plane, on the side that preserves the sign of the z scale.
 Vec3 NormalOf(const Matrix& placement, const Insert& insert) {
-    const Vec3 z = placement.Turn({0, 0, 1});
-    const Vec3 normal = Normalized(Cross(placement.Turn({1, 0, 0}), placement.Turn({0, 1, 0})));
+    const Vec3 z = placement.ApplyToVector({0, 0, 1});
+    const Vec3 normal = Normalized(Cross(placement.ApplyToVector({1, 0, 0}), placement.ApplyToVector({0, 1, 0})));
     return normal * (Dot(normal, z) * insert.scaleZ < 0 ? -1 : 1);
 }
 
@@ -101,7 +103,7 @@ void AppearanceWriter::PutPlacement(Insert& insert, const Matrix& placement, con
     const bool isTable = record_.Groups()[0].value.find("TABLE") != std::string_view::npos;
     Vec3 normal = entity_.normal;
     Insert placed = PlacedInsert(normal, numbers, placement);
-    if (!isTable && !IsSamePlacement(MatrixOf(normal, placed), placement)) { // the block has left its plane
+    if (!isTable && !IsSamePlacement(MatrixOf(normal, placed), placement)) { // not in the plane of the insertion
         const Vec3 tilted = NormalOf(placement, numbers);
         Insert other = PlacedInsert(tilted, numbers, placement);
         if (IsSamePlacement(MatrixOf(tilted, other), placement)) {
@@ -128,7 +130,7 @@ void AppearanceWriter::PutPlacement(Insert& insert, const Matrix& placement, con
 void AppearanceWriter::MoveArray(Insert& insert, const Matrix& moved) {
     const Matrix axes = AxesOf(entity_, insert);
     const auto step = [&](int code, double& spacing, const Vec3& axis) {
-        const Vec3 now = moved.Turn(axis * spacing), along = axes.Turn(axis);
+        const Vec3 now = moved.ApplyToVector(axis * spacing), along = axes.ApplyToVector(axis);
         const double rounding = RoundingAt(insert.at);
         double length = Dot(now, along);
         if (Length(along * length - now) > rounding * std::max(1.0, Length(now)))

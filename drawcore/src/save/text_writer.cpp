@@ -29,9 +29,9 @@ double AngleOf(const Vec3& v) {
 }
 
 // Keeps the old number for an angle that differs only by rounding and full turns.
-double TurnedTo(double was, double now) {
-    const double turned = std::remainder(now - was, 360);
-    return SameToRounding(turned, 0, 360) ? was : std::remainder(now, 360);
+double ChangedAngle(double was, double now) {
+    const double rotation = std::remainder(now - was, 360);
+    return SameToRounding(rotation, 0, 360) ? was : std::remainder(now, 360);
 }
 
 Vec3 Direction(double radians) {
@@ -191,10 +191,11 @@ void AppearanceWriter::Move(const Matrix& motion) {
     Text& text = *As<Text>(entity_);
     const Matrix system = ObjectSystem(entity_.normal);
     const double angle = Radians(text.rotation), up = angle + kPi / 2 - Radians(text.oblique);
-    Vec3 along = motion.Turn(system.Turn(Direction(angle))), rise = motion.Turn(system.Turn(Direction(up)));
+    Vec3 along = motion.ApplyToVector(system.ApplyToVector(Direction(angle))),
+         rise = motion.ApplyToVector(system.ApplyToVector(Direction(up)));
     const Vec3 insertion = motion.Apply(system.Apply(text.insertion));
     const Vec3 alignment = motion.Apply(system.Apply(text.alignment));
-    const Vec3 old = system.Turn({0, 0, 1}), across = Normalized(Cross(along, rise));
+    const Vec3 old = system.ApplyToVector({0, 0, 1}), across = Normalized(Cross(along, rise));
     const double front = Dot(across, old);
     const Vec3 normal = across * (front < 0 ? -1 : 1);
     const bool tilted = Length(normal) > 0 && !Near(std::fabs(front), 1);
@@ -204,8 +205,8 @@ void AppearanceWriter::Move(const Matrix& motion) {
     text.insertion = back.Apply(insertion);
     const bool isInUse = !IsPlacedByInsertion(text) || record_.Find(11);
     if (isInUse) text.alignment = back.Apply(alignment);
-    along = back.Turn(along);
-    rise = back.Turn(rise);
+    along = back.ApplyToVector(along);
+    rise = back.ApplyToVector(rise);
     const double length = Length(along), height = Length(rise);
     if (!(length > 0) || !(height > 0)) return;
     if (Cross(along, rise).z < 0) {
@@ -215,8 +216,8 @@ void AppearanceWriter::Move(const Matrix& motion) {
     if (!SameToRounding(height, 1, 1)) text.height *= height;
     if (!SameToRounding(length, height, 1))
         text.widthFactor = (text.widthFactor > 0 ? text.widthFactor : 1) * length / height;
-    text.rotation = TurnedTo(text.rotation, RoundedDegrees(AngleOf(along)));
-    text.oblique = TurnedTo(text.oblique, RoundedDegrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
+    text.rotation = ChangedAngle(text.rotation, RoundedDegrees(AngleOf(along)));
+    text.oblique = ChangedAngle(text.oblique, RoundedDegrees(kPi / 2 - (AngleOf(rise) - AngleOf(along))));
 }
 
 void AppearanceWriter::PutReal(int code, double was, double now, std::initializer_list<int> after) {
