@@ -73,7 +73,7 @@ void Restructure(const char* from, const char* to, bool adds) {
         patch.Remove(document.entities[i].offset);
     dxf::Block block;
     block.name = "New block";
-    block.own = {{dxf::kExtendedStyleTree, "a tree", {}}};
+    block.extended = {{dxf::kExtendedStyleTree, "a tree", {}}};
     block.entities = OneOfEach(document.header.version);
     if (adds) patch.AddBlock(block);
     std::vector<Entity> added;
