@@ -56,10 +56,10 @@ private:
     OrloValue m_record;
 };
 
-// With the message of a table that has an invalid row.
-[[noreturn]] void RefuseField(uint32_t index, const OrloField& field, const std::string& why) {
+// Throws kOrloBadArgument with a message in the form that CFieldPage uses for an invalid row.
+[[noreturn]] void RejectField(uint32_t index, const OrloField& field, const std::string& reason) {
     const char* label = field.label != nullptr ? field.label : "";
-    ThrowError(kOrloBadArgument, ("row " + std::to_string(index) + " (\"" + label + "\"): " + why).c_str());
+    ThrowError(kOrloBadArgument, ("row " + std::to_string(index) + " (\"" + label + "\"): " + reason).c_str());
 }
 
 void SetAccess(FieldRow& row, const OrloPage& page, uint32_t index) {
@@ -93,7 +93,7 @@ FieldRow RowOf(const OrloPage& page, const OrloField& field, uint32_t index) {
     row.group = ToSystemText(field.group);
     row.unit = ToSystemText(field.unit);
     row.help = ToSystemText(field.help);
-    if (field.choiceCount > 0 && field.choices == nullptr) RefuseField(index, field, "the array of choices is null");
+    if (field.choiceCount > 0 && field.choices == nullptr) RejectField(index, field, "the array of choices is null");
     for (uint32_t i = 0; i < field.choiceCount; ++i)
         row.choices.push_back(ToSystemText(field.choices[i]));
     row.min = field.min;
@@ -101,7 +101,7 @@ FieldRow RowOf(const OrloPage& page, const OrloField& field, uint32_t index) {
     row.readOnly = (field.flags & kOrloFieldReadOnly) != 0;
     row.inPreview = (field.flags & kOrloFieldInPreview) != 0;
     if (field.flags & kOrloFieldByCallback) {
-        if (page.get == nullptr) RefuseField(index, field, "it is read by a callback, but the page has none");
+        if (page.get == nullptr) RejectField(index, field, "it is read by a callback, but the page has none");
         SetAccess(row, page, index);
     }
     if (page.check != nullptr) SetCheck(row, page, index);

@@ -32,7 +32,7 @@ struct Place {
     short x, y, cx, cy;
 };
 
-// The classes with a number in templates, from 0x80.
+// The window classes that templates store as a number, from 0x80.
 std::wstring PredefinedClass(WORD number) {
     static constexpr const wchar_t* kNames[] = {L"Button", L"Edit", L"Static", L"ListBox", L"ScrollBar", L"ComboBox"};
     constexpr WORD kFirst = 0x80;

@@ -11,7 +11,7 @@
 //   if (pane.Apply()) { ...; pane.Follow(); }                   // before and after another selection
 //
 // A page writes its values when the user presses Apply or selects another page. If it rejects one, it informs the user
-// in a message box; meanwhile, the pane is busy: Follow and Renew take effect afterwards, and its other functions and
+// in a message box; meanwhile, the pane is busy: Follow and Renew take effect afterward, and its other functions and
 // its buttons have no effect.
 #pragma once
 

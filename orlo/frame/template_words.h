@@ -1,4 +1,4 @@
-// Reads a dialog template word by word, without going beyond its end.
+// Reads a dialog template word by word, but not beyond its end.
 #pragma once
 
 #include <cstring>
@@ -9,7 +9,7 @@ class TemplateWords {
 public:
     TemplateWords(const void* start, size_t size) : m_next(static_cast<const char*>(start)), m_left(size) {}
 
-    // Each function returns false if the template ends before.
+    // Each function returns false if the template ends first.
     template <class Value>
     bool Read(Value& value) {
         if (m_left < sizeof value) return false;
@@ -32,7 +32,7 @@ public:
         return false;
     }
 
-    // Reads a name, or a number; the other one is left empty or 0.
+    // Reads a name or a number. The other one is set to an empty string or 0.
     bool ReadNameOrNumber(std::wstring& name, WORD& number) {
         constexpr WORD kNumber = 0xFFFF; // marks a number in place of a name
         name.clear();
