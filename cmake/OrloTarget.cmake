@@ -14,7 +14,7 @@ function(orlo_compile_options target)
     # Line tables only, which suffice for backtraces; variables would take up to half of the compile time. Wine's
     # debugger requires DWARF 4.
     target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:SHELL:-gdwarf-4 -g1>)
-    # The package must not depend on the folder that it is built in.
+    # Debug data does not name the folder of the build.
     target_compile_options(${target} PRIVATE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
                            -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
   endif()
