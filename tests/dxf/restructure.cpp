@@ -85,7 +85,7 @@ void Restructure(const char* from, const char* to, bool adds) {
         patch.Add(entity, nullptr);
     std::ofstream(to, std::ios::binary) << patch.Finish();
     for (const dxf::ReferenceRemoval::BlockingReference& blocking : patch.BlockingReferences())
-        throw std::runtime_error("the entity at " + std::to_string(blocking.objectOffset) + ": " + blocking.why);
+        throw std::runtime_error("the entity at " + std::to_string(blocking.objectOffset) + ": " + blocking.reason);
     std::cout << document.entities.size() - removed + added.size() << " " << block.entities.size() << "\n";
 }
 

@@ -8,28 +8,28 @@
 
 namespace drawcore {
 
-void OmittedObjects::Add(const Graphic& graphic, const std::string& why) {
+void OmittedObjects::Add(const Graphic& graphic, const std::string& reason) {
     if (!graphics_.insert(&graphic).second) return;
     const std::string block = BlockOf(graphic);
     if (graphic.source == Graphic::kNoSource) {
-        warnings_.push_back({0, (block.empty() ? "" : NameOfBlock(block) + ": ") + why});
+        warnings_.push_back({0, (block.empty() ? "" : NameOfBlock(block) + ": ") + reason});
         return;
     }
-    AddRecord(graphic.source, block, why);
+    AddRecord(graphic.source, block, reason);
 }
 
-void OmittedObjects::AddRemoved(uint32_t offset, const std::string& why) {
-    if (removed_.insert(offset).second) AddRecord(offset, {}, why);
+void OmittedObjects::AddRemoved(uint32_t offset, const std::string& reason) {
+    if (removed_.insert(offset).second) AddRecord(offset, {}, reason);
 }
 
-void OmittedObjects::AddRecord(uint32_t offset, const std::string& block, const std::string& why) {
+void OmittedObjects::AddRecord(uint32_t offset, const std::string& block, const std::string& reason) {
     dxf::RecordName name = dxf::NameOfRecord(dxf::TextOf(drawing_.source->bytes), offset);
     name.block = block;
-    warnings_.push_back({name.line, name.Text() + ": " + why});
+    warnings_.push_back({name.line, name.Text() + ": " + reason});
 }
 
-void OmittedObjects::Add(const std::string& what, const std::string& why) {
-    if (others_.insert(what).second) warnings_.push_back({0, what + ": " + why});
+void OmittedObjects::Add(const std::string& what, const std::string& reason) {
+    if (others_.insert(what).second) warnings_.push_back({0, what + ": " + reason});
 }
 
 std::string OmittedObjects::BlockOf(const Graphic& graphic) const {

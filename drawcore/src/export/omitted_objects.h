@@ -19,13 +19,13 @@ public:
     explicit OmittedObjects(const Drawing& drawing) : drawing_(drawing) {}
 
     // Adds a graphic: an existing record is kept, a new graphic gets none.
-    void Add(const Graphic& graphic, const std::string& why);
+    void Add(const Graphic& graphic, const std::string& reason);
     bool Has(const Graphic& graphic) const { return graphics_.count(&graphic) != 0; }
     // Adds a record that is kept although its graphic was removed.
-    void AddRemoved(uint32_t offset, const std::string& why);
+    void AddRemoved(uint32_t offset, const std::string& reason);
     const std::set<uint32_t>& Removed() const { return removed_; }
     // Adds anything else, by name.
-    void Add(const std::string& what, const std::string& why);
+    void Add(const std::string& what, const std::string& reason);
     bool Has(const std::string& what) const { return others_.count(what) != 0; }
 
     static std::string NameOfBlock(const std::string& name) { return "block \"" + name + "\""; }
@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    void AddRecord(uint32_t offset, const std::string& block, const std::string& why);
+    void AddRecord(uint32_t offset, const std::string& block, const std::string& reason);
     std::string BlockOf(const Graphic& graphic) const;
 
     const Drawing& drawing_;

@@ -170,7 +170,7 @@ void StructureExport::ReportBlockingReferences() {
             if (block.begin == offset) what = OmittedObjects::NameOfBlock(HostName(block.name));
         for (const dxf::Layer& layer : drawing_.source->known.layers)
             if (layer.declared && layer.offset == offset) what = OmittedObjects::NameOfLayer(HostName(layer.name));
-        what.empty() ? omitted_.AddRemoved(offset, blocking.why) : omitted_.Add(what, blocking.why);
+        what.empty() ? omitted_.AddRemoved(offset, blocking.reason) : omitted_.Add(what, blocking.reason);
     }
 }
 

@@ -24,7 +24,7 @@ public:
     void Run();
     struct BlockingReference {
         size_t objectOffset; // of the record that cannot be removed
-        std::string why;     // for example "GROUP 2F (line 1024) refers to it"
+        std::string reason;  // for example "GROUP 2F (line 1024) refers to it"
     };
     const std::vector<BlockingReference>& BlockingReferences() const { return blocking_; }
 
