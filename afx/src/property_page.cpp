@@ -40,7 +40,7 @@ void CPropertyPage::OnOK() {}
 
 void CPropertyPage::OnCancel() {}
 
-// Does not handle keys of the dialog itself, since the sheet knows the default button and the other pages.
+// Does not handle keys of the dialog itself, because the sheet manages the default button and the other pages.
 BOOL CPropertyPage::PreTranslateMessage(MSG* pMsg) {
     return CWnd::PreTranslateMessage(pMsg);
 }

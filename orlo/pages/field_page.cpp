@@ -64,8 +64,8 @@ constexpr RowRule kRowRules[] = {
     {[](const FieldRow& row) { return row.kind == FieldKind::Button && !row.press; }, "the button does nothing"},
 };
 
-[[noreturn]] void ThrowRowError(size_t index, const FieldRow& row, const std::string& why) {
-    throw std::invalid_argument("row " + std::to_string(index) + " (\"" + row.label + "\"): " + why);
+[[noreturn]] void ThrowRowError(size_t index, const FieldRow& row, const std::string& reason) {
+    throw std::invalid_argument("row " + std::to_string(index) + " (\"" + row.label + "\"): " + reason);
 }
 
 const FieldTable& RequireValid(unsigned int page, const FieldTable& table) {

@@ -73,7 +73,7 @@ CGeneralPage::CGeneralPage() : CGraphicPropertyPage(kTemplate, 0), m_nLayer(1), 
 
 BOOL CGeneralPage::OnInitDialog() {
     CGraphicPropertyPage::OnInitDialog();
-    // The template gives the layer list no tab stop.
+    // In the template, the layer list is not a tab stop.
     const HWND layers = ::GetDlgItem(m_hWnd, IDC_LAYER);
     ::SetWindowLongPtrA(layers, GWL_STYLE, ::GetWindowLongPtrA(layers, GWL_STYLE) | WS_TABSTOP);
     if (!HasStylePart()) {

@@ -1,4 +1,4 @@
-// Settings that the viewer remembers, and parts of the window that the user sizes.
+// Settings that the viewer stores, and parts of the window that the user sizes.
 
 #include <commctrl.h>
 

@@ -41,13 +41,13 @@ protected:
         replacement.Write(bytes);
         replacement.Commit();
     }
-    void ExpectRejected(const fs::path& file, const std::string& why) const {
+    void ExpectRejected(const fs::path& file, const std::string& reason) const {
         const auto before = Count();
         try {
             Replace(file, "new");
             ADD_FAILURE() << file << " was replaced";
         } catch (const files::FileError& error) {
-            EXPECT_EQ(std::string(error.what()).find(why), 0u) << error.what();
+            EXPECT_EQ(std::string(error.what()).find(reason), 0u) << error.what();
         }
         EXPECT_EQ(Count(), before);
     }

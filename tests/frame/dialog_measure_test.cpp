@@ -47,7 +47,7 @@ INT_PTR CALLBACK HandlesNothing(HWND, UINT, WPARAM, LPARAM) {
     return FALSE;
 }
 
-// Returns the size that the system gives to a dialog with that font in bold, in which pages are measured.
+// Returns the size of a dialog that the system creates with that font in bold, in which pages are measured.
 CSize SizeOfDialog(const Font& font, int width, int height) {
     Template dialog;
     dialog.Add({1, 0xFFFF});

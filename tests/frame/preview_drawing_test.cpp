@@ -155,7 +155,7 @@ TEST_F(PreviewDrawing, IsRepaintedAtOnceOnlyIfTheCallerWishesIt) {
     });
 }
 
-// A database may compute its graphics and extents only when asked to.
+// A database may compute its graphics and extents only on request.
 TEST_F(PreviewDrawing, CallsTheHostInOrder) {
     Run([&](SheetDriver& user) {
         user.SelectPage(1);

@@ -1,4 +1,4 @@
-// Random edits of every field on every page: type or select, undo, apply, leave and return. Afterwards each graphic
+// Random edits of every field on every page: type or select, undo, apply, leave and return. Afterward each graphic
 // has, bit for bit, its original value or the host's value for the text.
 
 #include <gtest/gtest.h>

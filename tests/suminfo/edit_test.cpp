@@ -63,10 +63,10 @@ void ExpectDone(const std::vector<std::string>& arguments) {
     EXPECT_EQ(run.out + run.err, "");
 }
 
-void ExpectRejected(const std::vector<std::string>& arguments, const std::string& why) {
+void ExpectRejected(const std::vector<std::string>& arguments, const std::string& reason) {
     const Outcome run = RunSuminfo(arguments);
     EXPECT_EQ(run.exitCode, 1);
-    EXPECT_NE(run.err.find(why), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find(reason), std::string::npos) << run.err;
 }
 
 class Edit : public testing::Test {

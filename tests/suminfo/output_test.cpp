@@ -39,14 +39,14 @@ TEST(Thumbnail, MissingOrDamagedThumbnailKeepsTheOldPicture) {
     std::ofstream(png) << "old";
     const struct {
         const char* file;
-        const char* why;
+        const char* reason;
     } rows[] = {{"test11--695187.doc", "the document has no thumbnail"},
                 {"sent--da96eb.msg", "the document has no summary"},
                 {"clusterfuzz-testcase-minimized-POIHSLFFu--efffb2.ppt", ""}};
     for (const auto& row : rows) {
         const Outcome run = RunSuminfo({"thumbnail", (kDocuments / row.file).string(), png.string()});
         EXPECT_EQ(run.exitCode, 1);
-        EXPECT_NE(run.err.find(row.why), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find(row.reason), std::string::npos) << run.err;
     }
     EXPECT_EQ(FileBytes(png), (std::vector<unsigned char>{'o', 'l', 'd'}));
 }
@@ -120,7 +120,7 @@ TEST(Check, BareStreams) {
 TEST(CommandLine, InvalidOnesExitWithTwo) {
     const struct {
         std::vector<std::string> line;
-        const char* why;
+        const char* reason;
     } rows[] = {
         {{}, ""},
         {{"shov", "x.doc"}, "unknown command 'shov'; see suminfo --help\n"},
@@ -147,7 +147,7 @@ TEST(CommandLine, InvalidOnesExitWithTwo) {
     for (const auto& row : rows) {
         const Outcome run = RunSuminfo(row.line);
         EXPECT_EQ(run.exitCode, 2) << testing::PrintToString(row.line);
-        EXPECT_EQ(run.err.rfind(std::string("suminfo: ") + row.why, 0), 0u) << run.err;
+        EXPECT_EQ(run.err.rfind(std::string("suminfo: ") + row.reason, 0), 0u) << run.err;
         EXPECT_GT(run.err.size(), 12u);
     }
 }

@@ -382,8 +382,8 @@ TEST_F(Wizard, UsesTheSizeThatAPageSetsItself) {
     steps[0]->grows = CSize(0, 20);
     steps[2]->grows = CSize(40, 30);
     Run(*wizard, [&](SheetDriver& user) {
-        const auto expect = [&](int width, int height, const char* why) {
-            SCOPED_TRACE(why);
+        const auto expect = [&](int width, int height, const char* reason) {
+            SCOPED_TRACE(reason);
             CRect client;
             ::GetClientRect(user.Sheet(), client);
             const CRect page = Place(user, user.Page()), back = Place(user, ::GetDlgItem(user.Sheet(), kBack));

@@ -47,7 +47,7 @@ Report Show(const Source& source, ReportForm form);
 // Returns the line of headings, which is printed first, or an empty string for formats without one.
 std::string HeadingsOf(ReportForm form);
 // Returns the line that replaces the report of a file that failed, or an empty string for tables.
-std::string FailureLine(const std::string& file, const std::string& why, ReportForm form);
+std::string FailureLine(const std::string& file, const std::string& reason, ReportForm form);
 // Returns the value of a field or, if the field is empty, of the custom property: a text unchanged, other values in the
 // format of tables.
 std::string ValueOf(const Source& source, const std::string& field, const std::string& customName);

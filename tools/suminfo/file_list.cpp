@@ -132,7 +132,7 @@ private:
         }
     }
 
-    void Miss(const std::string& path, const char* why) { list_.unreadable.push_back({path, why}); }
+    void Miss(const std::string& path, const char* reason) { list_.unreadable.push_back({path, reason}); }
 
     bool IsNew(const std::string& path) {
         const std::optional<FileIdentity> identity = IdentityOf(path);

@@ -8,7 +8,7 @@ namespace suminfo {
 
 struct FileList {
     struct Unreadable {
-        std::string name, why;
+        std::string name, reason;
     };
 
     std::vector<std::string> files;

@@ -31,10 +31,10 @@ class FailureReport {
 public:
     FailureReport(ReportForm form, cli::Progress& progress) : form_(form), progress_(progress) {}
 
-    void Add(const std::string& file, const std::string& why) {
+    void Add(const std::string& file, const std::string& reason) {
         progress_.Hide();
-        Print(stderr, "suminfo: " + cli::OneLine(file) + ": " + why + "\n");
-        Print(stdout, FailureLine(file, why, form_));
+        Print(stderr, "suminfo: " + cli::OneLine(file) + ": " + reason + "\n");
+        Print(stdout, FailureLine(file, reason, form_));
     }
 
     // Returns false if the work failed.
@@ -101,7 +101,7 @@ int Run(const std::vector<std::string>& arguments) {
     FailureReport failures(line.form, progress);
     Print(stdout, HeadingsOf(line.form));
     for (const FileList::Unreadable& unreadable : list.unreadable)
-        failures.Add(unreadable.name, unreadable.why);
+        failures.Add(unreadable.name, unreadable.reason);
     const bool hasTables = line.command == Command::show && line.form == ReportForm::table;
     bool isClean = list.unreadable.empty(), isFirst = true;
     for (const std::string& file : list.files) {

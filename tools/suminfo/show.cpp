@@ -129,8 +129,8 @@ std::string PropertyValue(const orlo::ImageSection& section, const orlo::ImagePr
 Report ShowCsv(const Source& source) {
     Report report;
     const SourceSets sets = SetsOf(source);
-    const auto addError = [&](const std::string& stream, const std::string& why) {
-        report.text += cli::CsvLine({source.file, stream, "", "", "", why});
+    const auto addError = [&](const std::string& stream, const std::string& reason) {
+        report.text += cli::CsvLine({source.file, stream, "", "", "", reason});
         report.clean = false;
     };
     for (const std::string& damage : sets.damage)
@@ -185,12 +185,12 @@ std::string HeadingsOf(ReportForm form) {
     return form == ReportForm::csv ? cli::CsvLine({"file", "stream", "section", "property", "value", "error"}) : "";
 }
 
-std::string FailureLine(const std::string& file, const std::string& why, ReportForm form) {
+std::string FailureLine(const std::string& file, const std::string& reason, ReportForm form) {
     switch (form) {
     case ReportForm::json:
-        return JsonLine({{"file", file}, {"error", why}});
+        return JsonLine({{"file", file}, {"error", reason}});
     case ReportForm::csv:
-        return cli::CsvLine({file, "", "", "", "", why});
+        return cli::CsvLine({file, "", "", "", "", reason});
     default:
         return "";
     }
