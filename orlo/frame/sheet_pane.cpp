@@ -113,6 +113,15 @@ bool SetFocusWithin(CGraphicPropertySheet& sheet, const Focus& focus) {
     return true;
 }
 
+// Returns the focus to the window that had it, or to the control of the new sheet that corresponds to it.
+void RestoreFocus(CSheetPane& pane, CGraphicPropertySheet* sheet, HWND before, const std::optional<Focus>& within) {
+    if (within && sheet != nullptr) {
+        if (!SetFocusWithin(*sheet, *within)) pane.TakeFocus();
+    } else if (before != ::GetFocus()) {
+        ::SetFocus(::IsWindow(before) ? before : ::GetParent(pane.m_hWnd));
+    }
+}
+
 } // namespace
 
 IMPLEMENT_DYNAMIC(CSheetPane, CWnd)
@@ -231,11 +240,7 @@ void CSheetPane::Renew() {
     m_emptyText.ShowWindow(any ? SW_HIDE : SW_SHOWNA);
     SendMessage(WM_SETREDRAW, TRUE);
     ::RedrawWindow(m_hWnd, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-    if (within && any) {
-        if (!SetFocusWithin(*m_sheet, *within)) TakeFocus();
-    } else if (focus != ::GetFocus()) {
-        ::SetFocus(::IsWindow(focus) ? focus : ::GetParent(m_hWnd));
-    }
+    RestoreFocus(*this, any ? m_sheet : nullptr, focus, within);
 }
 
 // A page that a sheet opened on because it lacks the last one is not remembered.
