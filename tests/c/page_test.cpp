@@ -395,14 +395,16 @@ TEST_F(CSheetWindow, CanBeClosedByTheUserAndShownAgain) {
     EXPECT_EQ(closed, 2);
 }
 
+int asked;
+
+LRESULT CALLBACK CountHelp(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != kOrloHelpMessage) return ::DefWindowProcA(window, message, wParam, lParam);
+    return ++asked;
+}
+
 TEST_F(CSheetWindow, TheOwnerIsAskedForHelp) {
-    static int asked;
     asked = 0;
-    const auto procedure = [](HWND self, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        if (message != kOrloHelpMessage) return ::DefWindowProcA(self, message, wParam, lParam);
-        return ++asked;
-    };
-    ::SetWindowLongPtrA(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(procedure)));
+    ::SetWindowLongPtrA(owner, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(CountHelp));
     user.Click(::GetDlgItem(Sheet(), ID_HELP));
     EXPECT_EQ(asked, 1) << "the modeless sheet";
     int32_t code = 0;
