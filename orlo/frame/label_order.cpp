@@ -16,10 +16,13 @@ constexpr LONG kReachAcross = 30, kReachDown = 12; // maximum distance from a la
 
 enum class Role { Other, Field, Text, GroupBox };
 
+bool IsGroupBox(const TemplateControl& control) {
+    return control.IsOfClass(L"Button") && (control.style & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
 Role RoleOf(const TemplateControl& control) {
     if (control.IsOfClass(L"Static")) return control.hasText ? Role::Text : Role::Other;
-    if (control.IsOfClass(L"Button"))
-        return (control.style & BS_TYPEMASK) == BS_GROUPBOX && control.hasText ? Role::GroupBox : Role::Other;
+    if (control.IsOfClass(L"Button")) return IsGroupBox(control) && control.hasText ? Role::GroupBox : Role::Other;
     static constexpr const wchar_t* kWithoutInput[] = {L"ScrollBar", L"msctls_updown32", L"msctls_progress32"};
     const auto isOf = [&](const wchar_t* name) { return control.IsOfClass(name); };
     return std::any_of(std::begin(kWithoutInput), std::end(kWithoutInput), isOf) ? Role::Other : Role::Field;
@@ -86,8 +89,7 @@ void OrderLabels(std::vector<BYTE>& dialog) {
     std::optional<DialogControls> read = DialogControls::Read(dialog);
     if (!read) return;
     for (TemplateControl& control : read->controls)
-        if (const Role role = RoleOf(control); control.IsOfClass(L"Static") || role == Role::GroupBox)
-            control.style &= ~DWORD{WS_TABSTOP};
+        if (control.IsOfClass(L"Static") || IsGroupBox(control)) control.style &= ~DWORD{WS_TABSTOP};
     MoveLabels(read->controls);
     dialog = read->Template();
 }

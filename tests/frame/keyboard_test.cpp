@@ -111,7 +111,8 @@ TEST(FittedControls, AreThoseOfAPageThatRequestsIt) {
             ::GetWindowRect(user.Control(kEdit), &field);
             ::MapDialogRect(user.Page(), &units);
             EXPECT_EQ(wished, field.right - field.left < units.right);
-            EXPECT_EQ(wished, !(::GetWindowLongPtrA(user.Control(kLabel), GWL_STYLE) & WS_TABSTOP));
+            for (const int label : {int{kLabel}, 143})
+                EXPECT_EQ(wished, !(::GetWindowLongPtrA(user.Control(label), GWL_STYLE) & WS_TABSTOP)) << label;
             RECT group, box;
             ::GetWindowRect(user.Control(140), &group);
             ::GetWindowRect(user.Control(141), &box);
@@ -142,6 +143,19 @@ TEST(FittedControls, KeepTheirGroupsWhenALabelMovesToItsField) {
             ExpectLabelBeforeFieldInGroup(page);
             ::SetProcessDefaultLayout(0);
         }
+}
+
+TEST(FittedControls, DoNotTakeTheLabelsOfOthers) {
+    GraphicKit kit;
+    TestSheet sheet(kit);
+    sheet.Add([](CDataExchange*) {}, kLabelsPage).FitControls();
+    sheet.Run([&](SheetDriver& user) {
+        const auto before = [&](int id) { return ::GetDlgCtrlID(::GetWindow(user.Control(id), GW_HWNDPREV)); };
+        constexpr int kComboLabel = 132, kArrows = 144;
+        EXPECT_EQ(before(kCombo), kComboLabel);
+        EXPECT_EQ(before(kEdit), kLabel);
+        EXPECT_EQ(before(kArrows), kEdit);
+    });
 }
 
 // Returns the number of pixels in the color of texts.

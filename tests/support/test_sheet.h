@@ -17,6 +17,7 @@ enum TestPageControl : int {
     kLargePage = 503,     // the size of the test page in a larger font
     kGroupPage = 504,     // a field within a group of radio buttons, with a label that starts the next group
     kExtendedPage = 505,  // the same in the extended format of templates
+    kLabelsPage = 506,    // a label beside the list of a combo box, and arrows beside a field
     kEdit = 101,
     kOtherEdit = 102,
     kCheck = 103,
