@@ -433,7 +433,7 @@ TEST_F(CSheetWindow, StaysAsItIsWhileACallbackRuns) {
         EXPECT_EQ(OrloSheetApply(handle), kOrloBusy);
         EXPECT_EQ(OrloSheetReset(handle), kOrloBusy);
         ::SendMessageA(window, WM_CLOSE, 0, 0); // as from a message loop of the callback
-        user.Click(::GetDlgItem(window, kPaneReset));
+        user.Click(::GetDlgItem(Sheet(), kPaneReset));
         EXPECT_TRUE(::IsWindowVisible(window));
     };
     ShowRoom();
@@ -458,8 +458,8 @@ TEST_F(CSheetWindow, StaysOpenWhileItReportsInvalidInput) {
     user.InDialog([&] { EXPECT_EQ(OrloSheetFollow(handle, nullptr), kOrloInvalidInput); },
                   [&](HWND box) {
                       EXPECT_TRUE(::IsWindowEnabled(window));
-                      user.Click(::GetDlgItem(window, kPaneReset));
-                      user.Click(::GetDlgItem(window, kPaneClose));
+                      user.Click(::GetDlgItem(Sheet(), kPaneReset));
+                      user.Click(::GetDlgItem(Sheet(), kPaneClose));
                       user.Click(::GetDlgItem(box, IDOK));
                   });
     EXPECT_TRUE(::IsWindowVisible(window));
